@@ -1,0 +1,22 @@
+# Flags of every target. Results must be the same bytes at every optimisation level, so contraction and
+# reassociation stay off everywhere.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(vorlan_flags INTERFACE)
+target_include_directories(vorlan_flags INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_options(vorlan_flags INTERFACE -ffp-contract=off -fno-fast-math)
+target_compile_options(vorlan_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+  -Wnon-virtual-dtor -Woverloaded-virtual)
+target_compile_definitions(vorlan_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+  QT_NO_FOREACH)
+if(VORLAN_WERROR)
+  target_compile_options(vorlan_flags INTERFACE -Werror)
+endif()
+if(VORLAN_SANITIZE)
+  # Lanes of the kernels are built with the sanitizers too: they are what reads past an end first.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

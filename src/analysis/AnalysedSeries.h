@@ -1,0 +1,14 @@
+#pragma once
+
+#include "model/SAdvProbe.h"
+
+namespace vorlan {
+
+/// Fills seriesU, seriesV and seriesW with the working samples that count (integers copied, resolution taken from the
+/// working columns) and gives them the probe's sampling interval. The three always have one length.
+void formAnalysedSeries(SAdvProbe& probe);
+
+/// The values of column that count by the probe's marks, in index order.
+std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column);
+
+}  // namespace vorlan

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace vorlan {
+
+/// A run that the user cancelled. Whoever started it drops its copy: nothing half-done remains.
+class Cancelled : public std::exception {
+  public:
+    const char* what() const noexcept override { return "Cancelled"; }
+};
+
+/// What a long calculation tells, and how it learns that nobody wants its result any more. The window, the console
+/// and the tests implement it.
+class Progress {
+  public:
+    virtual ~Progress() = default;
+    /// The name of the calculation that runs now.
+    virtual void status(const std::string& text) = 0;
+    /// Per cent of the whole command, 0..100.
+    virtual void position(int percent) = 0;
+    /// Called between blocks of work (at least after each lag or frequency of a plain loop). Throws Cancelled when
+    /// the run is not wanted any more.
+    virtual void breathe() = 0;
+};
+
+/// Tells nobody, runs to the end.
+class NoProgress : public Progress {
+  public:
+    void status(const std::string&) override {}
+    void position(int) override {}
+    void breathe() override {}
+};
+
+}  // namespace vorlan

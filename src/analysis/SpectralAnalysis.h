@@ -1,0 +1,27 @@
+#pragma once
+
+#include "analysis/Progress.h"
+#include "model/SAdvProbe.h"
+
+namespace vorlan {
+
+/// Parameters of one spectral analysis, as the probe records them.
+struct SpectralRun {
+    int lags = 0;          ///< truncation point M
+    int windowCode = 0;    ///< 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen
+    int unitSelector = 0;  ///< 0 Hz, 1 rad/s
+};
+
+inline constexpr const char* kTruncationTooLarge =
+    "Truncation point too large ! This value exceed of half time series length.";
+
+/// True when M does not exceed half the series, in integers.
+bool truncationPointFits(int lags, int samples);
+
+/// Moments, correlation function (1e-5), spectrum (1e-7; negative stored integers become positive) and structure
+/// function (1e-5) of U, V, W. The analysed series must have been formed and the truncation point checked. Records
+/// the run in probe and series and sets the stage's mark. Progress positions 5, 15, 25, 35 for U, 40..70 for V,
+/// 75..100 for W.
+void analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress);
+
+}  // namespace vorlan

@@ -1,0 +1,118 @@
+#include "model/Archive.h"
+
+#include <bit>
+#include <cstring>
+
+namespace vorlan {
+
+static_assert(std::endian::native == std::endian::little, "the archive moves values as they lie in memory");
+
+Archive Archive::loading(std::span<const std::byte> bytes) {
+    return Archive(true, bytes);
+}
+
+Archive Archive::storing() {
+    return Archive(false, {});
+}
+
+void Archive::requireLoading() const {
+    if (!loading_) {
+        throw WrongModeError(offset());
+    }
+}
+
+void Archive::requireStoring() const {
+    if (loading_) {
+        throw WrongModeError(offset());
+    }
+}
+
+void Archive::plain(void* bytes, std::size_t size) {
+    if (loading_) {
+        if (remaining() < size) {
+            throw EndOfFileError(position_);
+        }
+        if (size > 0) {
+            std::memcpy(bytes, input_.data() + position_, size);
+        }
+        position_ += size;
+    } else {
+        const auto* first = static_cast<const std::byte*>(bytes);
+        buffer_.insert(buffer_.end(), first, first + size);
+    }
+}
+
+void Archive::value(std::string& text) {
+    const std::size_t at = offset();
+    std::uint8_t length8 = static_cast<std::uint8_t>(text.size() < 0xFF ? text.size() : 0xFF);
+    value(length8);
+    std::size_t length = length8;
+    if (length8 == 0xFF) {
+        std::uint16_t length16 = static_cast<std::uint16_t>(text.size() < 0xFFFE ? text.size() : 0xFFFF);
+        value(length16);
+        length = length16;
+        if (length16 == 0xFFFE) {
+            throw FormatError("Invalid text length", at);
+        }
+        if (length16 == 0xFFFF) {
+            std::uint32_t length32 = static_cast<std::uint32_t>(text.size());
+            value(length32);
+            length = length32;
+        }
+    }
+    if (loading_) {
+        text.resize(checked(length, 1, at));
+    }
+    plain(text.data(), text.size());
+}
+
+void Archive::code(std::uint32_t& v, std::uint32_t last) {
+    std::uint32_t word = v;
+    value(word);
+    if (word <= last) {
+        v = word;
+    }
+}
+
+std::size_t Archive::checked(std::size_t count, std::size_t minimumBytes, std::size_t at) const {
+    if (count > remaining() / minimumBytes) {
+        throw EndOfFileError(at);
+    }
+    return count;
+}
+
+std::size_t Archive::count(std::size_t size, std::size_t minimumBytes) {
+    const std::size_t at = offset();
+    std::int32_t word = static_cast<std::int32_t>(size);
+    value(word);
+    if (!loading_) {
+        return size;
+    }
+    return word < 1 ? 0 : checked(static_cast<std::size_t>(word), minimumBytes, at);
+}
+
+std::size_t Archive::shortCount(std::size_t size, std::size_t minimumBytes) {
+    const std::size_t at = offset();
+    std::uint16_t word16 = static_cast<std::uint16_t>(size < 0xFFFF ? size : 0xFFFF);
+    value(word16);
+    std::uint32_t word = word16;
+    if (word16 == 0xFFFF) {
+        word = static_cast<std::uint32_t>(size);
+        value(word);
+    }
+    return loading_ ? checked(word, minimumBytes, at) : size;
+}
+
+std::vector<std::byte> Archive::takeRest() {
+    requireLoading();
+    const auto rest = input_.subspan(position_);
+    position_ = input_.size();
+    return {rest.begin(), rest.end()};
+}
+
+void Archive::append(std::span<const std::byte> bytes) {
+    requireStoring();
+    buffer_.insert(buffer_.end(), bytes.begin(), bytes.end());
+}
+
+}  // namespace vorlan

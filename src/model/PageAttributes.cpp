@@ -1,0 +1,53 @@
+#include "model/PageAttributes.h"
+
+#include <array>
+
+#include "model/Archive.h"
+
+namespace vorlan {
+
+namespace {
+constexpr std::size_t kSmallestPage = 5 * sizeof(std::int32_t) + 2 + 14 * sizeof(double);
+
+void serializeSize(Archive& archive, PagePaneSize& size) {
+    archive.value(size.height);
+    archive.value(size.width);
+}
+}  // namespace
+
+void PageAtrType::Serialize(Archive& archive) {
+    for (std::int32_t* v : {&printLeftBottom, &printLeftTop, &printRightBottom, &printRightTop}) {
+        archive.value(*v);
+    }
+    archive.value(footer);
+    archive.value(header);
+    archive.value(innerMargin);
+    serializeSize(archive, leftBottom);
+    archive.value(leftMargin);
+    serializeSize(archive, leftTop);
+    serializeSize(archive, rightBottom);
+    archive.value(rightMargin);
+    serializeSize(archive, rightTop);
+    archive.value(fontScale);
+    archive.value(topMargin);
+    archive.value(bottomMargin);
+    archive.value(layout);
+}
+
+void SPageAtrArray::Serialize(Archive& archive) {
+    const std::size_t count = archive.shortCount(items().size(), kSmallestPage);
+    if (archive.isLoading()) {
+        items().resize(items().size() + count);
+    }
+    for (std::size_t i = items().size() - count; i < items().size(); ++i) {
+        items()[i].Serialize(archive);
+    }
+}
+
+int pageRecordOfStageCode(int choiceA) {
+    // The last three are reversed in every workspace's page block.
+    constexpr std::array<int, 8> records = {0, 0, 1, 2, 3, 6, 5, 4};
+    return choiceA >= 0 && choiceA < 8 ? records[static_cast<std::size_t>(choiceA)] : 0;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,127 @@
+#include "model/SAdvProbe.h"
+
+#include <algorithm>
+
+#include "model/Archive.h"
+
+namespace vorlan {
+
+namespace {
+
+// The fixed fields and the counts of every empty container of a stored probe.
+constexpr std::size_t kSmallestProbe = 1000;
+
+template <class T, std::size_t N>
+void serializeWords(Archive& archive, std::array<T, N>& words) {
+    archive.raw(words.data(), sizeof(T) * N);
+}
+
+}  // namespace
+
+SAdvProbe::SAdvProbe() = default;
+
+void SAdvProbe::Serialize(Archive& archive) {
+    archive.value(probeNumber);
+    archive.value(samplingInterval);
+    archive.value(sampleCount);
+    archive.value(selectedTab);
+    archive.value(title);
+    serializeWords(archive, titleWords);
+    archive.value(zoomMode);
+    archive.value(stressesFormed);
+    archive.value(samplingVolumeX);
+    archive.value(samplingVolumeY);
+    archive.value(samplingVolumeZ);
+    archive.value(isProbe);
+    archive.value(flagD);
+    serializeWords(archive, statistics);
+    archive.value(spectralLags);
+    archive.code(spectralWindow, 3);
+    archive.code(spectralUnit, 1);
+    archive.value(bandMode);
+    archive.value(quadrantStress);
+    archive.value(optionWord);
+    serializeWords(archive, scalarResults);
+    serializeWords(archive, stageDone);
+    archive.value(coordinateSystem);
+    archive.value(useAllSamples);
+    serializeWords(archive, resultBlock);
+    // The pressure table is never stored.
+    for (std::size_t i = 0; i < kSampledPressure; ++i) {
+        sampledTables[i].Serialize(archive);
+    }
+    sampleFlags.Serialize(archive);
+    timeAxis.Serialize(archive);
+    for (SMultiArray& table : workTables) {
+        table.Serialize(archive);
+    }
+    resultTable.Serialize(archive);
+    for (SMultiArray& table : stageTables) {
+        table.Serialize(archive);
+    }
+    for (STimeSeries* series : {&seriesU, &seriesV, &seriesW, &seriesUV, &seriesUW, &seriesVW}) {
+        series->Serialize(archive);
+    }
+    tabItems.Serialize(archive);
+    for (SFrameAtrArray& frames : frameAttributes) {
+        frames.Serialize(archive);
+    }
+}
+
+bool SAdvProbe::IsChanged() const {
+    return std::any_of(stageDone.begin(), stageDone.end(), [](std::uint32_t mark) { return mark != 0; });
+}
+
+void SAdvProbe::Reset() {
+    workTables[kVelocities] = sampledTables[kVelocities];
+    workTables[kCorrelation] = sampledTables[kCorrelation];
+    workTables[kSignalToNoise] = sampledTables[kSignalToNoise];
+    // The sampled amplitudes have no working copy.
+    workTables[kWorkCompass] = sampledTables[kSampledCompass];
+    workTables[kWorkPressure] = sampledTables[kSampledPressure];
+    scalarResults[0] = 0.0;
+    const int samples = ColumnLength(sampledTables[kVelocities]);
+    if (sampleFlags.GetSize() < samples) {
+        sampleFlags.SetSize(samples);
+    }
+    std::fill_n(sampleFlags.begin(), samples, 1);
+}
+
+STimeSeries& SAdvProbe::Series(int kind) {
+    switch (kind) {
+        case 0:
+            return seriesU;
+        case 1:
+            return seriesV;
+        case 2:
+            return seriesW;
+        case 3:
+            return seriesUV;
+        case 4:
+            return seriesUW;
+        case 5:
+            return seriesVW;
+        default:
+            throw InvalidArgument();
+    }
+}
+
+const STimeSeries& SAdvProbe::Series(int kind) const {
+    return const_cast<SAdvProbe*>(this)->Series(kind);
+}
+
+void SAdvProbesArray::Serialize(Archive& archive) {
+    const std::size_t count = archive.count(items().size(), kSmallestProbe);
+    if (archive.isLoading()) {
+        items().reserve(items().size() + count);
+        for (std::size_t i = 0; i < count; ++i) {
+            items().emplace_back().Serialize(archive);
+        }
+    } else {
+        for (SAdvProbe& probe : items()) {
+            probe.Serialize(archive);
+        }
+    }
+}
+
+}  // namespace vorlan

@@ -1,0 +1,158 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "model/FrameAttributes.h"
+#include "model/PlainArrays.h"
+#include "model/SArray.h"
+#include "model/STabsArray.h"
+#include "model/STimeSeries.h"
+#include "model/Stages.h"
+
+namespace vorlan {
+
+/// One probe (burst): its sampled record, the working copy that pre-processing changes, and the results of every
+/// stage. Velocities in cm/s, times in s, angles in degrees, positions in mm.
+///
+/// A plain value: copies are deep, so a command works on a copy and writes it back only when it succeeded.
+class SAdvProbe : public SObject {
+  public:
+    static constexpr int kComponents = 3;
+
+    SAdvProbe();
+
+    const char* ClassName() const override { return "SAdvProbe"; }
+    void Serialize(Archive& archive) override;
+
+    /// True when any stage after pre-processing has results.
+    bool IsChanged() const;
+    bool IsDone(DoneMark mark) const { return stageDone[static_cast<std::size_t>(mark)] != 0; }
+    void SetDone(DoneMark mark, bool done = true) { stageDone[static_cast<std::size_t>(mark)] = done ? 1U : 0U; }
+
+    void SetSelectedTab(int index) { selectedTab = index; }
+
+    /// Brings the sampled record back into the working tables and sets every mark to 1.
+    void Reset();
+
+    /// Working samples: the length of the working U column, 0 without one.
+    int WorkingSamples() const { return ColumnLength(workTables[kVelocities]); }
+    /// Length of a table's first column, 0 without one.
+    static int ColumnLength(const SMultiArray& table) { return table.IsEmpty() ? 0 : table.GetAt(0).GetSize(); }
+
+    bool UsesAllSamples() const { return useAllSamples != 0; }
+    /// True when sample index enters the statistics: its mark is 1 or more, or all samples are used.
+    /// A sample beyond the marks counts only when all samples are used.
+    bool Counts(int index) const {
+        return UsesAllSamples() || (index < sampleFlags.GetSize() && sampleFlags.GetAt(index) >= 1);
+    }
+
+    /// Series by kind: 0..2 U, V, W; 3..5 u'v', u'w', v'w'.
+    STimeSeries& Series(int kind);
+    const STimeSeries& Series(int kind) const;
+
+    // Indexes of sampledTables and workTables.
+    static constexpr std::size_t kVelocities = 0;
+    static constexpr std::size_t kCorrelation = 1;
+    static constexpr std::size_t kSignalToNoise = 2;
+    static constexpr std::size_t kSampledAmplitudes = 3;
+    static constexpr std::size_t kSampledCompass = 4;
+    static constexpr std::size_t kSampledPressure = 5;
+    static constexpr std::size_t kWorkCompass = 3;
+    static constexpr std::size_t kWorkPressure = 4;
+    static constexpr std::size_t kStresses = 5;
+    static constexpr std::size_t kCrossForward = 6;
+    static constexpr std::size_t kCrossBackward = 7;
+    static constexpr std::size_t kCoSpectra = 8;
+    static constexpr std::size_t kQuadratureSpectra = 9;
+    // Indexes of stageTables.
+    static constexpr std::size_t kContributions = 0;
+    static constexpr std::size_t kTimes = 1;
+    static constexpr std::size_t kEjectionPattern = 2;
+    static constexpr std::size_t kSweepPattern = 3;
+    static constexpr std::size_t kPhase = 4;
+    static constexpr std::size_t kCoherence = 5;
+    // Slots of scalarResults.
+    static constexpr std::size_t kSampledMoments = 1;      ///< 3 means, 3 variances, 3 skewness values
+    static constexpr std::size_t kFluctuationMeans = 10;   ///< over all samples
+    static constexpr std::size_t kVelocityMoments = 13;    ///< 3 means, 3 variances, 3 skewness, 3 kurtosis values
+    // Slots of statistics.
+    static constexpr std::size_t kStressMoments = 0;       ///< 3 means, 3 variances, 3 skewness, 3 kurtosis values
+    static constexpr std::size_t kVelocityVariances = 12;  ///< over all samples
+    static constexpr std::size_t kMeanStresses = 15;
+    static constexpr std::size_t kQuadrantRun = 18;        ///< increment, maximum, maximum lag, reference mean stress
+    // Slots of resultBlock.
+    static constexpr std::size_t kDissipationRate = 0;
+    static constexpr std::size_t kTimeScales = 1;
+    static constexpr std::size_t kSpectrumIntegrals = 4;
+
+    /// Moments of velocity component 0..2 as the moment block holds them.
+    Moments VelocityMoments(int component) const { return MomentsAt(scalarResults.data() + kVelocityMoments, component); }
+    void SetVelocityMoments(int component, const Moments& m) {
+        PutMoments(scalarResults.data() + kVelocityMoments, component, m);
+    }
+    /// Moments of stress pair 0..2 (u'v', u'w', v'w').
+    Moments StressMoments(int pair) const { return MomentsAt(statistics.data() + kStressMoments, pair); }
+    void SetStressMoments(int pair, const Moments& m) { PutMoments(statistics.data() + kStressMoments, pair, m); }
+
+    std::uint32_t probeNumber = 1;
+    std::array<SMultiArray, 6> sampledTables;
+    SIntArray sampleFlags;
+    SArray timeAxis;
+    std::array<SMultiArray, 10> workTables;
+    std::uint32_t coordinateSystem = 1;  ///< 1 probe XYZ, 2 Earth ENU, 0 other
+    STimeSeries seriesU{STimeSeries::U};
+    STimeSeries seriesV{STimeSeries::V};
+    STimeSeries seriesW{STimeSeries::W};
+    STimeSeries seriesUV{STimeSeries::UV};
+    STimeSeries seriesUW{STimeSeries::UW};
+    STimeSeries seriesVW{STimeSeries::VW};
+    double samplingInterval = 0.0;  ///< seconds per sample
+    std::uint32_t sampleCount = 0;
+    STabsArray tabItems;
+    std::int32_t selectedTab = -1;  ///< tab index
+    std::array<SFrameAtrArray, 7> frameAttributes;
+    std::string title;  ///< the probe's caption
+    std::array<std::uint32_t, 2> titleWords{};
+    SMultiArray resultTable;
+    std::uint32_t zoomMode = 0;
+    std::uint32_t stressesFormed = 0;
+    double samplingVolumeX = 0.0;  ///< mm
+    double samplingVolumeY = 0.0;
+    double samplingVolumeZ = 0.0;
+    std::uint32_t isProbe = 1;  ///< 1 listed as "Probe %d", 0 as "Burst %d"
+    std::uint32_t flagD = 0;
+    std::array<double, 22> statistics{};
+    std::array<SMultiArray, 6> stageTables;
+    std::uint32_t spectralLags = 0;  ///< M of the last spectral analysis
+    std::uint32_t spectralWindow = 0;
+    std::uint32_t spectralUnit = 0;
+    std::uint32_t bandMode = 0;
+    std::uint32_t quadrantStress = 0;
+    std::uint32_t optionWord = 0;
+    std::array<double, 25> scalarResults{};
+    std::array<std::uint32_t, 6> stageDone{};
+    std::uint32_t useAllSamples = 1;
+    std::array<double, 7> resultBlock{};
+
+    friend bool operator==(const SAdvProbe&, const SAdvProbe&) = default;
+
+  private:
+    static Moments MomentsAt(const double* block, int i) { return {block[i], block[3 + i], block[6 + i], block[9 + i]}; }
+    static void PutMoments(double* block, int i, const Moments& m) {
+        block[i] = m.mean;
+        block[3 + i] = m.variance;
+        block[6 + i] = m.skewness;
+        block[9 + i] = m.kurtosis;
+    }
+};
+
+/// The probes of a data file.
+class SAdvProbesArray : public GrowArray<SAdvProbe> {
+  public:
+    const char* ClassName() const override { return "SAdvProbesArray"; }
+    void Serialize(Archive& archive) override;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,81 @@
+#include "model/SArray.h"
+
+#include <cstring>
+
+#include "model/Archive.h"
+
+namespace vorlan {
+
+namespace {
+constexpr std::size_t kSmallestColumn = sizeof(double) + sizeof(std::int32_t);
+}
+
+void SArray::Serialize(Archive& archive) {
+    archive.value(scale_);
+    const std::size_t count = archive.count(items().size(), sizeof(std::int32_t));
+    if (archive.isLoading()) {
+        const std::size_t held = items().size();
+        items().resize(held + count);
+        archive.raw(items().data() + held, count * sizeof(std::int32_t));
+    } else {
+        archive.raw(items().data(), count * sizeof(std::int32_t));
+    }
+}
+
+std::vector<double> SArray::Values() const {
+    std::vector<double> values;
+    values.reserve(items().size());
+    for (const std::int32_t n : items()) {
+        values.push_back(n * scale_);
+    }
+    return values;
+}
+
+void SArray::StoreValues(std::span<const double> values) {
+    items().resize(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        items()[i] = truncateToInt32(values[i] / scale_);
+    }
+}
+
+void SMultiArray::Serialize(Archive& archive) {
+    const std::size_t count = archive.count(items().size(), kSmallestColumn);
+    if (archive.isLoading()) {
+        items().reserve(items().size() + count);
+        for (std::size_t i = 0; i < count; ++i) {
+            items().emplace_back().Serialize(archive);
+        }
+    } else {
+        for (SArray& column : items()) {
+            column.Serialize(archive);
+        }
+    }
+}
+
+void SMultiArray::Reshape(int columns, double scale) {
+    RemoveAll();
+    for (int i = 0; i < columns; ++i) {
+        Add(SArray(scale));
+    }
+}
+
+bool SMultiArray::HasNoValues() const {
+    for (const SArray& column : items()) {
+        if (!column.IsEmpty()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void SSuperArray::Serialize(Archive& archive) {
+    const std::size_t count = archive.shortCount(items().size(), sizeof(std::int32_t));
+    if (archive.isLoading()) {
+        items().resize(items().size() + count);
+    }
+    for (std::size_t i = items().size() - count; i < items().size(); ++i) {
+        items()[i].Serialize(archive);
+    }
+}
+
+}  // namespace vorlan

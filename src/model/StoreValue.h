@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+namespace vorlan {
+
+/// The one conversion of a double into a stored integer: truncation toward zero. What a 32-bit integer cannot hold
+/// (NaN included) gives the most negative integer, as the processor's own conversion does.
+inline std::int32_t truncateToInt32(double v) {
+    if (!(v > -2147483649.0 && v < 2147483648.0)) {
+        return std::numeric_limits<std::int32_t>::min();
+    }
+    return static_cast<std::int32_t>(v);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/FrameAttributes.h"
+
+namespace vorlan {
+
+/// Geometry of a drawn diagram: pixel to value and back. Scale factors are data units per pixel on a linear axis and
+/// pixels per decade on a logarithmic one. The origin is the lower left corner of the plot area; y grows downward.
+class CScreenUtils {
+  public:
+    int originX = 0;
+    int originY = 0;
+    int width = 0;   ///< of the plot area, pixels
+    int height = 0;
+    double xMin = 0.0;
+    double xMax = 1.0;
+    double yMin = 0.0;
+    double yMax = 1.0;
+    double xScale = 1.0;
+    double yScale = 1.0;
+    ScaleType scaleType = ScaleType::Linear;
+
+    bool logX() const { return scaleType == ScaleType::Logarithmic || scaleType == ScaleType::LogXLinearY; }
+    bool logY() const { return scaleType == ScaleType::Logarithmic || scaleType == ScaleType::LinearXLogY; }
+    double xValue(int px) const;
+    double yValue(int py) const;
+    /// Screen pixels, truncated toward zero from the origin and clamped to what a painter bears.
+    int xPixel(double x) const;
+    int yPixel(double y) const;
+    bool contains(int px, int py) const;
+    bool overXRange(int px) const { return px >= originX && px <= originX + width; }
+};
+
+}  // namespace vorlan

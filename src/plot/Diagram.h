@@ -1,0 +1,81 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/FrameAttributes.h"
+#include "model/SeriesAttributes.h"
+
+namespace vorlan {
+
+/// Positions of a series' points: evenly spaced (no array is held) or one value per point.
+struct SeriesX {
+    double start = 0.0;
+    double step = 1.0;
+    std::vector<double> values;  ///< used instead of start and step when not empty
+
+    double at(std::size_t i) const { return values.empty() ? start + static_cast<double>(i) * step : values[i]; }
+};
+
+/// One data series: points in order and how they are drawn. A non-finite y breaks the line.
+/// Arrows (style 4) take their components from vx and vy; bars (style 3) need one edge more than bars.
+struct PlotSeries {
+    SeriesX x;
+    std::vector<double> y;
+    std::vector<double> vx;
+    std::vector<double> vy;
+    SeriesAtrType attributes;
+};
+
+/// The data of a diagram: its series, drawn in order.
+struct SPlot {
+    std::vector<PlotSeries> series;
+
+    bool hasPoints() const;
+};
+
+/// A complete diagram: the stored frame attributes and the data.
+struct Diagram {
+    FrameAttributesType frame;
+    SPlot plot;
+    /// Set for time series: the record's duration, s. The time axis then runs from the frame's lower limit to that
+    /// limit + duration unless the frame says that both ends come from the data.
+    std::optional<double> duration;
+    /// Scale types that the plot options may offer, in the dialog's order; the first is used when the frame holds
+    /// another one.
+    std::vector<ScaleType> allowedScales{ScaleType::Linear};
+    /// Text beside points of the data, in data units (names of the probes in a plan).
+    struct PointLabel {
+        double x;
+        double y;
+        std::string text;
+    };
+    std::vector<PointLabel> labels;
+};
+
+/// A ruled text table. The first header is that of the row titles. A row may have fewer values than there are columns.
+struct TableContent {
+    struct Row {
+        std::string title;
+        std::vector<double> values;
+    };
+    std::string title;
+    std::vector<std::string> headers;
+    std::vector<Row> rows;
+    std::string numberFormat = "%.2f";
+    FontDescription font;
+};
+
+/// Lines of text, top to bottom.
+struct TextPanel {
+    std::vector<std::string> lines;
+    FontDescription font;
+};
+
+/// One line in the middle of the pane that says why there is no diagram.
+struct PaneMessage {
+    std::string text;
+};
+
+}  // namespace vorlan
