@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/FrameAttributes.h"
+#include "plot/PixelScale.h"
 
 namespace vorlan {
 
@@ -10,7 +11,7 @@ class CScreenUtils {
   public:
     int originX = 0;
     int originY = 0;
-    int width = 0;   ///< of the plot area, pixels
+    int width = 0;  ///< of the plot area, pixels
     int height = 0;
     double xMin = 0.0;
     double xMax = 1.0;
@@ -22,11 +23,13 @@ class CScreenUtils {
 
     bool logX() const { return scaleType == ScaleType::Logarithmic || scaleType == ScaleType::LogXLinearY; }
     bool logY() const { return scaleType == ScaleType::Logarithmic || scaleType == ScaleType::LinearXLogY; }
-    double xValue(int px) const;
-    double yValue(int py) const;
+    PixelScale xPixels() const { return {xMin, xScale, logX()}; }
+    PixelScale yPixels() const { return {yMin, yScale, logY()}; }
+    double xValue(int px) const { return xPixels().value(px - originX); }
+    double yValue(int py) const { return yPixels().value(originY - py); }
     /// Screen pixels, truncated toward zero from the origin and clamped to what a painter bears.
-    int xPixel(double x) const;
-    int yPixel(double y) const;
+    int xPixel(double x) const { return originX + xPixels().offset(x); }
+    int yPixel(double y) const { return originY - yPixels().offset(y); }
     bool contains(int px, int py) const;
     bool overXRange(int px) const { return px >= originX && px <= originX + width; }
 };
