@@ -1,5 +1,7 @@
 #include "analysis/QuadrantSettings.h"
 
+#include "analysis/StressPairs.h"
+
 namespace vorlan {
 
 QuadrantSettings quadrantSettingsOf(const WorkspaceSettings& settings) {

@@ -6,9 +6,6 @@
 
 namespace vorlan {
 
-/// The pair of components whose stress is analysed.
-inline constexpr int kStressPairs = 3;
-
 /// What the dialog "Conditional Quadrants Analysis and Averaging" edits.
 struct QuadrantSettings {
     double increment = 0.2;          ///< step between hole sizes, in mean stresses

@@ -1,0 +1,131 @@
+#include "analysis/CrossSpectralAnalysis.h"
+
+#include <array>
+
+#include "analysis/CrossSpectralFunctions.h"
+#include "analysis/SpectralAnalysis.h"
+#include "analysis/StressPairs.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr double kResolution = 1e-7;
+
+using Functions = std::vector<std::vector<double>>;
+
+void store(SMultiArray& table, const Functions& functions) {
+    table.Reshape(static_cast<int>(functions.size()), kResolution);
+    for (int pair = 0; pair < table.GetSize(); ++pair) {
+        table.ElementAt(pair).StoreValues(functions[static_cast<std::size_t>(pair)]);
+    }
+}
+
+/// (forward + sign * backward) / 2 of every pair, as the resolution of the covariances holds it.
+Functions halfSums(const SMultiArray& forward, const SMultiArray& backward, double sign) {
+    Functions halves;
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        std::vector<double> half = forward.GetAt(pair).Values();
+        const std::vector<double> other = backward.GetAt(pair).Values();
+        for (std::size_t k = 0; k < half.size(); ++k) {
+            half[k] = (half[k] + sign * other[k]) * 0.5;
+        }
+        SArray stored(forward.GetAt(pair).GetScale());
+        stored.StoreValues(half);
+        halves.push_back(stored.Values());
+    }
+    return halves;
+}
+
+void computeCovariances(SAdvProbe& probe, int lags, Progress& progress) {
+    const auto fluctuations = workingFluctuations(probe);
+    Functions forward;
+    Functions backward;
+    for (const StressPair& pair : kStressPairComponents) {
+        const std::vector<double>& x = fluctuations[static_cast<std::size_t>(pair.first)];
+        const std::vector<double>& y = fluctuations[static_cast<std::size_t>(pair.second)];
+        forward.push_back(crossCovariance(x, y, lags, progress));
+        backward.push_back(crossCovariance(y, x, lags, progress));
+    }
+    store(probe.workTables[SAdvProbe::kCrossForward], forward);
+    store(probe.workTables[SAdvProbe::kCrossBackward], backward);
+}
+
+void computePhase(SAdvProbe& probe) {
+    Functions phases;
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        const std::vector<double> co = probe.workTables[SAdvProbe::kCoSpectra].GetAt(pair).Values();
+        const std::vector<double> quadrature = probe.workTables[SAdvProbe::kQuadratureSpectra].GetAt(pair).Values();
+        std::vector<double>& phase = phases.emplace_back();
+        for (std::size_t i = 0; i + 1 < co.size(); ++i) {
+            phase.push_back(crossPhase(co[i], quadrature[i]));
+        }
+    }
+    store(probe.stageTables[SAdvProbe::kPhase], phases);
+}
+
+void computeCoherence(SAdvProbe& probe) {
+    Functions coherences;
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        const StressPair& components = kStressPairComponents[static_cast<std::size_t>(pair)];
+        const std::vector<double> co = probe.workTables[SAdvProbe::kCoSpectra].GetAt(pair).Values();
+        const std::vector<double> quadrature = probe.workTables[SAdvProbe::kQuadratureSpectra].GetAt(pair).Values();
+        const SArray& spectrumX = probe.Series(components.first).spectrum;
+        const SArray& spectrumY = probe.Series(components.second).spectrum;
+        std::vector<double>& coherence = coherences.emplace_back();
+        for (std::size_t i = 0; i < quadrature.size(); ++i) {
+            const int index = static_cast<int>(i);
+            coherence.push_back(
+                squaredCoherence(co[i], quadrature[i], spectrumX.GetValue(index), spectrumY.GetValue(index)));
+        }
+    }
+    store(probe.stageTables[SAdvProbe::kCoherence], coherences);
+}
+
+}  // namespace
+
+std::string crossSpectralRefusal(const SAdvProbe& probe) {
+    const auto half = static_cast<std::uint32_t>(probe.WorkingSamples() / 2);
+    return probe.spectralLags > half ? kTruncationTooLarge : "";
+}
+
+void analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
+    if (!crossSpectralRefusal(probe).empty()) {
+        throw InvalidArgument();
+    }
+    progress.status(kCrossSpectralStatus);
+    progress.breathe();
+    for (const std::size_t table :
+         {SAdvProbe::kCrossForward, SAdvProbe::kCrossBackward, SAdvProbe::kCoSpectra, SAdvProbe::kQuadratureSpectra}) {
+        probe.workTables[table].RemoveAll();
+    }
+    probe.stageTables[SAdvProbe::kPhase].RemoveAll();
+    probe.stageTables[SAdvProbe::kCoherence].RemoveAll();
+    progress.breathe();
+
+    progress.position(5);
+    prepareStresses(probe);
+    computeCovariances(probe, static_cast<int>(probe.spectralLags), progress);
+
+    progress.position(30);
+    const SMultiArray& forward = probe.workTables[SAdvProbe::kCrossForward];
+    const SMultiArray& backward = probe.workTables[SAdvProbe::kCrossBackward];
+    const CrossSpectrumRun run{static_cast<int>(probe.spectralWindow), static_cast<int>(probe.spectralUnit),
+                               probe.samplingInterval};
+    store(probe.workTables[SAdvProbe::kCoSpectra], coSpectra(halfSums(forward, backward, 1.0), run, progress));
+
+    progress.position(50);
+    store(probe.workTables[SAdvProbe::kQuadratureSpectra],
+          quadratureSpectra(halfSums(forward, backward, -1.0), run, progress));
+
+    progress.position(80);
+    computePhase(probe);
+
+    progress.position(90);
+    computeCoherence(probe);
+
+    progress.position(100);
+    probe.SetDone(DoneMark::CrossSpectral);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "model/SAdvProbe.h"
+
+namespace vorlan {
+
+/// Velocity components (0..2) of a stress pair.
+struct StressPair {
+    int first;
+    int second;
+};
+
+inline constexpr int kStressPairs = 3;
+/// u'v', u'w', v'w'.
+inline constexpr std::array<StressPair, kStressPairs> kStressPairComponents = {{{0, 1}, {0, 2}, {1, 2}}};
+
+/// Working velocities less the probe's fluctuation means, cm/s; three empty series for a record without columns.
+/// InvalidArgument when V or W is shorter than U.
+std::array<std::vector<double>, SAdvProbe::kComponents> workingFluctuations(const SAdvProbe& probe);
+
+/// What every analysis of the stresses starts with: forms the stress series when the probe has none, all three in the
+/// resolution of U, and computes the variances and mean stresses anew. InvalidArgument when the stress series differ
+/// from the working record in length.
+void prepareStresses(SAdvProbe& probe);
+
+}  // namespace vorlan
