@@ -74,21 +74,23 @@ class SAdvProbe : public SObject {
     static constexpr std::size_t kPhase = 4;
     static constexpr std::size_t kCoherence = 5;
     // Slots of scalarResults.
-    static constexpr std::size_t kSampledMoments = 1;      ///< 3 means, 3 variances, 3 skewness values
-    static constexpr std::size_t kFluctuationMeans = 10;   ///< over all samples
-    static constexpr std::size_t kVelocityMoments = 13;    ///< 3 means, 3 variances, 3 skewness, 3 kurtosis values
+    static constexpr std::size_t kSampledMoments = 1;     ///< 3 means, 3 variances, 3 skewness values
+    static constexpr std::size_t kFluctuationMeans = 10;  ///< over all samples
+    static constexpr std::size_t kVelocityMoments = 13;   ///< 3 means, 3 variances, 3 skewness, 3 kurtosis values
     // Slots of statistics.
     static constexpr std::size_t kStressMoments = 0;       ///< 3 means, 3 variances, 3 skewness, 3 kurtosis values
     static constexpr std::size_t kVelocityVariances = 12;  ///< over all samples
     static constexpr std::size_t kMeanStresses = 15;
-    static constexpr std::size_t kQuadrantRun = 18;        ///< increment, maximum, maximum lag, reference mean stress
+    static constexpr std::size_t kQuadrantRun = 18;  ///< increment, maximum, maximum lag, reference mean stress
     // Slots of resultBlock.
     static constexpr std::size_t kDissipationRate = 0;
     static constexpr std::size_t kTimeScales = 1;
     static constexpr std::size_t kSpectrumIntegrals = 4;
 
     /// Moments of velocity component 0..2 as the moment block holds them.
-    Moments VelocityMoments(int component) const { return MomentsAt(scalarResults.data() + kVelocityMoments, component); }
+    Moments VelocityMoments(int component) const {
+        return MomentsAt(scalarResults.data() + kVelocityMoments, component);
+    }
     void SetVelocityMoments(int component, const Moments& m) {
         PutMoments(scalarResults.data() + kVelocityMoments, component, m);
     }
@@ -139,7 +141,9 @@ class SAdvProbe : public SObject {
     friend bool operator==(const SAdvProbe&, const SAdvProbe&) = default;
 
   private:
-    static Moments MomentsAt(const double* block, int i) { return {block[i], block[3 + i], block[6 + i], block[9 + i]}; }
+    static Moments MomentsAt(const double* block, int i) {
+        return {block[i], block[3 + i], block[6 + i], block[9 + i]};
+    }
     static void PutMoments(double* block, int i, const Moments& m) {
         block[i] = m.mean;
         block[3 + i] = m.variance;

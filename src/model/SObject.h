@@ -18,6 +18,9 @@ class SObject {
     SObject(SObject&&) = default;
     SObject& operator=(const SObject&) = default;
     SObject& operator=(SObject&&) = default;
+    /// No state of its own: lets derived classes default their comparison. Protected, so that two objects without a
+    /// comparison of their own are never taken for equal.
+    bool operator==(const SObject&) const { return true; }
 };
 
 }  // namespace vorlan

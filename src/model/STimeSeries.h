@@ -44,7 +44,7 @@ class STimeSeries : public SObject {
     SArray bandSkewness;
     SArray bandKurtosis;
     Moments moments;
-    std::uint32_t lags = 0;    ///< truncation point of the spectral functions
+    std::uint32_t lags = 0;  ///< truncation point of the spectral functions
     std::uint32_t bands = 0;
     std::uint32_t grades = 0;
     std::uint32_t windowCode = 0;    ///< 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen

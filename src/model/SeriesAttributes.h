@@ -14,15 +14,15 @@ enum class MarkerKind : int { Plus = 0, Circle = 1, Square = 2, Triangle = 3 };
 struct SeriesAtrType {
     SeriesStyle style = SeriesStyle::Line;
     MarkerKind markerKind = MarkerKind::Circle;
-    int markerSize = 5;              ///< pixels
-    std::int32_t colour = 0;         ///< red + 256 green + 65536 blue
-    int penWidth = 1;                ///< pixels
-    int penStyle = 0;                ///< 0 solid, 1 dashed, 2 dotted
-    double barGapPercent = 10.0;     ///< share of the grade width left free between bars; above 100 no bars
-    std::string legendText;          ///< no legend entry when empty
-    double arrowScale = 1.0;         ///< pixels per unit of the vector
-    int arrowHeadLength = 8;         ///< pixels
-    double arrowHeadAngle = 20.0;    ///< degrees between shaft and stroke
+    int markerSize = 5;            ///< pixels
+    std::int32_t colour = 0;       ///< red + 256 green + 65536 blue
+    int penWidth = 1;              ///< pixels
+    int penStyle = 0;              ///< 0 solid, 1 dashed, 2 dotted
+    double barGapPercent = 10.0;   ///< share of the grade width left free between bars; above 100 no bars
+    std::string legendText;        ///< no legend entry when empty
+    double arrowScale = 1.0;       ///< pixels per unit of the vector
+    int arrowHeadLength = 8;       ///< pixels
+    double arrowHeadAngle = 20.0;  ///< degrees between shaft and stroke
 };
 
 using SSeriesAtrArray = std::vector<SeriesAtrType>;

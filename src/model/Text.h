@@ -7,4 +7,7 @@ namespace vorlan {
 /// printf into a string. Numbers are written in the C locale: nothing in the program sets another LC_NUMERIC.
 [[gnu::format(printf, 1, 2)]] std::string formatted(const char* format, ...);
 
+/// A text of the model for display, UTF-8: its bytes as they are when they are valid UTF-8, else read as Windows-1252.
+std::string utf8Text(const std::string& bytes);
+
 }  // namespace vorlan

@@ -25,8 +25,8 @@ void Workspace::Serialize(Archive& archive) {
 
 void Workspace::SerializePages(Archive& archive) {
     if (archive.isStoring()) {
-        const bool changed = std::any_of(pages.begin(), pages.end(),
-                                         [](const PageAtrType& page) { return !(page == PageAtrType{}); });
+        const bool changed =
+            std::any_of(pages.begin(), pages.end(), [](const PageAtrType& page) { return !(page == PageAtrType{}); });
         // A tail that is no page block would be read as one if pages stood before it, so it comes first as it did.
         if (pagesLoaded_ || (changed && tail_.empty())) {
             pages.Serialize(archive);

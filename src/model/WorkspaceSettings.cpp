@@ -45,9 +45,9 @@ void WorkspaceSettings::Serialize(Archive& archive) {
     }
     archive.value(filterCutoff);
     archive.value(filterHalfWidth);
-    for (std::int32_t* v : {&filterType, &filterShape, &bandCount, &bandMode, &normalApproximation, &gradeCount,
-                            &barWidth, &lagCount, &truncationMode, &unitButton, &windowButton, &lagPercent,
-                            &lastTruncationPoint}) {
+    for (std::int32_t* v :
+         {&filterType, &filterShape, &bandCount, &bandMode, &normalApproximation, &gradeCount, &barWidth, &lagCount,
+          &truncationMode, &unitButton, &windowButton, &lagPercent, &lastTruncationPoint}) {
         archive.value(*v);
     }
     serializeCode(archive, lastWindowCode, 3, exchangedWindowCode);

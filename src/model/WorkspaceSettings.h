@@ -32,8 +32,8 @@ struct WorkspaceSettings {
     double averageSnr = 10.0;          ///< dB
     double minimumCorrelation = 70.0;
     double minimumSnr = 5.0;
-    double accelerationThreshold = 1.0;  ///< g
-    double velocityThreshold = 3.0;      ///< standard deviations
+    double accelerationThreshold = 1.0;     ///< g
+    double velocityThreshold = 3.0;         ///< standard deviations
     std::int32_t correlationStatistic = 0;  ///< 0 average, 1 minimum
     std::int32_t snrStatistic = 0;
     std::int32_t badSampleTreatment = 0;  ///< 0 interpolate, 1 remove
@@ -52,8 +52,8 @@ struct WorkspaceSettings {
     std::int32_t windowButton = 2;    ///< 0 rectangle, 1 Bartlett, 2 Tukey, 3 Parzen
     std::int32_t lagPercent = 10;
     std::int32_t lastTruncationPoint = 10;
-    int lastWindowCode = 0;       ///< choiceC: 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen
-    bool lastUnitIsRad = false;   ///< switchD
+    int lastWindowCode = 0;      ///< choiceC: 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen
+    bool lastUnitIsRad = false;  ///< switchD
     double holeIncrement = 0.2;
     double holeMaximum = 20.0;
     double ejectionThreshold = 1.0;
@@ -63,8 +63,8 @@ struct WorkspaceSettings {
     std::int32_t planPlane = 2;    ///< 0 XY, 1 XZ, 2 YZ
     std::int32_t planPixels = 50;  ///< an arrow of planSpeed cm/s is this long
     double planSpeed = 10.0;
-    double planSmaller = 5.0;       ///< minimum and maximum arrows are this much smaller
-    double userMeanVelocity = 10.0;  ///< cm/s
+    double planSmaller = 5.0;           ///< minimum and maximum arrows are this much smaller
+    double userMeanVelocity = 10.0;     ///< cm/s
     std::int32_t meanVelocityMode = 0;  ///< 0 averaged, 1 the user's
 
     /// 56 fields in their stored order. Coded fields out of range keep the value they have.

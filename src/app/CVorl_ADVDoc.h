@@ -1,0 +1,138 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "analysis/Progress.h"
+#include "analysis/Simulation.h"
+#include "analysis/SpectralSettings.h"
+#include "app/DocumentPort.h"
+#include "model/Workspace.h"
+
+namespace vorlan {
+
+/// How a command ended. Refused: it said why through the port. Cancelled: the user did not want it. In both cases the
+/// probe is bit for bit what it was.
+enum class Outcome { Done, Refused, Cancelled };
+
+/// What changed, for those who show it.
+enum class Change {
+    Workspace,  ///< everything: another workspace, a data file more or less
+    Selection,  ///< file, probe, stage or physical value
+    Content,    ///< results, attributes or parameters of what is selected
+    View,       ///< the active view only: nothing has to be drawn again
+};
+
+/// The convective velocity of Taylor's hypothesis.
+struct MeanVelocitySettings {
+    static constexpr double kMinimum = 0.005;
+    static constexpr double kMaximum = 1000.0;
+
+    int mode = 0;         ///< 0 averaged flow velocity, 1 the user's value
+    double value = 10.0;  ///< cm/s
+};
+
+/// The workspace document: the model, the selection, the parameters, and every command of the user. It knows no
+/// window; questions and progress go through its port, changes are told to one listener.
+///
+/// A command copies the active probe, works on the copy and writes it back at its end, so an error or a cancelled run
+/// leaves nothing half-done.
+class CVorl_ADVDoc {
+  public:
+    explicit CVorl_ADVDoc(DocumentPort& port) : port_(&port) {}
+
+    using Listener = std::function<void(Change)>;
+    void SetListener(Listener listener) { listener_ = std::move(listener); }
+
+    // The workspace as a whole.
+
+    const Workspace& GetWorkspace() const { return workspace_; }
+    const WorkspaceSettings& Settings() const { return workspace_.settings; }
+    const std::filesystem::path& GetPath() const { return path_; }
+    bool IsModified() const { return modified_; }
+    /// True while a calculation runs: no command may start.
+    bool IsRunning() const { return running_; }
+
+    void NewWorkspace();
+    /// Replaces the workspace only after complete success. Throws FileError.
+    void OpenWorkspace(const std::filesystem::path& path);
+    /// Throws FileError; the file at path is then what it was.
+    void SaveWorkspace(const std::filesystem::path& path);
+
+    // Selection. An index out of range (after loading) counts as no selection; the stored value stays.
+
+    int ActiveFile() const;
+    int ActiveProbe() const;
+    bool HasFile() const { return ActiveFile() >= 0; }
+    bool HasProbe() const { return ActiveProbe() >= 0; }
+    const SAdvFile& File() const;
+    const SAdvProbe& Probe() const;
+    /// Index of the tab to show: the document's when valid, else the probe's, else 0; -1 without tabs.
+    int ShownTab() const;
+    /// Stage shown in the panes, from the stage code; Pre-Processing while there is none.
+    Stage CurrentStage() const;
+    PhysicalValue CurrentValue() const;
+    Pane ActivePane() const;
+    bool ShowsTable() const { return workspace_.settings.displaySwitch == 1; }
+
+    /// Selects a data file and its first probe.
+    void SelectFile(int index);
+    /// Selects a probe of the active file and its stored tab.
+    void SelectProbe(int index);
+    /// The stage tab control's command.
+    void SelectStage(int tabIndex);
+    void SelectPhysicalValue(PhysicalValue value);
+    void SelectActivePane(Pane pane);
+    /// Table or diagram in the right bottom pane.
+    void ShowTable(bool on);
+    /// Compares selection and stage with those of the last test, and takes them over when anything differs.
+    bool TestSelectionChange();
+
+    // Commands.
+
+    Outcome CloseFile();
+    Outcome ResetTimeSeries();
+    Outcome SpectralAnalysis(const SpectralSettings& settings);
+    Outcome SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed);
+    Outcome SetMeanVelocity(const MeanVelocitySettings& settings);
+    MeanVelocitySettings GetMeanVelocity() const;
+    /// Appends a data file made elsewhere and selects it, without a probe.
+    void AppendFile(SAdvFile file);
+
+    /// The stored attributes of a diagram of the active probe, created from the defaults when there are none.
+    void SetFrame(int group, int record, const FrameAttributesType& frame);
+    /// The same for the plans that span all files.
+    void SetPlanFrame(int record, const FrameAttributesType& frame);
+
+    /// Mean velocity magnitude of the active probe's series, cm/s; nothing without a probe.
+    std::optional<double> AveragedVelocity() const;
+
+    /// For a caller that works through many probes: restores what the last line of a recipe found.
+    WorkspaceSettings& MutableSettings() { return workspace_.settings; }
+
+  private:
+    using ProbeOperation = std::function<Outcome(SAdvProbe& copy, Progress& progress)>;
+
+    SAdvProbe& ProbeForWriting();
+    /// Runs operation on a copy of the active probe and writes the copy back when it is done.
+    Outcome RunOnProbe(const ProbeOperation& operation, int progressOffset);
+    /// The question that every change of the working series ends with; OK repeats the done stages on the copy.
+    void ApplyChangeRule(SAdvProbe& copy, Progress& progress);
+    /// Appends the stage's tab to the active probe when it has none and makes the stage current.
+    void EnterStage(Stage stage);
+    void StoreStageOfTab(int tabIndex);
+    void SetModified() { modified_ = true; }
+    void Tell(Change change) const;
+
+    DocumentPort* port_;
+    Listener listener_;
+    Workspace workspace_;
+    std::filesystem::path path_;
+    bool modified_ = false;
+    bool running_ = false;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,218 @@
+#include "app/CommandState.h"
+
+#include <vector>
+
+namespace vorlan {
+
+namespace {
+
+/// What a command needs; each with the words for a user whose script asks for it too early.
+enum class Need {
+    DataFile,
+    Probe,
+    AllSamples,
+    PreProcessing,
+    SpectralStage,
+    StationarityDone,
+    HistogramsDone,
+    SpectralDone,
+    CrossSpectralDone,
+    QuadrantsDone,
+    TableStage,
+    DiagramInView,
+    SpectrumOrStructureInView,
+    CorrelationOrSpectrumInView,
+    SpectrumInView,
+    StructureInView,
+    NotYetOffered,
+};
+
+bool activePaneIsOneOf(const CVorl_ADVDoc& document, Pane a, Pane b) {
+    return document.ActivePane() == a || document.ActivePane() == b;
+}
+
+// The right bottom pane holds the table in stages with one; the vectors stage has text on its right side.
+bool diagramInView(const CVorl_ADVDoc& document) {
+    const Pane pane = document.ActivePane();
+    switch (document.CurrentStage()) {
+        case Stage::PreProcessing:
+        case Stage::Histograms:
+            return pane != Pane::RightBottom || !document.ShowsTable();
+        case Stage::Spectral:
+            return pane != Pane::RightBottom;
+        case Stage::MeanVelocityVectors:
+            return pane == Pane::LeftTop || pane == Pane::LeftBottom;
+        case Stage::Stationarity:
+        case Stage::Quadrants:
+        case Stage::CrossSpectral:
+            return true;
+    }
+    return false;
+}
+
+bool holds(const CVorl_ADVDoc& document, Need need) {
+    const auto done = [&](DoneMark mark) { return document.HasProbe() && document.Probe().IsDone(mark); };
+    switch (need) {
+        case Need::DataFile:
+            return document.HasFile();
+        case Need::Probe:
+            return document.HasProbe();
+        case Need::AllSamples:
+            return document.HasProbe() && document.Probe().UsesAllSamples();
+        case Need::PreProcessing:
+            return document.Settings().choiceA == 1;
+        case Need::SpectralStage:
+            return document.CurrentStage() == Stage::Spectral;
+        case Need::StationarityDone:
+            return done(DoneMark::Stationarity);
+        case Need::HistogramsDone:
+            return done(DoneMark::Histograms);
+        case Need::SpectralDone:
+            return done(DoneMark::Spectral);
+        case Need::CrossSpectralDone:
+            return done(DoneMark::CrossSpectral);
+        case Need::QuadrantsDone:
+            return done(DoneMark::Quadrants);
+        case Need::TableStage:
+            return document.CurrentStage() == Stage::PreProcessing || document.CurrentStage() == Stage::Histograms;
+        case Need::DiagramInView:
+            return diagramInView(document);
+        case Need::SpectrumOrStructureInView:
+            return activePaneIsOneOf(document, Pane::LeftBottom, Pane::RightTop);
+        case Need::CorrelationOrSpectrumInView:
+            return activePaneIsOneOf(document, Pane::LeftTop, Pane::LeftBottom);
+        case Need::SpectrumInView:
+            return document.ActivePane() == Pane::LeftBottom;
+        case Need::StructureInView:
+            return document.ActivePane() == Pane::RightTop;
+        case Need::NotYetOffered:
+            return false;
+    }
+    return false;
+}
+
+const char* wordsFor(Need need) {
+    switch (need) {
+        case Need::DataFile:
+            return "no data file is selected";
+        case Need::Probe:
+            return "no probe is selected";
+        case Need::AllSamples:
+            return "bad samples were removed from this probe: not all of its samples are used";
+        case Need::PreProcessing:
+            return "the stage \"Pre-Processing\" is not selected";
+        case Need::SpectralStage:
+            return "the stage \"Spectral Analysis\" is not selected";
+        case Need::StationarityDone:
+            return "this probe has no stationarity analysis yet";
+        case Need::HistogramsDone:
+            return "this probe has no histograms yet";
+        case Need::SpectralDone:
+            return "this probe has no spectral analysis yet";
+        case Need::CrossSpectralDone:
+            return "this probe has no cross-spectral analysis yet";
+        case Need::QuadrantsDone:
+            return "this probe has no quadrants analysis yet";
+        case Need::TableStage:
+            return "this stage has no table to switch";
+        case Need::DiagramInView:
+        case Need::SpectrumOrStructureInView:
+        case Need::CorrelationOrSpectrumInView:
+        case Need::SpectrumInView:
+        case Need::StructureInView:
+            return "the active view shows another diagram";
+        case Need::NotYetOffered:
+            return "this version does not offer it";
+    }
+    return "";
+}
+
+std::vector<Need> needsOf(Command command) {
+    switch (command) {
+        case Command::NewWorkspace:
+        case Command::OpenWorkspace:
+        case Command::SaveWorkspace:
+        case Command::SaveWorkspaceAs:
+        case Command::RecentWorkspace:
+        case Command::Exit:
+        case Command::SelectionToolbar:
+        case Command::SpectralToolbar:
+        case Command::StatusBar:
+        case Command::MeanVelocity:
+        case Command::SimulateTimeSeries:
+        case Command::About:
+            return {};
+        case Command::CloseFile:
+        case Command::BitmapCopy:
+            return {Need::DataFile};
+        case Command::ExportVelocities:
+            return {Need::Probe};
+        case Command::ExportSpectral:
+            return {Need::Probe, Need::SpectralDone};
+        case Command::ResultsTable:
+            return {Need::Probe, Need::TableStage};
+        case Command::PlotFrameOptions:
+            return {Need::Probe, Need::DiagramInView};
+        case Command::ResetTimeSeries:
+            return {Need::Probe, Need::PreProcessing};
+        case Command::SpectralAnalysis:
+            return {Need::Probe, Need::AllSamples};
+        // Offered once their stage exists.
+        case Command::ExportStationarity:
+        case Command::ExportHistograms:
+        case Command::ExportStatistics:
+        case Command::ExportScales:
+        case Command::ExportStresses:
+        case Command::ExportStressStatistics:
+        case Command::ExportCrossSpectral:
+        case Command::ExportContributions:
+        case Command::ExportTimes:
+        case Command::ExportPatterns:
+        case Command::PageSetup:
+        case Command::PrintPreview:
+        case Command::Print:
+        case Command::ZoomAndClipping:
+        case Command::CoordinateSystem:
+        case Command::EditingTimeSeries:
+        case Command::DigitalFiltration:
+        case Command::StationarityAnalysis:
+        case Command::Histograms:
+        case Command::CrossSpectralAnalysis:
+        case Command::QuadrantsAnalysis:
+        case Command::MeanVelocityVectors:
+        case Command::ExtractDissipationRate:
+        case Command::ExtractScales:
+        case Command::TriangleSpectrum:
+        case Command::TriangleStructure:
+        case Command::GridEditor:
+            return {Need::NotYetOffered};
+    }
+    return {Need::NotYetOffered};
+}
+
+}  // namespace
+
+CommandState commandState(const CVorl_ADVDoc& document, Command command) {
+    CommandState state;
+    state.enabled = disabledReason(document, command).empty();
+    if (command == Command::ZoomAndClipping) {
+        state.checked = document.HasProbe() && document.Probe().zoomMode != 0;
+    } else if (command == Command::ResultsTable) {
+        state.checked = document.ShowsTable();
+    }
+    return state;
+}
+
+std::string disabledReason(const CVorl_ADVDoc& document, Command command) {
+    if (document.IsRunning()) {
+        return "a calculation is running";
+    }
+    for (const Need need : needsOf(command)) {
+        if (!holds(document, need)) {
+            return wordsFor(need);
+        }
+    }
+    return {};
+}
+
+}  // namespace vorlan

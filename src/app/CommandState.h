@@ -1,0 +1,72 @@
+#pragma once
+
+#include "app/CVorl_ADVDoc.h"
+
+namespace vorlan {
+
+/// Every command that a menu offers, in the order of the menus.
+enum class Command {
+    NewWorkspace,
+    OpenWorkspace,
+    SaveWorkspace,
+    SaveWorkspaceAs,
+    CloseFile,
+    ExportVelocities,
+    ExportStationarity,
+    ExportHistograms,
+    ExportStatistics,
+    ExportSpectral,
+    ExportScales,
+    ExportStresses,
+    ExportStressStatistics,
+    ExportCrossSpectral,
+    ExportContributions,
+    ExportTimes,
+    ExportPatterns,
+    PageSetup,
+    PrintPreview,
+    Print,
+    RecentWorkspace,
+    Exit,
+    BitmapCopy,
+    SelectionToolbar,
+    SpectralToolbar,
+    StatusBar,
+    ResultsTable,
+    PlotFrameOptions,
+    ZoomAndClipping,
+    ResetTimeSeries,
+    CoordinateSystem,
+    EditingTimeSeries,
+    DigitalFiltration,
+    StationarityAnalysis,
+    Histograms,
+    SpectralAnalysis,
+    CrossSpectralAnalysis,
+    QuadrantsAnalysis,
+    MeanVelocityVectors,
+    ExtractDissipationRate,
+    ExtractScales,
+    TriangleSpectrum,
+    TriangleStructure,
+    MeanVelocity,
+    GridEditor,
+    SimulateTimeSeries,
+    About,
+};
+
+inline constexpr int kCommandCount = static_cast<int>(Command::About) + 1;
+
+struct CommandState {
+    bool enabled = false;
+    bool checked = false;
+};
+
+/// Whether a command may be given now, and whether it shows as checked. The window's own switches (toolbars, status
+/// bar) are always enabled here; their check mark is the window's.
+CommandState commandState(const CVorl_ADVDoc& document, Command command);
+
+/// Why a disabled command is disabled, in words for a script's user; empty when it is enabled.
+std::string disabledReason(const CVorl_ADVDoc& document, Command command);
+
+}  // namespace vorlan
