@@ -1,0 +1,26 @@
+#include "analysis/LagWindow.h"
+
+#include <cmath>
+
+#include "model/Angles.h"
+
+namespace vorlan {
+
+double lagWindowWeight(int code, double k, double length) {
+    const double share = k / length;
+    switch (code) {
+        case 1:
+            return (std::cos(kPi * k / length) + 1.0) * 0.5;
+        case 2:
+            return 1.0 - share;
+        case 3:
+            if (k <= length / 2.0) {
+                return 1.0 - 6.0 * share * share + 6.0 * share * share * share;
+            }
+            return 2.0 * (1.0 - share) * (1.0 - share) * (1.0 - share);
+        default:
+            return 1.0;
+    }
+}
+
+}  // namespace vorlan

@@ -1,0 +1,73 @@
+#include "analysis/SpectralAnalysis.h"
+
+#include <limits>
+
+#include "analysis/MomentEstimators.h"
+#include "analysis/SpectralFunctions.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr double kCovarianceResolution = 1e-5;
+constexpr double kSpectrumResolution = 1e-7;
+
+void storeColumn(SArray& column, double resolution, std::span<const double> values) {
+    column.SetScale(resolution);
+    column.StoreValues(values);
+}
+
+/// A spectral estimate is never negative; the most negative integer has no counterpart and stays.
+void makePositive(SArray& column) {
+    for (std::int32_t& n : column.view()) {
+        if (n < 0 && n != std::numeric_limits<std::int32_t>::min()) {
+            n = -n;
+        }
+    }
+}
+
+}  // namespace
+
+bool truncationPointFits(int lags, int samples) {
+    return lags <= samples / 2;
+}
+
+void analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress) {
+    int position = 0;
+    const auto advance = [&](int step) {
+        position += step;
+        progress.position(position);
+    };
+    for (int component = 0; component < SAdvProbe::kComponents; ++component) {
+        STimeSeries& series = probe.Series(component);
+        series.samplingInterval = probe.samplingInterval;
+        series.lags = static_cast<std::uint32_t>(run.lags);
+        series.windowCode = static_cast<std::uint32_t>(run.windowCode);
+        series.unitSelector = static_cast<std::uint32_t>(run.unitSelector);
+
+        const std::vector<double> samples = series.values.Values();
+        series.moments = momentsOf(samples);
+        const std::vector<double> deviations = deviationsFrom(samples, series.moments.mean);
+        advance(5);
+
+        storeColumn(series.correlation, kCovarianceResolution, autocovariance(deviations, run.lags, progress));
+        advance(10);
+
+        // The transform reads the function back as it was stored.
+        storeColumn(series.spectrum, kSpectrumResolution,
+                    powerSpectrum(series.correlation.Values(), run.windowCode, run.unitSelector,
+                                  series.samplingInterval, progress));
+        makePositive(series.spectrum);
+        advance(10);
+
+        storeColumn(series.structureFunction, kCovarianceResolution, structureFunction(deviations, run.lags, progress));
+        // 35 per cent for U and V each, the rest for W.
+        advance(component == SAdvProbe::kComponents - 1 ? 5 : 10);
+    }
+    probe.spectralLags = static_cast<std::uint32_t>(run.lags);
+    probe.spectralWindow = static_cast<std::uint32_t>(run.windowCode);
+    probe.spectralUnit = static_cast<std::uint32_t>(run.unitSelector);
+    probe.SetDone(DoneMark::Spectral);
+}
+
+}  // namespace vorlan
