@@ -5,6 +5,10 @@
 
 namespace vorlan {
 
+namespace {
+constexpr std::size_t kSinkBlock = 64 * 1024;
+}
+
 static_assert(std::endian::native == std::endian::little, "the archive moves values as they lie in memory");
 
 Archive Archive::loading(std::span<const std::byte> bytes) {
@@ -13,6 +17,12 @@ Archive Archive::loading(std::span<const std::byte> bytes) {
 
 Archive Archive::storing() {
     return Archive(false, {});
+}
+
+Archive Archive::storing(ByteSink& sink) {
+    Archive archive(false, {});
+    archive.sink_ = &sink;
+    return archive;
 }
 
 void Archive::requireLoading() const {
@@ -37,9 +47,37 @@ void Archive::plain(void* bytes, std::size_t size) {
         }
         position_ += size;
     } else {
-        const auto* first = static_cast<const std::byte*>(bytes);
-        buffer_.insert(buffer_.end(), first, first + size);
+        collect({static_cast<const std::byte*>(bytes), size});
     }
+}
+
+void Archive::collect(std::span<const std::byte> bytes) {
+    if (sink_ != nullptr && buffer_.size() + bytes.size() > kSinkBlock) {
+        flush();
+        if (bytes.size() > kSinkBlock) {
+            sink_->write(bytes);
+            position_ += bytes.size();
+            return;
+        }
+    }
+    buffer_.insert(buffer_.end(), bytes.begin(), bytes.end());
+}
+
+void Archive::flush() {
+    if (sink_ != nullptr && !buffer_.empty()) {
+        sink_->write(buffer_);
+        position_ += buffer_.size();
+        buffer_.clear();
+    }
+}
+
+std::uint16_t Archive::peekShort() const {
+    requireLoading();
+    std::uint16_t word = 0;
+    if (remaining() >= sizeof word) {
+        std::memcpy(&word, input_.data() + position_, sizeof word);
+    }
+    return word;
 }
 
 void Archive::value(std::string& text) {
@@ -112,7 +150,7 @@ std::vector<std::byte> Archive::takeRest() {
 
 void Archive::append(std::span<const std::byte> bytes) {
     requireStoring();
-    buffer_.insert(buffer_.end(), bytes.begin(), bytes.end());
+    collect(bytes);
 }
 
 }  // namespace vorlan

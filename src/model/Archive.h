@@ -37,6 +37,13 @@ class FormatError : public ArchiveError {
     FormatError(const std::string& reason, std::size_t offset) : ArchiveError(reason, offset) {}
 };
 
+/// Where a storing archive hands its bytes on.
+class ByteSink {
+  public:
+    virtual ~ByteSink() = default;
+    virtual void write(std::span<const std::byte> bytes) = 0;
+};
+
 /// Bytes in memory that Serialize operations run on: little-endian, no padding, no alignment.
 ///
 /// value(x) reads into x while loading and appends x while storing. Every count is checked against the bytes that
@@ -47,11 +54,14 @@ class Archive {
     static Archive loading(std::span<const std::byte> bytes);
     /// An archive that stores into a buffer of its own.
     static Archive storing();
+    /// An archive that hands everything on to sink, which must outlive it: small fields collected, long blocks as they
+    /// lie in the model. flush() when done.
+    static Archive storing(ByteSink& sink);
 
     bool isLoading() const { return loading_; }
     bool isStoring() const { return !loading_; }
     /// Bytes read or written so far.
-    std::size_t offset() const { return loading_ ? position_ : buffer_.size(); }
+    std::size_t offset() const { return loading_ ? position_ : position_ + buffer_.size(); }
     /// Bytes not read yet; 0 while storing.
     std::size_t remaining() const { return loading_ ? input_.size() - position_ : 0; }
 
@@ -81,12 +91,17 @@ class Archive {
     /// The generic array's count: 16 bits below 0xFFFF, else 0xFFFF and 32 bits. Checked as count().
     std::size_t shortCount(std::size_t size, std::size_t minimumBytes);
 
+    /// The next 16 bits of a loading archive without taking them; 0 when there are none.
+    std::uint16_t peekShort() const;
     /// The rest of a loading archive; the archive is at its end afterwards.
     std::vector<std::byte> takeRest();
     /// Appends bytes verbatim to a storing archive.
     void append(std::span<const std::byte> bytes);
 
-    /// What a storing archive holds.
+    /// Hands on what is collected, when there is a sink.
+    void flush();
+
+    /// What a storing archive without a sink holds.
     const std::vector<std::byte>& bytes() const { return buffer_; }
     std::vector<std::byte> takeBytes() { return std::move(buffer_); }
     /// Room for a storing archive, to save it from growing.
@@ -98,12 +113,14 @@ class Archive {
   private:
     Archive(bool loading, std::span<const std::byte> input) : loading_(loading), input_(input) {}
     void plain(void* bytes, std::size_t size);
+    void collect(std::span<const std::byte> bytes);
     std::size_t checked(std::size_t count, std::size_t minimumBytes, std::size_t at) const;
 
     bool loading_;
     std::span<const std::byte> input_;
-    std::size_t position_ = 0;
+    std::size_t position_ = 0;  // bytes read, or handed on to the sink
     std::vector<std::byte> buffer_;
+    ByteSink* sink_ = nullptr;
 };
 
 }  // namespace vorlan

@@ -8,8 +8,11 @@ namespace vorlan {
 
 namespace {
 
-// The fixed fields and the counts of every empty container of a stored probe.
-constexpr std::size_t kSmallestProbe = 1000;
+// A stored probe whose containers are all empty: its fixed fields, its 22 tables, marks and tabs with a count each, the
+// time axis, six series of 56 bytes and nine columns each, seven groups of frames.
+constexpr std::size_t kEmptyColumn = sizeof(double) + sizeof(std::int32_t);
+constexpr std::size_t kSmallestProbe =
+    557 + (22 + 1 + 1) * sizeof(std::int32_t) + kEmptyColumn + 6 * (56 + 9 * kEmptyColumn) + 7 * sizeof(std::int32_t);
 
 template <class T, std::size_t N>
 void serializeWords(Archive& archive, std::array<T, N>& words) {
@@ -61,6 +64,9 @@ void SAdvProbe::Serialize(Archive& archive) {
     }
     for (STimeSeries* series : {&seriesU, &seriesV, &seriesW, &seriesUV, &seriesUW, &seriesVW}) {
         series->Serialize(archive);
+        if (archive.isLoading()) {
+            series->samplingInterval = samplingInterval;
+        }
     }
     tabItems.Serialize(archive);
     for (SFrameAtrArray& frames : frameAttributes) {

@@ -18,6 +18,9 @@ void SAdvSet::Serialize(Archive& archive) {
 }
 
 void SAdvSet::SetSelectedTab(int file, int probe, int tab) {
+    if (probe < 0) {
+        throw InvalidArgument();
+    }
     files.GrowTo(file).probes.GrowTo(probe).SetSelectedTab(tab);
 }
 

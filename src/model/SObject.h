@@ -1,5 +1,7 @@
 #pragma once
 
+#include <concepts>
+
 namespace vorlan {
 
 class Archive;
@@ -12,15 +14,19 @@ class SObject {
     virtual const char* ClassName() const = 0;
     virtual void Serialize(Archive& archive) = 0;
 
+    /// No state of its own, so that derived classes can default their comparison. For this very class only: two
+    /// objects of a class without a comparison must not be taken for equal.
+    template <std::same_as<SObject> T>
+    friend constexpr bool operator==(const T&, const T&) {
+        return true;
+    }
+
   protected:
     SObject() = default;
     SObject(const SObject&) = default;
     SObject(SObject&&) = default;
     SObject& operator=(const SObject&) = default;
     SObject& operator=(SObject&&) = default;
-    /// No state of its own: lets derived classes default their comparison. Protected, so that two objects without a
-    /// comparison of their own are never taken for equal.
-    bool operator==(const SObject&) const { return true; }
 };
 
 }  // namespace vorlan

@@ -47,6 +47,9 @@ int STabsArray::LastIndexOfStage(int stage) const {
 }
 
 int STabsArray::AppendStage(int stage) {
+    if (stage < 0 || stage >= kStageCount) {
+        throw InvalidArgument();
+    }
     const int present = IndexOfStage(stage);
     if (present >= 0) {
         return present;
@@ -54,7 +57,7 @@ int STabsArray::AppendStage(int stage) {
     TabItem item;
     item.imageIndex = static_cast<std::uint32_t>(stage);
     item.parameter = item.imageIndex;
-    item.text = kStageTexts.at(static_cast<std::size_t>(stage));
+    item.text = kStageTexts[static_cast<std::size_t>(stage)];
     Add(item);
     return GetSize() - 1;
 }

@@ -28,7 +28,8 @@ class STabsArray : public GrowArray<TabItem> {
     int IndexOfStage(int stage) const;
     /// Index of the last item of a stage, -1 when there is none.
     int LastIndexOfStage(int stage) const;
-    /// Appends the stage's tab unless there is one; returns its index.
+    /// Appends the stage's tab unless there is one; returns its index. InvalidArgument for
+    /// a number that is no stage.
     int AppendStage(int stage);
 };
 

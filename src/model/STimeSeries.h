@@ -49,7 +49,7 @@ class STimeSeries : public SObject {
     std::uint32_t grades = 0;
     std::uint32_t windowCode = 0;    ///< 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen
     std::uint32_t unitSelector = 0;  ///< 0 Hz, 1 rad/s
-    /// Seconds per sample. Not stored: copied from the probe before every use.
+    /// Seconds per sample. Not stored: copied from the probe after loading and before every use.
     double samplingInterval = 0.0;
 
     friend bool operator==(const STimeSeries&, const STimeSeries&) = default;

@@ -1,5 +1,7 @@
 #include "model/Text.h"
 
+#include <array>
+#include <charconv>
 #include <cstdarg>
 #include <cstdio>
 
@@ -16,6 +18,16 @@ std::string formatted(const char* format, ...) {
     std::vsnprintf(text.data(), text.size() + 1, format, again);
     va_end(again);
     return text;
+}
+
+void appendFixed(std::string& text, double value, int digits) {
+    // Sign, 309 digits of the largest double, point, decimals.
+    std::array<char, 400> buffer;
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, digits);
+    if (error == std::errc()) {
+        text.append(buffer.data(), end);
+    }
 }
 
 }  // namespace vorlan

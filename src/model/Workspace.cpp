@@ -1,7 +1,6 @@
 #include "model/Workspace.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "model/Archive.h"
 
@@ -24,34 +23,21 @@ void Workspace::Serialize(Archive& archive) {
 }
 
 void Workspace::SerializePages(Archive& archive) {
-    if (archive.isStoring()) {
-        const bool changed =
-            std::any_of(pages.begin(), pages.end(), [](const PageAtrType& page) { return !(page == PageAtrType{}); });
-        // A tail that is no page block would be read as one if pages stood before it, so it comes first as it did.
-        if (pagesLoaded_ || (changed && tail_.empty())) {
+    if (archive.isLoading()) {
+        pagesLoaded_ = archive.peekShort() == kStageCount;
+        if (pagesLoaded_) {
+            pages.RemoveAll();
             pages.Serialize(archive);
         }
-        archive.append(tail_);
+        tail_ = archive.takeRest();
         return;
     }
-    std::vector<std::byte> rest = archive.takeRest();
-    std::uint16_t count = 0;
-    if (rest.size() >= sizeof count) {
-        std::memcpy(&count, rest.data(), sizeof count);
+    const bool changed =
+        std::any_of(pages.begin(), pages.end(), [](const PageAtrType& page) { return !(page == PageAtrType{}); });
+    if (pagesLoaded_ || changed) {
+        pages.Serialize(archive);
     }
-    if (count == kStageCount) {
-        Archive block = Archive::loading(rest);
-        SPageAtrArray loaded;
-        try {
-            loaded.Serialize(block);
-        } catch (const ArchiveError& error) {
-            throw EndOfFileError(archive.offset() - rest.size() + error.offset());
-        }
-        pages = std::move(loaded);
-        pagesLoaded_ = true;
-        rest = block.takeRest();
-    }
-    tail_ = std::move(rest);
+    archive.append(tail_);
 }
 
 }  // namespace vorlan
