@@ -1,0 +1,57 @@
+#include "analysis/EventPatterns.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vorlan {
+
+namespace {
+
+/// Lags that are summed together, each with a sum of its own.
+constexpr std::size_t kLanes = 32;
+
+void sumAround(std::span<const std::size_t> events, const double* x, double* sums) {
+    std::array<double, kLanes> lanes{};
+    for (const std::size_t event : events) {
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            lanes[lane] += x[event + lane];
+        }
+    }
+    std::copy(lanes.begin(), lanes.end(), sums);
+}
+
+}  // namespace
+
+std::vector<double> averageAround(std::span<const std::size_t> events, std::span<const double> x, int lag) {
+    if (lag < 0) {
+        return {};
+    }
+    const auto wanted = static_cast<std::size_t>(lag);
+    std::vector<double> pattern(2 * wanted + 1);
+    if (events.empty() || x.empty()) {
+        return pattern;
+    }
+    // No event has a neighbour farther away than the record is long.
+    const std::size_t reach = std::min(wanted, x.size() - 1);
+    const std::size_t lags = 2 * reach + 1;
+    const std::size_t blocks = (lags + kLanes - 1) / kLanes;
+    // Zeros around the record make its ends regular: adding them changes no sum.
+    std::vector<double> padded(x.size() + reach + blocks * kLanes);
+    std::copy(x.begin(), x.end(), padded.begin() + static_cast<std::ptrdiff_t>(reach));
+    std::vector<double> sums(blocks * kLanes);
+    for (std::size_t block = 0; block < blocks; ++block) {
+        sumAround(events, padded.data() + block * kLanes, sums.data() + block * kLanes);
+    }
+
+    for (std::size_t i = 0; i < lags; ++i) {
+        // Events e with 0 <= e + i - reach < N.
+        const auto first = std::lower_bound(events.begin(), events.end(), i < reach ? reach - i : 0);
+        const auto last = std::lower_bound(first, events.end(), i > reach ? x.size() - (i - reach) : x.size());
+        if (first != last) {
+            pattern[wanted - reach + i] = sums[i] / static_cast<double>(last - first);
+        }
+    }
+    return pattern;
+}
+
+}  // namespace vorlan

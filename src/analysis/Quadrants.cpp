@@ -1,0 +1,170 @@
+#include "analysis/Quadrants.h"
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "analysis/EventPatterns.h"
+#include "analysis/HoleSweep.h"
+#include "analysis/StressPairs.h"
+#include "model/DefaultFrames.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr double kShareResolution = 1e-5;
+constexpr double kPatternResolution = 1e-4;
+constexpr const char* kOutward = "Outward Interactions (dimensionless velocities)";
+constexpr const char* kInward = "Inward Interactions (dimensionless velocities)";
+
+/// Diagrams of the patterns in the stage's group.
+constexpr int kEjectionDiagram = 1;
+constexpr int kSweepDiagram = 3;
+
+/// trunc(whole / step) when it does not exceed limit.
+int boundedQuotient(double whole, double step, int limit) {
+    const double quotient = whole / step;
+    if (!(quotient < limit + 1.0)) {
+        throw InvalidArgument();
+    }
+    return truncateToInt32(quotient);
+}
+
+/// Fluctuations and relative stress of the analysed pair.
+struct PairRecord {
+    std::vector<double> a;
+    std::vector<double> b;
+    std::vector<double> r;
+    double meanStress = 0.0;
+};
+
+PairRecord pairRecord(const SAdvProbe& probe, int type) {
+    auto fluctuations = workingFluctuations(probe);
+    const StressPair& pair = kStressPairComponents[static_cast<std::size_t>(type)];
+    PairRecord record;
+    record.a = std::move(fluctuations[static_cast<std::size_t>(pair.first)]);
+    record.b = std::move(fluctuations[static_cast<std::size_t>(pair.second)]);
+    record.r = probe.workTables[SAdvProbe::kStresses].GetAt(type).Values();
+    record.meanStress = probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(type)];
+    for (double& r : record.r) {
+        r /= record.meanStress;
+    }
+    return record;
+}
+
+void storeShares(SAdvProbe& probe, const HoleSums& sums, int sizes) {
+    SMultiArray& contributions = probe.stageTables[SAdvProbe::kContributions];
+    SMultiArray& times = probe.stageTables[SAdvProbe::kTimes];
+    for (int h = 0; h < sizes; ++h) {
+        const auto index = static_cast<std::size_t>(h);
+        std::array<double, kQuadrantBuckets> shares{};
+        double stress = 0.0;
+        std::uint32_t samples = 0;
+        for (std::size_t q = 0; q < kQuadrantBuckets; ++q) {
+            shares[q] = static_cast<std::int32_t>(sums.units[q][index]) * kShareResolution;
+            stress += shares[q];
+            samples += sums.samples[q][index];
+        }
+        for (std::size_t q = 0; q < kQuadrantBuckets; ++q) {
+            const int bucket = static_cast<int>(q);
+            contributions.ElementAt(bucket).SetValue(h, shares[q] / stress);
+            times.ElementAt(bucket).SetValue(
+                h, static_cast<double>(sums.samples[q][index]) / static_cast<double>(samples));
+        }
+    }
+}
+
+/// Samples of one bucket whose relative stress exceeds the threshold.
+std::vector<std::size_t> eventsOf(const PairRecord& record, int bucket, double threshold) {
+    std::vector<std::size_t> events;
+    for (std::size_t j = 0; j < record.r.size(); ++j) {
+        if (record.r[j] > threshold && quadrantOf(record.a[j], record.b[j]) == bucket) {
+            events.push_back(j);
+        }
+    }
+    return events;
+}
+
+void storePattern(SMultiArray& table, const std::vector<std::size_t>& events, const PairRecord& record,
+                  const std::array<double, 2>& deviations, int lag) {
+    table.Reshape(2, kPatternResolution);
+    for (std::size_t c = 0; c < deviations.size(); ++c) {
+        std::vector<double> pattern = averageAround(events, c == 0 ? record.a : record.b, lag);
+        // Without any event the pattern is 0 whatever the deviation is.
+        for (double& value : pattern) {
+            value = events.empty() ? 0.0 : value / deviations[c];
+        }
+        table.ElementAt(static_cast<int>(c)).StoreValues(pattern);
+    }
+}
+
+void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSettings& settings, int lag) {
+    const StressPair& pair = kStressPairComponents[static_cast<std::size_t>(settings.stressType)];
+    const auto deviation = [&](int component) {
+        return std::sqrt(probe.statistics[SAdvProbe::kVelocityVariances + static_cast<std::size_t>(component)]);
+    };
+    const std::array<double, 2> deviations = {deviation(pair.first), deviation(pair.second)};
+    std::vector<std::size_t> ejections;
+    std::vector<std::size_t> sweeps;
+    if (record.meanStress < 0.0) {
+        ejections = eventsOf(record, 1, settings.ejectionThreshold);
+        sweeps = eventsOf(record, 3, settings.sweepThreshold);
+    } else if (record.meanStress > 0.0) {
+        ejections = eventsOf(record, 0, settings.ejectionThreshold);
+        sweeps = eventsOf(record, 2, settings.sweepThreshold);
+    }
+    storePattern(probe.stageTables[SAdvProbe::kEjectionPattern], ejections, record, deviations, lag);
+    storePattern(probe.stageTables[SAdvProbe::kSweepPattern], sweeps, record, deviations, lag);
+}
+
+/// Titles the pattern diagrams. A title that the user gave goes only when the events are interactions.
+void titlePatterns(SAdvProbe& probe, bool interactions) {
+    const int group = static_cast<int>(Stage::Quadrants);
+    SFrameAtrArray& frames = probe.frameAttributes[static_cast<std::size_t>(group)];
+    for (const auto& [record, title] : {std::pair(kEjectionDiagram, kOutward), std::pair(kSweepDiagram, kInward)}) {
+        if (interactions) {
+            while (frames.GetSize() <= record) {
+                frames.Add(defaultFrame(group, frames.GetSize()));
+            }
+            frames.ElementAt(record).plotTitle = title;
+        } else if (record < frames.GetSize() &&
+                   (frames.GetAt(record).plotTitle == kOutward || frames.GetAt(record).plotTitle == kInward)) {
+            frames.ElementAt(record).plotTitle = defaultFrame(group, record).plotTitle;
+        }
+    }
+}
+
+}  // namespace
+
+void analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progress& progress) {
+    if (settings.stressType < 0 || settings.stressType >= kStressPairs) {
+        throw InvalidArgument();
+    }
+    const int sizes =
+        settings.increment < 0.0 ? 0 : boundedQuotient(settings.maximum, settings.increment, kMaximumHoleSizes);
+    const int lag = boundedQuotient(settings.maximumLag, probe.samplingInterval, kMaximumPatternLag);
+    progress.status(kQuadrantStatus);
+    progress.breathe();
+
+    prepareStresses(probe);
+    const PairRecord record = pairRecord(probe, settings.stressType);
+    probe.stageTables[SAdvProbe::kContributions].Reshape(kQuadrantBuckets, kShareResolution);
+    probe.stageTables[SAdvProbe::kTimes].Reshape(kQuadrantBuckets, kShareResolution);
+    if (!record.r.empty()) {
+        storeShares(probe, sweepHoles(record.r, record.a, record.b, settings.increment, sizes, kShareResolution),
+                    sizes);
+    }
+    storePatterns(probe, record, settings, lag);
+
+    probe.quadrantStress = static_cast<std::uint32_t>(settings.stressType);
+    double* const run = probe.statistics.data() + SAdvProbe::kQuadrantRun;
+    run[0] = settings.increment;
+    run[1] = settings.maximum;
+    run[2] = settings.maximumLag;
+    run[3] = record.meanStress;
+    titlePatterns(probe, probe.coordinateSystem == 0 || record.meanStress > 0.0);
+    probe.SetDone(DoneMark::Quadrants);
+}
+
+}  // namespace vorlan

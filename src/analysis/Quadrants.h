@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "analysis/Progress.h"
+#include "analysis/QuadrantSettings.h"
+#include "model/SAdvProbe.h"
+
+namespace vorlan {
+
+inline constexpr const char* kQuadrantStatus = "Conditional Quadrants and Averaging calculations";
+
+/// More hole sizes, or more lags to one side of an event, than this are refused: the results would fill hundreds of
+/// megabytes.
+inline constexpr int kMaximumHoleSizes = 1000000;
+inline constexpr int kMaximumPatternLag = 1000000;
+
+/// Conditional quadrant analysis of one stress series s with mean m, r = s / m, over all working samples.
+///
+/// Hole sizes H = h * increment for h = 0..trunc(maximum / increment)-1 (none for a negative increment): every sample
+/// with |r| > H belongs to its quadrant of the fluctuation plane, all others and those on an axis to the hole. The
+/// contribution set holds, at 1e-5, the share of each quadrant 1..4 and of the hole in the sum of r (r enters the sum
+/// in whole units of 1e-5, and the sums wrap at 2^32), the time set the share of the samples.
+///
+/// Events: for m < 0 the samples of quadrant 2 with r above the ejection threshold and those of quadrant 4 with r
+/// above the sweep threshold; for m > 0 those of quadrants 1 and 3; none for m = 0. The pattern sets hold, at 1e-4,
+/// the mean of each component's fluctuation at lag (i - L) dt, i = 0..2L, L = trunc(maximum lag / dt), around the
+/// events that have such a neighbour, in standard deviations; 0 where no event has one.
+///
+/// The stresses are formed when the probe has none; variances and mean stresses are computed anew. Records stress
+/// type, increment, maximum, maximum lag and m, titles the pattern diagrams by what the events are, and sets the
+/// stage's mark. A record without samples gets empty contribution and time sets.
+///
+/// InvalidArgument when the record's columns differ in length, for an unknown stress type, or when the settings ask
+/// for more hole sizes or lags than the limits above (an increment or a sampling interval of 0 included).
+void analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progress& progress);
+
+}  // namespace vorlan
