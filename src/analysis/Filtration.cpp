@@ -1,0 +1,110 @@
+#include "analysis/Filtration.h"
+
+#include <cmath>
+
+#include "analysis/ProbeMoments.h"
+#include "analysis/Stresses.h"
+#include "model/DefaultFrames.h"
+
+namespace vorlan {
+
+namespace {
+
+// The constants keep the precision they are written with: results depend on it.
+constexpr double kTwoPi = 6.2831852;
+constexpr double kFilterPi = 3.1415926;
+constexpr double kGaussianDeviation = 0.591;       // standard deviation times f, samples
+constexpr double kGaussianDenominator = 0.698562;  // 2 * 0.591^2
+
+double weightAt(FilterShape shape, double t, double m, double f) {
+    const double span = 2.0 * m + 1.0;
+    switch (shape) {
+        case FilterShape::Rectangle:
+            return 1.0 / span;
+        case FilterShape::Tukey:
+            return (std::cos(t * kTwoPi / span) + 1.0) / span;
+        case FilterShape::Gaussian:
+            return (f / (std::sqrt(kTwoPi) * kGaussianDeviation)) *
+                   std::exp(-(t * t) / (kGaussianDenominator / (f * f)));
+        case FilterShape::Bell:
+            return std::sqrt(2.0) * std::exp(kFilterPi * (t * t) / (-2.0 * (m * m))) * std::cos(t * kTwoPi / m) / m;
+    }
+    throw InvalidArgument();
+}
+
+/// out[j] = sum over i of weights[i] x[j + i]. Neighbouring outputs run side by side, each sum in its own order.
+void weightedSums(const double* x, std::span<const double> weights, std::span<double> out) {
+    constexpr std::size_t kLanes = 16;
+    std::size_t j = 0;
+    for (; j + kLanes <= out.size(); j += kLanes) {
+        double sums[kLanes] = {};
+        const double* start = x + j;
+        for (std::size_t i = 0; i < weights.size(); ++i) {
+            const double w = weights[i];
+            for (std::size_t lane = 0; lane < kLanes; ++lane) {
+                sums[lane] += w * start[i + lane];
+            }
+        }
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            out[j + lane] = sums[lane];
+        }
+    }
+    for (; j < out.size(); ++j) {
+        double sum = 0.0;
+        for (std::size_t i = 0; i < weights.size(); ++i) {
+            sum += weights[i] * x[j + i];
+        }
+        out[j] = sum;
+    }
+}
+
+}  // namespace
+
+std::vector<double> filterWeights(FilterShape shape, int halfWidth, double f) {
+    std::vector<double> weights;
+    weights.reserve(2 * static_cast<std::size_t>(halfWidth));
+    for (int t = halfWidth - 1; t >= -halfWidth; --t) {
+        weights.push_back(weightAt(shape, t, halfWidth, f));
+    }
+    return weights;
+}
+
+std::vector<double> filtered(std::span<const double> x, std::span<const double> weights, FilterType type) {
+    if (weights.size() >= x.size()) {
+        throw InvalidArgument();
+    }
+    const std::size_t m = weights.size() / 2;
+    std::vector<double> y(x.size() - weights.size());
+    weightedSums(x.data() + 1, weights, y);
+    if (type == FilterType::HighPass || type == FilterType::BandCut) {
+        // The two subtract from different samples: the start of the span and its centre.
+        const std::size_t reference = type == FilterType::HighPass ? 0 : m;
+        for (std::size_t j = 0; j < y.size(); ++j) {
+            y[j] = x[j + reference] - y[j];
+        }
+    }
+    return y;
+}
+
+void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress& progress) {
+    const double m = filterHalfWidthSamples(settings, probe.samplingInterval);
+    if (!(m >= 0.0 && 2.0 * m < probe.WorkingSamples())) {
+        throw InvalidArgument();
+    }
+    const std::vector<double> weights =
+        filterWeights(settings.shape, static_cast<int>(m), settings.cutoff * probe.samplingInterval);
+    SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    for (int component = 0; component < SAdvProbe::kComponents; ++component) {
+        SArray& column = velocities.ElementAt(component);
+        column.StoreValues(filtered(column.Values(), weights, settings.type));
+        progress.breathe();
+    }
+}
+
+void finishFiltration(SAdvProbe& probe) {
+    setRecordTitle(probe, "Filtered time series");
+    formStresses(probe);
+    computeProbeMoments(probe);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <vector>
+
+#include "analysis/HistogramSettings.h"
+#include "analysis/Progress.h"
+#include "model/SAdvProbe.h"
+
+namespace vorlan {
+
+/// More grades than this raise InvalidArgument.
+inline constexpr int kMaximumGrades = 10'000'000;
+
+/// Probability density of the series in n grades of width du = (max - min) / n:
+///   h[k] = (c[k] / N) / du, c[k] samples with du k + min <= x <= du k + min + du.
+/// Both ends belong to a grade, so a sample on a boundary counts twice; the last grade ends at max itself. Stored in
+/// the resolution of the samples. A constant series stores what a division by 0 gives. Cost does not grow with N n.
+/// InvalidArgument for an empty series or fewer than one grade.
+void computeHistogram(STimeSeries& series, int grades);
+
+/// Forms the analysed series, then moments and histogram of U, V and W; sets the stage's mark. Without a sample the
+/// earlier histograms stay and the moments are not finite.
+void analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, Progress& progress);
+
+/// Normal density over the range of a series: x[i] = min + i |max - min| / 500,
+/// y[i] = exp(-(x[i] - mean)^2 / (2 variance)) / sqrt(6.28 variance), with the moments that the series holds.
+struct NormalCurve {
+    std::vector<double> x;
+    SArray y{0.001};
+};
+
+/// 500 points, none for an empty series.
+NormalCurve normalApproximation(const STimeSeries& series);
+
+}  // namespace vorlan

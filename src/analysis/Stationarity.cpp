@@ -1,0 +1,136 @@
+#include "analysis/Stationarity.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+#include <vector>
+
+#include "analysis/AnalysedSeries.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr double kBandResolution = 0.0001;
+
+/// Sums of the powers of the deviations of several bands, each in the order of its samples.
+template <std::size_t Lanes>
+struct PowerSums {
+    std::array<double, Lanes> means{};
+    std::array<double, Lanes> squares{};
+    std::array<double, Lanes> cubes{};
+    std::array<double, Lanes> fourths{};
+
+    void add(std::span<const double> samples) {
+        for (const double x : samples) {
+            for (std::size_t b = 0; b < Lanes; ++b) {
+                const double d = x - means[b];
+                squares[b] += d * d;
+                cubes[b] += d * d * d;
+                fourths[b] += d * d * d * d;
+            }
+        }
+    }
+};
+
+double sumOf(std::span<const double> samples, double sum = 0.0) {
+    for (const double x : samples) {
+        sum += x;
+    }
+    return sum;
+}
+
+/// Stores the mean and gives back what was stored.
+double storeMean(STimeSeries& series, int band, double sum, double samples) {
+    series.bandMeans.SetValue(band, sum / samples);
+    return series.bandMeans.GetValue(band);
+}
+
+void storeHigherMoments(STimeSeries& series, int band, double squares, double cubes, double fourths, double samples) {
+    series.bandVariances.SetValue(band, squares / (samples - 1.0));
+    const double variance = series.bandVariances.GetValue(band);
+    series.bandSkewness.SetValue(band, cubes / (variance * samples * std::sqrt(variance)));
+    series.bandKurtosis.SetValue(band, fourths / (variance * variance * samples) - 3.0);
+}
+
+void computeBand(STimeSeries& series, int band, std::span<const double> samples) {
+    const auto count = static_cast<double>(samples.size());
+    PowerSums<1> sums;
+    sums.means[0] = storeMean(series, band, sumOf(samples), count);
+    sums.add(samples);
+    storeHigherMoments(series, band, sums.squares[0], sums.cubes[0], sums.fourths[0], count);
+}
+
+void computeFixedBands(STimeSeries& series, std::span<const double> values, std::size_t bands, Progress& progress) {
+    const std::size_t length = values.size() / bands;
+    const auto compute = [&](std::size_t band, std::size_t first) {
+        computeBand(series, static_cast<int>(band), values.subspan(first, length));
+        progress.breathe();
+    };
+    for (std::size_t k = 0; k + 2 < bands; ++k) {
+        compute(k, k * length);
+    }
+    // Between neighbours a band half a length later is computed into the place of the next one; only the last of
+    // these is not overwritten.
+    if (bands > 2) {
+        compute(bands - 2, (bands - 3) * length + length / 2);
+    }
+    compute(bands - 1, (bands - 1) * length);
+}
+
+void computeCumulativeBands(STimeSeries& series, std::span<const double> values, std::size_t bands,
+                            Progress& progress) {
+    const std::size_t length = values.size() / bands;
+    constexpr std::size_t kLanes = 8;
+    double sum = 0.0;
+    for (std::size_t first = 0; first < bands; first += kLanes) {
+        const std::size_t lanes = std::min(kLanes, bands - first);
+        // Bands that start alike share their sums up to the end of the shorter one.
+        PowerSums<kLanes> sums;
+        for (std::size_t b = 0; b < lanes; ++b) {
+            sum = sumOf(values.subspan((first + b) * length, length), sum);
+            sums.means[b] =
+                storeMean(series, static_cast<int>(first + b), sum, static_cast<double>((first + b + 1) * length));
+        }
+        sums.add(values.subspan(0, first * length));
+        for (std::size_t b = 0; b < lanes; ++b) {
+            sums.add(values.subspan((first + b) * length, length));
+            storeHigherMoments(series, static_cast<int>(first + b), sums.squares[b], sums.cubes[b], sums.fourths[b],
+                               static_cast<double>((first + b + 1) * length));
+            progress.breathe();
+        }
+    }
+}
+
+}  // namespace
+
+void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progress) {
+    if (bands < 1 || bands > kMaximumBands) {
+        throw InvalidArgument();
+    }
+    for (SArray* column : {&series.bandMeans, &series.bandVariances, &series.bandSkewness, &series.bandKurtosis}) {
+        column->SetScale(kBandResolution);
+    }
+    series.bands = static_cast<std::uint32_t>(bands);
+    const std::vector<double> values = series.values.Values();
+    const auto count = static_cast<std::size_t>(bands);
+    if (mode == BandMode::Cumulative) {
+        computeCumulativeBands(series, values, count, progress);
+    } else {
+        computeFixedBands(series, values, count, progress);
+    }
+}
+
+void analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress) {
+    formAnalysedSeries(probe);
+    for (int component = 0; component < SAdvProbe::kComponents; ++component) {
+        STimeSeries& series = probe.Series(component);
+        series.ClearStationarityResults();
+        computeBands(series, settings.mode, settings.bands, progress);
+    }
+    probe.bandMode = static_cast<std::uint32_t>(settings.mode);
+    probe.SetDone(DoneMark::Stationarity);
+}
+
+}  // namespace vorlan
