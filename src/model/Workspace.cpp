@@ -14,7 +14,7 @@ void Workspace::Serialize(Archive& archive) {
     std::string version = kVersionText;
     archive.value(version);
     if (archive.isLoading() && version.find_first_of("0123456789.") == std::string::npos) {
-        throw FormatError("Invalid Workspace format.", 0);
+        throw InvalidVersionError();
     }
     settings.Serialize(archive);
     dataFiles.Serialize(archive);

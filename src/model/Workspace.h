@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Archive.h"
 #include "model/PageAttributes.h"
 #include "model/SAdvSet.h"
 #include "model/SBndSet.h"
@@ -16,6 +17,12 @@ namespace vorlan {
 /// The program's version text, written at the head of every workspace.
 inline constexpr const char* kVersionText = "Version 1.59";
 
+/// The version text of the file holds no number.
+class InvalidVersionError : public FormatError {
+  public:
+    InvalidVersionError() : FormatError("Invalid Workspace format.", 0) {}
+};
+
 /// Everything that a workspace file holds.
 class Workspace : public SObject {
   public:
@@ -23,7 +30,7 @@ class Workspace : public SObject {
 
     const char* ClassName() const override { return "Workspace"; }
     /// Version text, document block, data files, boundaries, then the page records when there are any to keep.
-    /// While loading, a version text without a number raises FormatError("Invalid Workspace format."); bytes behind
+    /// While loading, a version text without a number raises InvalidVersionError; bytes behind
     /// what this program knows are kept and stored again. Load into a new object only.
     void Serialize(Archive& archive) override;
 

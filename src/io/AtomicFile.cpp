@@ -1,0 +1,181 @@
+#include "io/AtomicFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <cstdio>
+#include <ctime>
+#include <ostream>
+#include <streambuf>
+
+#include "io/FileError.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr int kLinksFollowed = 40;
+constexpr int kNamesTried = 100;
+
+// Where a chain of symbolic links ends; the end itself need not exist.
+std::filesystem::path linkEnd(std::filesystem::path path) {
+    std::error_code error;
+    for (int i = 0; i < kLinksFollowed && std::filesystem::is_symlink(path, error); ++i) {
+        const std::filesystem::path next = std::filesystem::read_symlink(path, error);
+        if (error) {
+            break;
+        }
+        path = path.parent_path() / next;  // an absolute link replaces the folder
+    }
+    return path;
+}
+
+std::string temporaryName() {
+    static std::atomic<unsigned> counter{0};
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    std::array<char, 64> name;
+    std::snprintf(name.data(), name.size(), ".vorlan-%lx-%lx-%x.tmp", static_cast<unsigned long>(::getpid()),
+                  static_cast<unsigned long>(now.tv_nsec), counter.fetch_add(1));
+    return name.data();
+}
+
+class AtomicFileBuffer : public std::streambuf {
+  public:
+    explicit AtomicFileBuffer(AtomicFile& file) : file_(file) { setp(buffer_.data(), buffer_.data() + buffer_.size()); }
+
+  protected:
+    int_type overflow(int_type character) override {
+        sync();
+        if (!traits_type::eq_int_type(character, traits_type::eof())) {
+            sputc(traits_type::to_char_type(character));
+        }
+        return traits_type::not_eof(character);
+    }
+    int sync() override {
+        file_.write(std::string_view(pbase(), static_cast<std::size_t>(pptr() - pbase())));
+        setp(buffer_.data(), buffer_.data() + buffer_.size());
+        return 0;
+    }
+
+  private:
+    AtomicFile& file_;
+    std::array<char, 64 * 1024> buffer_;
+};
+
+}  // namespace
+
+AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), target_(linkEnd(path)) {
+    struct stat status {};
+    const bool exists = ::stat(target_.c_str(), &status) == 0;
+    if (!exists && errno != ENOENT) {
+        fail(errno);
+    }
+    if (exists && S_ISDIR(status.st_mode)) {
+        throw FileError::cannotWrite(FileError::Kind::NotAFile, path_, "it is a folder");
+    }
+    // A rename asks only the folder; a file that is protected itself must stay too.
+    if (exists && ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) != 0) {
+        fail(errno);
+    }
+    if (exists && !S_ISREG(status.st_mode)) {
+        file_ = FileDescriptor(::open(target_.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
+        if (!file_.isOpen()) {
+            fail(errno);
+        }
+        return;
+    }
+    openTemporary(exists ? S_IRUSR | S_IWUSR : 0666);
+    if (exists) {
+        // Only the superuser can keep the owner; a group that cannot be kept either must not lend its rights to
+        // another.
+        const bool groupKept = ::fchown(file_.get(), status.st_uid, status.st_gid) == 0 ||
+                               ::fchown(file_.get(), static_cast<uid_t>(-1), status.st_gid) == 0;
+        ::fchmod(file_.get(), status.st_mode & (groupKept ? 0777U : 0707U));
+    }
+}
+
+void AtomicFile::openTemporary(unsigned mode) {
+    for (int i = 0; i < kNamesTried; ++i) {
+        const std::filesystem::path candidate = folder() / temporaryName();
+        file_ = FileDescriptor(::open(candidate.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+        if (file_.isOpen()) {
+            temporary_ = candidate;
+            return;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
+    }
+    fail(errno);
+}
+
+std::filesystem::path AtomicFile::folder() const {
+    return target_.has_parent_path() ? target_.parent_path() : ".";
+}
+
+AtomicFile::~AtomicFile() {
+    file_.close();
+    if (!temporary_.empty()) {
+        ::unlink(temporary_.c_str());
+    }
+}
+
+void AtomicFile::write(std::span<const std::byte> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file_.get(), bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            fail(written < 0 ? errno : ENOSPC);
+        }
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+}
+
+void AtomicFile::commit() {
+    if (temporary_.empty()) {
+        if (file_.close() != 0) {
+            fail(errno);
+        }
+        return;
+    }
+    if (::fsync(file_.get()) != 0 || file_.close() != 0 || ::rename(temporary_.c_str(), target_.c_str()) != 0) {
+        fail(errno);
+    }
+    temporary_.clear();
+    // The file is in place; a folder that cannot be flushed only delays the moment from which a crash keeps the name.
+    FileDescriptor directory(::open(folder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (directory.isOpen()) {
+        ::fsync(directory.get());
+    }
+}
+
+void AtomicFile::fail(int error) const {
+    if (error == ENOENT || error == ENOTDIR) {
+        throw FileError::cannotWrite(FileError::Kind::Missing, path_, "there is no such folder");
+    }
+    throw FileError::cannotWrite(FileError::Kind::Unwritable, path_, systemReason(error));
+}
+
+void writeFileAtomically(const std::filesystem::path& path, std::string_view text) {
+    AtomicFile file(path);
+    file.write(text);
+    file.commit();
+}
+
+void writeFileAtomically(const std::filesystem::path& path, const std::function<void(std::ostream&)>& write) {
+    AtomicFile file(path);
+    AtomicFileBuffer buffer(file);
+    std::ostream stream(&buffer);
+    stream.exceptions(std::ios::badbit);
+    write(stream);
+    stream.flush();
+    file.commit();
+}
+
+}  // namespace vorlan

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <iosfwd>
+#include <span>
+#include <string_view>
+
+#include "io/FileDescriptor.h"
+
+namespace vorlan {
+
+/// A file that takes the place of another only when it is complete.
+///
+/// The bytes go to a temporary file in the target's folder; commit() flushes it to the disk and renames it. Until then
+/// the target stays as it was; without a commit the temporary is removed. A symbolic link is followed, permissions of
+/// a file that is replaced are kept. A target that is a device or a pipe is written directly, since a rename would
+/// replace the device.
+///
+/// Every failure throws FileError of kind Unwritable, NotAFile (a folder) or Missing (no such folder).
+class AtomicFile {
+  public:
+    explicit AtomicFile(const std::filesystem::path& path);
+    ~AtomicFile();
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+
+    void write(std::span<const std::byte> bytes);
+    void write(std::string_view text) { write(std::as_bytes(std::span(text))); }
+    void commit();
+
+  private:
+    void openTemporary(unsigned mode);
+    std::filesystem::path folder() const;
+    [[noreturn]] void fail(int error) const;
+
+    std::filesystem::path path_;       // as the caller named it, for messages
+    std::filesystem::path target_;     // the link's end
+    std::filesystem::path temporary_;  // empty when the target is written directly
+    FileDescriptor file_;
+};
+
+/// Replaces the file by text.
+void writeFileAtomically(const std::filesystem::path& path, std::string_view text);
+
+/// Replaces the file by what write puts into the stream. Errors of the disk reach the caller as FileError out of the
+/// stream operation that met them; whatever write throws leaves the old file as it was.
+void writeFileAtomically(const std::filesystem::path& path, const std::function<void(std::ostream&)>& write);
+
+}  // namespace vorlan

@@ -1,0 +1,95 @@
+#include "io/BoundaryFile.h"
+
+#include <locale.h>
+#include <sys/stat.h>
+
+#include <cstdio>
+#include <memory>
+#include <new>
+
+#include "io/AtomicFile.h"
+#include "model/Text.h"
+
+namespace vorlan {
+
+namespace {
+
+/// The C locale's numbers for this thread, whatever the process has set.
+class CNumbers {
+  public:
+    CNumbers() : numbers_(::newlocale(LC_ALL_MASK, "C", nullptr)) {
+        if (numbers_ == nullptr) {
+            throw std::bad_alloc();
+        }
+        before_ = ::uselocale(numbers_);
+    }
+    ~CNumbers() {
+        ::uselocale(before_);
+        ::freelocale(numbers_);
+    }
+    CNumbers(const CNumbers&) = delete;
+    CNumbers& operator=(const CNumbers&) = delete;
+
+  private:
+    locale_t numbers_;
+    locale_t before_;
+};
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+bool isFolder(std::FILE* file) {
+    struct stat status {};
+    return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+}  // namespace
+
+BoundaryOpenError::BoundaryOpenError(const std::string& path)
+    : FileError(Kind::Missing, path, "Cannot find data file: " + path) {}
+
+BoundaryFormatError::BoundaryFormatError(const std::string& path)
+    : FileError(Kind::Format, path, "Format of the file " + path + " is invalid !") {}
+
+void readBoundary(SBndFile& boundary) {
+    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(boundary.path.c_str(), "rb"));
+    if (file == nullptr || isFolder(file.get())) {
+        throw BoundaryOpenError(boundary.path);
+    }
+    const CNumbers numbers;
+    // The end mark is set only by a read that meets it: without this look ahead an empty file would be a bad line.
+    std::ungetc(std::getc(file.get()), file.get());
+    for (int node = 0; std::feof(file.get()) == 0; ++node) {
+        float x = 0.0F;
+        float y = 0.0F;
+        float z = 0.0F;
+        // The blank behind the numbers skips all white space, so that the end is met after the last line.
+        if (std::fscanf(file.get(), "%f %f %f\n", &x, &y, &z) < 3) {
+            throw BoundaryFormatError(boundary.path);
+        }
+        boundary.SetNode(node, x, y, z);
+    }
+}
+
+void writeBoundary(const SBndFile& boundary) {
+    std::string text;
+    for (int i = 0; i < boundary.NodeCount(); ++i) {
+        appendFixed(text, boundary.x.GetValue(i), 6);
+        text += ' ';
+        appendFixed(text, boundary.y.GetValue(i), 6);
+        text += ' ';
+        appendFixed(text, boundary.z.GetValue(i), 6);
+        text += '\n';
+    }
+    std::unique_ptr<AtomicFile> file;
+    try {
+        file = std::make_unique<AtomicFile>(boundary.path);
+    } catch (const FileError&) {
+        throw BoundaryOpenError(boundary.path);
+    }
+    file->write(text);
+    file->commit();
+}
+
+}  // namespace vorlan

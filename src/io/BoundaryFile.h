@@ -1,0 +1,29 @@
+#pragma once
+
+#include "io/FileError.h"
+#include "model/SBndSet.h"
+
+namespace vorlan {
+
+/// The boundary's text file cannot be opened; what() is "Cannot find data file: <path>". Opening may be tried again.
+class BoundaryOpenError : public FileError {
+  public:
+    explicit BoundaryOpenError(const std::string& path);
+};
+
+/// A line without three numbers; what() is "Format of the file <path> is invalid !".
+class BoundaryFormatError : public FileError {
+  public:
+    explicit BoundaryFormatError(const std::string& path);
+};
+
+/// Reads the nodes of boundary.path: three single-precision numbers per node, separated by any white space, line ends
+/// included. Node i goes into entry i; entries beyond the last node read keep their values. An empty file holds no
+/// nodes. BoundaryOpenError changes nothing; after BoundaryFormatError the nodes before the bad line stay.
+void readBoundary(SBndFile& boundary);
+
+/// Writes the nodes to boundary.path, one line "%f %f %f\n" each. BoundaryOpenError when the file cannot be written;
+/// FileError when the disk fails on the way; the old file stays in both cases.
+void writeBoundary(const SBndFile& boundary);
+
+}  // namespace vorlan

@@ -1,0 +1,58 @@
+#include "io/ReadFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <new>
+
+#include "io/FileDescriptor.h"
+#include "io/FileError.h"
+
+namespace vorlan {
+
+namespace {
+
+FileError readError(const std::filesystem::path& path, int error) {
+    const bool missing = error == ENOENT || error == ENOTDIR;
+    return FileError::cannotRead(missing ? FileError::Kind::Missing : FileError::Kind::Unreadable, path,
+                                 missing ? "there is no such file" : systemReason(error));
+}
+
+}  // namespace
+
+FileContent readFile(const std::filesystem::path& path) {
+    // Not to wait for the other end of a pipe: what is no regular file is refused below.
+    FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status {};
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
+        throw readError(path, errno);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw FileError::cannotRead(FileError::Kind::NotAFile, path,
+                                    S_ISDIR(status.st_mode) ? "it is a folder" : "it is not a regular file");
+    }
+    const auto size = static_cast<std::size_t>(status.st_size);
+    std::unique_ptr<std::byte[]> bytes;
+    try {
+        bytes = std::make_unique_for_overwrite<std::byte[]>(size);
+    } catch (const std::bad_alloc&) {
+        throw FileError::cannotRead(FileError::Kind::Unreadable, path, "not enough memory");
+    }
+    std::size_t held = 0;
+    while (held < size) {
+        const ssize_t got = ::read(file.get(), bytes.get() + held, size - held);
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got < 0) {
+            throw readError(path, errno);
+        }
+        if (got == 0) {
+            break;  // somebody shortened the file meanwhile
+        }
+        held += static_cast<std::size_t>(got);
+    }
+    return {std::move(bytes), held};
+}
+
+}  // namespace vorlan

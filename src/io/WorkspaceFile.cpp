@@ -1,0 +1,60 @@
+#include "io/WorkspaceFile.h"
+
+#include <new>
+
+#include "io/AtomicFile.h"
+#include "io/ReadFile.h"
+#include "model/Archive.h"
+
+namespace vorlan {
+
+namespace {
+
+std::string placeIn(const std::filesystem::path& path, const ArchiveError& error) {
+    return path.string() + " (at byte " + std::to_string(error.offset()) + ")";
+}
+
+class AtomicFileSink : public ByteSink {
+  public:
+    explicit AtomicFileSink(AtomicFile& file) : file_(file) {}
+    void write(std::span<const std::byte> bytes) override { file_.write(bytes); }
+
+  private:
+    AtomicFile& file_;
+};
+
+}  // namespace
+
+Workspace openWorkspace(const std::filesystem::path& path) {
+    const FileContent content = readFile(path);
+    if (content.bytes().empty()) {
+        throw FileError::cannotRead(FileError::Kind::Empty, path, "it is empty");
+    }
+    Archive archive = Archive::loading(content.bytes());
+    Workspace workspace;
+    try {
+        workspace.Serialize(archive);
+    } catch (const InvalidVersionError& error) {
+        throw FileError(FileError::Kind::Format, path, error.what(), error.what(), error.offset());
+    } catch (const EndOfFileError& error) {
+        throw FileError(FileError::Kind::EndOfFile, path, "Unexpected end of file: " + placeIn(path, error),
+                        error.what(), error.offset());
+    } catch (const ArchiveError& error) {
+        throw FileError(FileError::Kind::Format, path, std::string(error.what()) + ": " + placeIn(path, error),
+                        error.what(), error.offset());
+    } catch (const std::bad_alloc&) {
+        throw FileError::cannotRead(FileError::Kind::Unreadable, path, "not enough memory");
+    }
+    return workspace;
+}
+
+void saveWorkspace(Workspace& workspace, const std::filesystem::path& path) {
+    AtomicFile file(path);
+    AtomicFileSink sink(file);
+    Archive archive = Archive::storing(sink);
+    workspace.Serialize(archive);
+    archive.flush();
+    file.commit();
+}
+
+}  // namespace vorlan

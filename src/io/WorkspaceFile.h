@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+#include "io/FileError.h"
+#include "model/Workspace.h"
+
+namespace vorlan {
+
+/// Reads a workspace file. FileError of kind Missing, NotAFile, Unreadable or Empty; EndOfFile for a file that ends
+/// too early (or announces more than it holds); Format for one that is no workspace, whose text is then exactly
+/// "Invalid Workspace format.". A damaged count never costs more memory than a small multiple of the file.
+Workspace openWorkspace(const std::filesystem::path& path);
+
+/// Replaces the file by the workspace, complete or not at all (see AtomicFile). Columns go to the file as they lie in
+/// the model: no second copy is held. The workspace is not changed.
+void saveWorkspace(Workspace& workspace, const std::filesystem::path& path);
+
+}  // namespace vorlan
