@@ -5,10 +5,15 @@
 
 namespace vorlan {
 
+/// True when the integer part of v is a 32-bit integer.
+inline bool fitsInt32(double v) {
+    return v > -2147483649.0 && v < 2147483648.0;
+}
+
 /// The one conversion of a double into a stored integer: truncation toward zero. What a 32-bit integer cannot hold
 /// (NaN included) gives the most negative integer, as the processor's own conversion does.
 inline std::int32_t truncateToInt32(double v) {
-    if (!(v > -2147483649.0 && v < 2147483648.0)) {
+    if (!fitsInt32(v)) {
         return std::numeric_limits<std::int32_t>::min();
     }
     return static_cast<std::int32_t>(v);
