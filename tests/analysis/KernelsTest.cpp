@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+
+#include "analysis/kernels/SlidingProducts.h"
+#include "analysis/kernels/SquaredDifferences.h"
+#include "analysis/kernels/TrigonometricSums.h"
+#include "model/Errors.h"
+
+namespace vorlan {
+namespace {
+
+using Values = std::vector<double>;
+
+/// Deviations of several magnitudes, both signs and some exact zeros: sums of them depend on their order.
+Values roughSeries(std::size_t size, std::uint32_t seed) {
+    Values values(size);
+    for (double& v : values) {
+        seed = seed * 1664525U + 1013904223U;
+        v = (static_cast<double>(seed >> 8) / 16777216.0 - 0.5) * (seed % 7 == 0 ? 300.0 : 2.7);
+        if (seed % 31 == 0) {
+            v = 0.0;
+        }
+    }
+    return values;
+}
+
+std::vector<std::uint64_t> bytesOf(const Values& values) {
+    std::vector<std::uint64_t> bytes;
+    for (const double v : values) {
+        bytes.push_back(std::bit_cast<std::uint64_t>(v));
+    }
+    return bytes;
+}
+
+class EverySet : public testing::TestWithParam<InstructionSet> {
+  protected:
+    const KernelSet& kernels() const { return kernelsOf(GetParam()); }
+    NoProgress progress_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Kernels, EverySet, testing::ValuesIn(availableInstructionSets()),
+                         [](const auto& set) { return std::string(nameOf(set.param)); });
+
+// Sizes below a register, around a block of lags of every set, and beyond several blocks.
+const std::vector<std::size_t> kSizes = {1, 2, 3, 7, 8, 9, 15, 17, 47, 48, 49, 127, 128, 129, 255, 257, 401, 1003};
+
+TEST_P(EverySet, SlidingProductsHaveTheBytesOfThePlainLoop) {
+    for (const std::size_t n : kSizes) {
+        const Values x = roughSeries(n, 1);
+        for (const std::size_t taps : {n, n / 2 + 1, std::size_t{1}}) {
+            const Values y = roughSeries(taps, 2);
+            for (const std::size_t lags : {std::size_t{0}, std::size_t{1}, n / 2, n, n + 5}) {
+                Values expected(lags);
+                for (std::size_t k = 0; k < lags; ++k) {
+                    for (std::size_t j = 0; j < taps && j + k < n; ++j) {
+                        expected[k] += x[j + k] * y[j];
+                    }
+                }
+                ASSERT_EQ(bytesOf(slidingProducts(x, y, lags, progress_, kernels())), bytesOf(expected))
+                    << n << " samples, " << taps << " factors, " << lags << " lags";
+            }
+        }
+    }
+}
+
+TEST_P(EverySet, SquaredDifferencesHaveTheBytesOfThePlainLoop) {
+    for (const std::size_t n : kSizes) {
+        const Values d = roughSeries(n, 3);
+        for (const std::size_t lags : {std::size_t{0}, std::size_t{1}, (n + 1) / 2, n}) {
+            Values expected(lags);
+            for (std::size_t k = 0; k < lags; ++k) {
+                for (std::size_t j = 0; j + k < n; ++j) {
+                    expected[k] += (d[j] - d[j + k]) * (d[j] - d[j + k]);
+                }
+            }
+            ASSERT_EQ(bytesOf(squaredDifferences(d, lags, progress_, kernels())), bytesOf(expected))
+                << n << " samples, " << lags << " lags";
+        }
+    }
+}
+
+TEST_P(EverySet, SumsCutIntoPiecesKeepTheirOrder) {
+    // Longer than one piece of work within a block of lags.
+    const std::size_t n = 70001;
+    const std::size_t lags = 3;
+    const Values d = roughSeries(n, 4);
+    Values products(lags);
+    Values squares(lags);
+    for (std::size_t k = 0; k < lags; ++k) {
+        for (std::size_t j = 0; j + k < n; ++j) {
+            products[k] += d[j + k] * d[j];
+            squares[k] += (d[j] - d[j + k]) * (d[j] - d[j + k]);
+        }
+    }
+    EXPECT_EQ(bytesOf(slidingProducts(d, d, lags, progress_, kernels())), bytesOf(products));
+    EXPECT_EQ(bytesOf(squaredDifferences(d, lags, progress_, kernels())), bytesOf(squares));
+}
+
+TEST_P(EverySet, TrigonometricSumsFollowTheWrittenPi) {
+    constexpr long double kWrittenPi = 3.141592653589;  // the double
+    for (const std::size_t length : {1U, 2U, 63U, 64U, 65U, 200U, 1501U}) {
+        const std::vector<Values> terms = {roughSeries(length, 5), roughSeries(length, 6), roughSeries(length, 7),
+                                           roughSeries(length, 8)};
+        const std::size_t frequencies = length + 1;
+        const auto cosines = cosineSums(terms, length, frequencies, progress_, kernels());
+        const auto sines = sineSums(terms, length, frequencies, progress_, kernels());
+        for (std::size_t s = 0; s < terms.size(); ++s) {
+            for (std::size_t i = 0; i < frequencies; i += 1 + length / 40) {
+                long double cosine = 0.0L;
+                long double sine = 0.0L;
+                for (std::size_t k = 0; k < length; ++k) {
+                    const long double phase = kWrittenPi * static_cast<long double>(i * k) / length;
+                    cosine += terms[s][k] * std::cos(phase);
+                    sine += terms[s][k] * std::sin(phase);
+                }
+                // True pi would be off by about 1e-9 for the longest.
+                ASSERT_NEAR(cosines[s][i], static_cast<double>(cosine), 1e-11) << length << ' ' << i;
+                ASSERT_NEAR(sines[s][i], static_cast<double>(sine), 1e-11) << length << ' ' << i;
+            }
+        }
+    }
+}
+
+TEST(Kernels, EverySetGivesTheSameTrigonometricBytes) {
+    NoProgress progress;
+    const KernelSet& plain = kernelsOf(InstructionSet::Plain);
+    for (const std::size_t length : {5U, 130U, 777U}) {
+        const std::vector<Values> terms(5, roughSeries(length, 9));
+        const auto cosines = cosineSums(terms, length + 1, length + 3, progress, plain);
+        const auto sines = sineSums(terms, length + 1, length + 3, progress, plain);
+        for (const InstructionSet set : availableInstructionSets()) {
+            const auto otherCosines = cosineSums(terms, length + 1, length + 3, progress, kernelsOf(set));
+            const auto otherSines = sineSums(terms, length + 1, length + 3, progress, kernelsOf(set));
+            for (std::size_t s = 0; s < terms.size(); ++s) {
+                EXPECT_EQ(bytesOf(otherCosines[s]), bytesOf(cosines[s])) << nameOf(set);
+                EXPECT_EQ(bytesOf(otherSines[s]), bytesOf(sines[s])) << nameOf(set);
+                // How many series are summed together does not show.
+                EXPECT_EQ(bytesOf(otherCosines[s]), bytesOf(otherCosines[0]));
+            }
+        }
+    }
+}
+
+TEST(Kernels, UnequalSeriesAndNoLengthAreRefused) {
+    NoProgress progress;
+    const std::vector<Values> unequal = {Values(3), Values(4)};
+    EXPECT_THROW(cosineSums(unequal, 5, 5, progress), InvalidArgument);
+    const std::vector<Values> one = {Values(3)};
+    EXPECT_THROW(sineSums(one, 0, 5, progress), InvalidArgument);
+    EXPECT_TRUE(cosineSums({}, 5, 5, progress).empty());
+}
+
+TEST(Kernels, TheEnvironmentForcesOnlyWhatTheProcessorHas) {
+    const std::vector<InstructionSet> sets = availableInstructionSets();
+    for (const InstructionSet set : sets) {
+        EXPECT_EQ(chosenInstructionSet(nameOf(set)), set);
+        EXPECT_EQ(kernelsOf(set).set, set);
+    }
+    EXPECT_EQ(chosenInstructionSet(""), sets.back());
+    EXPECT_EQ(chosenInstructionSet("AVX9"), sets.back());
+    EXPECT_EQ(sets.front(), InstructionSet::Plain);
+}
+
+}  // namespace
+}  // namespace vorlan
