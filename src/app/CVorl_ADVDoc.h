@@ -6,9 +6,16 @@
 #include <optional>
 #include <string>
 
+#include "analysis/Editing.h"
+#include "analysis/EditingSettings.h"
+#include "analysis/FilterSettings.h"
+#include "analysis/HistogramSettings.h"
 #include "analysis/Progress.h"
+#include "analysis/QuadrantSettings.h"
+#include "analysis/RotationSettings.h"
 #include "analysis/Simulation.h"
 #include "analysis/SpectralSettings.h"
+#include "analysis/StationaritySettings.h"
 #include "app/DocumentPort.h"
 #include "model/Workspace.h"
 
@@ -91,17 +98,38 @@ class CVorl_ADVDoc {
     /// Compares selection and stage with those of the last test, and takes them over when anything differs.
     bool TestSelectionChange();
 
-    // Commands.
+    // Data files.
 
     Outcome CloseFile();
-    Outcome ResetTimeSeries();
-    Outcome SpectralAnalysis(const SpectralSettings& settings);
-    Outcome SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed);
-    Outcome SetMeanVelocity(const MeanVelocitySettings& settings);
-    MeanVelocitySettings GetMeanVelocity() const;
     /// Appends a data file made elsewhere and selects it, without a probe.
     void AppendFile(SAdvFile file);
+    Outcome SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed);
 
+    // Pre-processing. Each ends with the change rule: when a stage of the probe is done, the user is asked whether all
+    // done stages shall be repeated.
+
+    Outcome EnterZoomMode();
+    /// Keeps the working record from tStart to tEnd, s.
+    Outcome Clip(double tStart, double tEnd);
+    Outcome ResetTimeSeries();
+    Outcome ChangeCoordinateSystem(const RotationSettings& settings);
+    Outcome EditTimeSeries(const EditingSettings& settings);
+    /// What the last EditTimeSeries() found.
+    const EditingResult& LastEditing() const { return lastEditing_; }
+    Outcome FilterTimeSeries(const FilterSettings& settings);
+
+    // Analysis.
+
+    Outcome StationarityAnalysis(const StationaritySettings& settings);
+    Outcome Distributions(const HistogramSettings& settings);
+    Outcome SpectralAnalysis(const SpectralSettings& settings);
+    Outcome CrossSpectralAnalysis();
+    Outcome QuadrantsAnalysis(const QuadrantSettings& settings);
+
+    // Tools and attributes.
+
+    Outcome SetMeanVelocity(const MeanVelocitySettings& settings);
+    MeanVelocitySettings GetMeanVelocity() const;
     /// The stored attributes of a diagram of the active probe, created from the defaults when there are none.
     void SetFrame(int group, int record, const FrameAttributesType& frame);
     /// The same for the plans that span all files.
@@ -119,6 +147,10 @@ class CVorl_ADVDoc {
     SAdvProbe& ProbeForWriting();
     /// Runs operation on a copy of the active probe and writes the copy back when it is done.
     Outcome RunOnProbe(const ProbeOperation& operation, int progressOffset);
+    /// RunOnProbe for a change of the working series: change, then the change rule, then the probe's moments.
+    Outcome ChangeSeries(const ProbeOperation& change);
+    /// RunOnProbe for an analysis; enters its stage when it is done.
+    Outcome Analyse(Stage stage, const ProbeOperation& analysis, int progressOffset = -1);
     /// The question that every change of the working series ends with; OK repeats the done stages on the copy.
     void ApplyChangeRule(SAdvProbe& copy, Progress& progress);
     /// Appends the stage's tab to the active probe when it has none and makes the stage current.
@@ -133,6 +165,7 @@ class CVorl_ADVDoc {
     std::filesystem::path path_;
     bool modified_ = false;
     bool running_ = false;
+    EditingResult lastEditing_;
 };
 
 }  // namespace vorlan

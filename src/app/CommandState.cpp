@@ -146,39 +146,44 @@ std::vector<Need> needsOf(Command command) {
         case Command::BitmapCopy:
             return {Need::DataFile};
         case Command::ExportVelocities:
-            return {Need::Probe};
-        case Command::ExportSpectral:
-            return {Need::Probe, Need::SpectralDone};
-        case Command::ResultsTable:
-            return {Need::Probe, Need::TableStage};
-        case Command::PlotFrameOptions:
-            return {Need::Probe, Need::DiagramInView};
-        case Command::ResetTimeSeries:
-            return {Need::Probe, Need::PreProcessing};
-        case Command::SpectralAnalysis:
-            return {Need::Probe, Need::AllSamples};
-        // Offered once their stage exists.
-        case Command::ExportStationarity:
-        case Command::ExportHistograms:
         case Command::ExportStatistics:
         case Command::ExportScales:
         case Command::ExportStresses:
         case Command::ExportStressStatistics:
+        case Command::Histograms:
+            return {Need::Probe};
+        case Command::ExportStationarity:
+            return {Need::Probe, Need::StationarityDone};
+        case Command::ExportHistograms:
+            return {Need::Probe, Need::HistogramsDone};
+        case Command::ExportSpectral:
+            return {Need::Probe, Need::SpectralDone};
         case Command::ExportCrossSpectral:
+            return {Need::Probe, Need::CrossSpectralDone};
         case Command::ExportContributions:
         case Command::ExportTimes:
         case Command::ExportPatterns:
+            return {Need::Probe, Need::QuadrantsDone};
+        case Command::ResultsTable:
+            return {Need::Probe, Need::TableStage};
+        case Command::PlotFrameOptions:
+            return {Need::Probe, Need::DiagramInView};
+        case Command::ZoomAndClipping:
+        case Command::ResetTimeSeries:
+        case Command::CoordinateSystem:
+        case Command::EditingTimeSeries:
+            return {Need::Probe, Need::PreProcessing};
+        case Command::DigitalFiltration:
+        case Command::StationarityAnalysis:
+        case Command::SpectralAnalysis:
+        case Command::QuadrantsAnalysis:
+            return {Need::Probe, Need::AllSamples};
+        case Command::CrossSpectralAnalysis:
+            return {Need::Probe, Need::AllSamples, Need::SpectralDone};
+        // Offered once their stage exists.
         case Command::PageSetup:
         case Command::PrintPreview:
         case Command::Print:
-        case Command::ZoomAndClipping:
-        case Command::CoordinateSystem:
-        case Command::EditingTimeSeries:
-        case Command::DigitalFiltration:
-        case Command::StationarityAnalysis:
-        case Command::Histograms:
-        case Command::CrossSpectralAnalysis:
-        case Command::QuadrantsAnalysis:
         case Command::MeanVelocityVectors:
         case Command::ExtractDissipationRate:
         case Command::ExtractScales:

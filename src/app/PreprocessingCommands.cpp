@@ -1,0 +1,88 @@
+// The document's commands that change the working record.
+#include "analysis/Clipping.h"
+#include "analysis/Filtration.h"
+#include "analysis/ProbeMoments.h"
+#include "analysis/Rotation.h"
+#include "app/CVorl_ADVDoc.h"
+
+namespace vorlan {
+
+Outcome CVorl_ADVDoc::ChangeSeries(const ProbeOperation& change) {
+    const Outcome outcome = RunOnProbe(
+        [&](SAdvProbe& copy, Progress& progress) {
+            const Outcome changed = change(copy, progress);
+            if (changed == Outcome::Done) {
+                ApplyChangeRule(copy, progress);
+                computeProbeMoments(copy);
+            }
+            return changed;
+        },
+        -1);
+    Tell(outcome == Outcome::Done ? Change::Content : Change::View);
+    return outcome;
+}
+
+Outcome CVorl_ADVDoc::EnterZoomMode() {
+    const Outcome outcome = RunOnProbe(
+        [](SAdvProbe& copy, Progress&) {
+            enterZoomMode(copy);
+            return Outcome::Done;
+        },
+        -1);
+    Tell(Change::Content);
+    return outcome;
+}
+
+Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
+    return ChangeSeries([&](SAdvProbe& copy, Progress&) {
+        if (!clip(copy, tStart, tEnd)) {
+            port_->refuse(kClippingLimitsWrong);
+            return Outcome::Refused;
+        }
+        return Outcome::Done;
+    });
+}
+
+Outcome CVorl_ADVDoc::ResetTimeSeries() {
+    return ChangeSeries([](SAdvProbe& copy, Progress&) {
+        resetProbe(copy);
+        return Outcome::Done;
+    });
+}
+
+Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
+    return ChangeSeries([&](SAdvProbe& copy, Progress&) {
+        changeCoordinateSystem(copy, settings);
+        return Outcome::Done;
+    });
+}
+
+Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
+    storeEditingSettings(settings, workspace_.settings);
+    SetModified();
+    const Outcome outcome = ChangeSeries([&](SAdvProbe& copy, Progress&) {
+        lastEditing_ = editSeries(copy, settings);
+        return Outcome::Done;
+    });
+    return outcome;
+}
+
+Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
+    storeFilterSettings(settings, workspace_.settings);
+    SetModified();
+    return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+        const FilterDecision decision = decideFilter(settings, copy.WorkingSamples(), copy.samplingInterval);
+        for (const std::string& refusal : decision.refusals) {
+            port_->refuse(refusal);
+        }
+        if (!decision.run) {
+            // At equality with a limit nothing happens and nothing is said.
+            return decision.refusals.empty() ? Outcome::Cancelled : Outcome::Refused;
+        }
+        filterVelocities(copy, settings, progress);
+        finishFiltration(copy);
+        return Outcome::Done;
+    });
+}
+
+}  // namespace vorlan
