@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "analysis/CrossLagWindow.h"
+#include "analysis/kernels/SlidingProducts.h"
+#include "analysis/kernels/TrigonometricSums.h"
 #include "model/Angles.h"
 #include "model/Errors.h"
 
@@ -22,16 +24,17 @@ std::size_t commonLength(std::span<const std::vector<double>> functions) {
     return length;
 }
 
-/// The functions times their window, for the lags that enter the sums.
-Functions windowed(std::span<const std::vector<double>> functions, int windowCode, std::size_t length) {
-    Functions result(functions.begin(), functions.end());
-    for (std::size_t k = 0; k < length; ++k) {
-        const double weight = crossLagWindowWeight(windowCode, static_cast<double>(k), static_cast<double>(length));
-        for (std::vector<double>& function : result) {
-            function[k] = weight * function[k];
+/// The functions times their window for lags 1..last, 0 for the lags that do not take part.
+Functions windowed(std::span<const std::vector<double>> functions, int windowCode, std::size_t last) {
+    Functions terms;
+    for (const std::vector<double>& function : functions) {
+        const auto length = static_cast<double>(function.size());
+        std::vector<double>& term = terms.emplace_back(function.size());
+        for (std::size_t k = 1; k <= last; ++k) {
+            term[k] = crossLagWindowWeight(windowCode, static_cast<double>(k), length) * function[k];
         }
     }
-    return result;
+    return terms;
 }
 
 double scaled(double atZero, double sum, const CrossSpectrumRun& run) {
@@ -46,54 +49,44 @@ std::vector<double> crossCovariance(std::span<const double> x, std::span<const d
     if (x.size() != y.size() || lags < 0 || static_cast<std::size_t>(lags) > x.size()) {
         throw InvalidArgument();
     }
-    std::vector<double> result(static_cast<std::size_t>(lags));
+    // Without the last sample of the moved series every lag loses its last product.
+    const std::span<const double> moved = x.first(x.empty() ? 0 : x.size() - 1);
+    std::vector<double> result = slidingProducts(moved, y, static_cast<std::size_t>(lags), progress);
     for (std::size_t k = 0; k < result.size(); ++k) {
-        const std::size_t n = x.size() - k;
-        double sum = 0.0;
-        for (std::size_t j = 0; j + 1 < n; ++j) {
-            sum += x[j + k] * y[j];
-        }
-        result[k] = sum / static_cast<double>(n);
-        progress.breathe();
+        result[k] /= static_cast<double>(x.size() - k);
     }
     return result;
 }
 
 Functions coSpectra(std::span<const std::vector<double>> even, const CrossSpectrumRun& run, Progress& progress) {
     const std::size_t length = commonLength(even);
-    const Functions terms = windowed(even, run.windowCode, length);
-    Functions result(even.size(), std::vector<double>(length));
-    for (std::size_t i = 0; i < length; ++i) {
-        for (std::size_t f = 0; f < even.size(); ++f) {
-            double sum = 0.0;
-            for (std::size_t k = 1; k + 1 < length; ++k) {
-                sum += terms[f][k] *
-                       std::cos(static_cast<double>(i) * kPi * static_cast<double>(k) / static_cast<double>(length));
-            }
-            result[f][i] = scaled(even[f][0], sum, run);
-        }
-        progress.breathe();
+    if (length == 0) {
+        return Functions(even.size());
     }
-    return result;
+    const Functions terms = windowed(even, run.windowCode, length < 2 ? 0 : length - 2);
+    Functions spectra = cosineSums(terms, length, length, progress);
+    for (std::size_t f = 0; f < spectra.size(); ++f) {
+        for (double& value : spectra[f]) {
+            value = scaled(even[f][0], value, run);
+        }
+    }
+    return spectra;
 }
 
 Functions quadratureSpectra(std::span<const std::vector<double>> odd, const CrossSpectrumRun& run, Progress& progress) {
     const std::size_t length = commonLength(odd);
-    const Functions terms = windowed(odd, run.windowCode, length);
-    const std::size_t size = length < 2 ? length : length - 1;
-    Functions result(odd.size(), std::vector<double>(size));
-    for (std::size_t i = 1; i < size; ++i) {
-        for (std::size_t f = 0; f < odd.size(); ++f) {
-            double sum = 0.0;
-            for (std::size_t k = 1; k < length; ++k) {
-                sum += terms[f][k] *
-                       std::sin(static_cast<double>(i) * kPi * static_cast<double>(k) / static_cast<double>(length));
-            }
-            result[f][i] = scaled(odd[f][0], sum, run);
-        }
-        progress.breathe();
+    if (length == 0) {
+        return Functions(odd.size());
     }
-    return result;
+    const std::size_t size = length < 2 ? 1 : length - 1;
+    Functions spectra = sineSums(windowed(odd, run.windowCode, length - 1), length, size, progress);
+    for (std::size_t f = 0; f < spectra.size(); ++f) {
+        spectra[f][0] = 0.0;
+        for (std::size_t i = 1; i < size; ++i) {
+            spectra[f][i] = scaled(odd[f][0], spectra[f][i], run);
+        }
+    }
+    return spectra;
 }
 
 double crossPhase(double co, double quadrature) {
