@@ -1,0 +1,324 @@
+#include <gtest/gtest.h>
+
+#include "StressRecord.h"
+#include "analysis/AnalysedSeries.h"
+#include "analysis/CrossLagWindow.h"
+#include "analysis/CrossSpectralAnalysis.h"
+#include "analysis/CrossSpectralFunctions.h"
+#include "analysis/LagWindow.h"
+#include "analysis/SpectralAnalysis.h"
+#include "analysis/Stresses.h"
+
+namespace vorlan {
+namespace {
+
+using namespace stress_test;
+
+double plainWeight(int code, int k, int length) {
+    const double l = length;
+    if (code == 1) {
+        return (std::cos(stress_test::kPi * k / l) + 1.0) * 0.5;
+    }
+    if (code == 2) {
+        return (1.0 - k) / l;
+    }
+    if (code == 3) {
+        const double s = k / l;
+        return k <= l / 2.0 ? 1.0 - 6.0 * s * s + 6.0 * s * s * s : 2.0 * (1.0 - s) * (1.0 - s) * (1.0 - s);
+    }
+    return 1.0;
+}
+
+/// The six cross-spectral sets of one pair as stored integers, by the definitions.
+struct PlainPair {
+    std::vector<std::int32_t> forward, backward, co, quadrature, phase, coherence;
+};
+
+std::vector<std::int32_t> plainCovariance(const std::vector<double>& x, const std::vector<double>& y, int lags) {
+    std::vector<std::int32_t> result;
+    for (int k = 0; k < lags; ++k) {
+        const int n = static_cast<int>(x.size()) - k;
+        double sum = 0.0;
+        for (int j = 0; j <= n - 2; ++j) {
+            sum += x[static_cast<std::size_t>(j + k)] * y[static_cast<std::size_t>(j)];
+        }
+        result.push_back(held(sum / n, 1e-7));
+    }
+    return result;
+}
+
+PlainPair plainPair(const SAdvProbe& probe, int pair) {
+    const Columns fluctuations = fluctuationsOf(probe);
+    const auto& x = fluctuations[static_cast<std::size_t>(kFirst[pair])];
+    const auto& y = fluctuations[static_cast<std::size_t>(kSecond[pair])];
+    const int lags = static_cast<int>(probe.spectralLags);
+    const int code = static_cast<int>(probe.spectralWindow);
+    const double dt = probe.samplingInterval;
+    PlainPair plain;
+    plain.forward = plainCovariance(x, y, lags);
+    plain.backward = plainCovariance(y, x, lags);
+    const auto half = [&](int k, double sign) {
+        const auto i = static_cast<std::size_t>(k);
+        return held((plain.forward[i] * 1e-7 + sign * (plain.backward[i] * 1e-7)) * 0.5, 1e-7) * 1e-7;
+    };
+    const auto scaled = [&](double zero, double sum) {
+        return probe.spectralUnit == 1 ? (zero + 2.0 * sum) * dt / stress_test::kPi : 2.0 * (zero + 2.0 * sum) * dt;
+    };
+    for (int i = 0; i < lags; ++i) {
+        double sum = 0.0;
+        for (int k = 1; k <= lags - 2; ++k) {
+            sum += plainWeight(code, k, lags) * half(k, 1.0) * std::cos(i * stress_test::kPi * k / lags);
+        }
+        plain.co.push_back(held(scaled(half(0, 1.0), sum), 1e-7));
+    }
+    plain.quadrature.push_back(0);
+    for (int i = 1; i <= lags - 2; ++i) {
+        double sum = 0.0;
+        for (int k = 1; k <= lags - 1; ++k) {
+            sum += plainWeight(code, k, lags) * half(k, -1.0) * std::sin(i * stress_test::kPi * k / lags);
+        }
+        plain.quadrature.push_back(held(scaled(half(0, -1.0), sum), 1e-7));
+    }
+    for (int i = 0; i <= lags - 2; ++i) {
+        const double c = plain.co[static_cast<std::size_t>(i)] * 1e-7;
+        const double q = plain.quadrature[static_cast<std::size_t>(i)] * 1e-7;
+        double degrees = std::atan(q / c) * 180.0 / stress_test::kPi;
+        if (c < 0.0) {
+            degrees = degrees + 180.0;
+        } else if (!(q < 0.0)) {
+            degrees = degrees + 360.0;
+        }
+        plain.phase.push_back(held(degrees > 180.0 ? degrees - 360.0 : degrees, 1e-7));
+    }
+    for (std::size_t i = 0; i < plain.quadrature.size(); ++i) {
+        const double c = plain.co[i] * 1e-7;
+        const double q = plain.quadrature[i] * 1e-7;
+        const double sx = probe.Series(kFirst[pair]).spectrum.GetAt(static_cast<int>(i)) * 1e-7;
+        const double sy = probe.Series(kSecond[pair]).spectrum.GetAt(static_cast<int>(i)) * 1e-7;
+        const double g = (c * c + q * q) / (sx * sy);
+        plain.coherence.push_back(held(std::isnan(g) || g > 1.0 ? 1.0 : g, 1e-7));
+    }
+    return plain;
+}
+
+SAdvProbe spectrallyAnalysed(int samples, int lags, int window, int unit, double coupling = -0.4) {
+    SAdvProbe probe = correlatedProbe(samples, coupling);
+    formAnalysedSeries(probe);
+    NoProgress silent;
+    analyseSpectra(probe, {lags, window, unit}, silent);
+    return probe;
+}
+
+class Recorder : public NoProgress {
+  public:
+    void status(const std::string& text) override { texts.push_back(text); }
+    void position(int percent) override { positions.push_back(percent); }
+    std::vector<std::string> texts;
+    std::vector<int> positions;
+};
+
+struct CrossCase {
+    int samples;
+    int lags;
+    int window;
+    int unit;
+
+    friend void PrintTo(const CrossCase& c, std::ostream* out) {
+        *out << 'N' << c.samples << 'M' << c.lags << 'W' << c.window << 'F' << c.unit;
+    }
+};
+
+class CrossSpectralSets : public testing::TestWithParam<CrossCase> {};
+
+TEST_P(CrossSpectralSets, HoldTheIntegersOfThePlainLoops) {
+    const auto [samples, lags, window, unit] = GetParam();
+    SAdvProbe probe = spectrallyAnalysed(samples, lags, window, unit);
+    Recorder recorder;
+    analyseCrossSpectra(probe, recorder);
+
+    EXPECT_EQ(recorder.texts.front(), "Cross-spectral analysis calculations:");
+    EXPECT_EQ(recorder.positions, (std::vector<int>{5, 30, 50, 80, 90, 100}));
+    EXPECT_TRUE(probe.IsDone(DoneMark::CrossSpectral));
+    const std::array<const SMultiArray*, 6> tables = {&probe.workTables[6],  &probe.workTables[7],
+                                                      &probe.workTables[8],  &probe.workTables[9],
+                                                      &probe.stageTables[4], &probe.stageTables[5]};
+    for (const SMultiArray* table : tables) {
+        ASSERT_EQ(table->GetSize(), 3);
+        for (const SArray& column : *table) {
+            EXPECT_EQ(column.GetScale(), 1e-7);
+        }
+    }
+    for (int pair = 0; pair < 3; ++pair) {
+        const PlainPair plain = plainPair(probe, pair);
+        EXPECT_EQ(integers(tables[0]->GetAt(pair)), plain.forward);
+        EXPECT_EQ(integers(tables[1]->GetAt(pair)), plain.backward);
+        EXPECT_EQ(integers(tables[2]->GetAt(pair)), plain.co);
+        EXPECT_EQ(integers(tables[3]->GetAt(pair)), plain.quadrature);
+        EXPECT_EQ(integers(tables[4]->GetAt(pair)), plain.phase);
+        EXPECT_EQ(integers(tables[5]->GetAt(pair)), plain.coherence);
+    }
+}
+
+std::vector<CrossCase> crossCases() {
+    std::vector<CrossCase> cases;
+    for (int window = 0; window <= 3; ++window) {
+        for (int unit = 0; unit <= 1; ++unit) {
+            for (const int lags : {1, 2, 3, 4, 31, 32}) {
+                cases.push_back({64 + lags % 2, lags, window, unit});
+            }
+        }
+    }
+    // Long enough for every block of lags and frequencies that the kernels work on at once.
+    cases.push_back({700, 331, 1, 0});
+    cases.push_back({701, 350, 3, 1});
+    // The shortest record that has a lag.
+    cases.push_back({2, 1, 0, 0});
+    return cases;
+}
+
+INSTANTIATE_TEST_SUITE_P(WindowsUnitsAndLags, CrossSpectralSets, testing::ValuesIn(crossCases()),
+                         testing::PrintToStringParamName());
+
+TEST(CrossSpectralAnalysis, FormsStressesOnlyWhenThereAreNone) {
+    SAdvProbe probe = spectrallyAnalysed(50, 10, 0, 0);
+    SAdvProbe formed = probe;
+    formStresses(formed);
+    NoProgress silent;
+    analyseCrossSpectra(probe, silent);
+    analyseCrossSpectra(formed, silent);
+
+    const Columns fluctuations = fluctuationsOf(probe);
+    const std::array<double, 3> ownResolutions = {0.1, 0.05, 0.02};
+    for (int pair = 0; pair < 3; ++pair) {
+        const SArray& column = probe.workTables[SAdvProbe::kStresses].GetAt(pair);
+        const SArray& own = formed.workTables[SAdvProbe::kStresses].GetAt(pair);
+        EXPECT_EQ(column.GetScale(), 0.1);
+        EXPECT_EQ(own.GetScale(), ownResolutions[static_cast<std::size_t>(pair)]);
+        std::vector<double> values;
+        for (std::size_t j = 0; j < 50; ++j) {
+            const double product = fluctuations[static_cast<std::size_t>(kFirst[pair])][j] *
+                                   fluctuations[static_cast<std::size_t>(kSecond[pair])][j];
+            EXPECT_EQ(column.GetAt(static_cast<int>(j)), held(product, 0.1));
+            EXPECT_EQ(own.GetAt(static_cast<int>(j)), held(product, own.GetScale()));
+            values.push_back(column.GetValue(static_cast<int>(j)));
+        }
+        EXPECT_EQ(probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(pair)], meanOf(values));
+    }
+}
+
+TEST(CrossSpectralAnalysis, ReplacesTheSetsOfAnEarlierRun) {
+    SAdvProbe probe = spectrallyAnalysed(80, 40, 1, 0);
+    NoProgress silent;
+    analyseCrossSpectra(probe, silent);
+    analyseSpectra(probe, {12, 1, 0}, silent);
+    analyseCrossSpectra(probe, silent);
+    SAdvProbe fresh = spectrallyAnalysed(80, 12, 1, 0);
+    analyseCrossSpectra(fresh, silent);
+    EXPECT_EQ(probe, fresh);
+}
+
+TEST(CrossSpectralAnalysis, IsRefusedWhenTheRecordBecameTooShort) {
+    SAdvProbe probe = spectrallyAnalysed(81, 40, 0, 0);
+    EXPECT_EQ(crossSpectralRefusal(probe), "");
+    for (SArray& column : probe.workTables[SAdvProbe::kVelocities]) {
+        column.SetSize(79);
+    }
+    EXPECT_EQ(crossSpectralRefusal(probe),
+              "Truncation point too large ! This value exceed of half time series length.");
+    NoProgress silent;
+    EXPECT_THROW(analyseCrossSpectra(probe, silent), InvalidArgument);
+    probe.spectralLags = 0xFFFFFFFFU;
+    EXPECT_NE(crossSpectralRefusal(probe), "");
+}
+
+TEST(CrossSpectralAnalysis, RefusesInconsistentRecords) {
+    NoProgress silent;
+    SAdvProbe withoutSpectra = spectrallyAnalysed(60, 10, 0, 0);
+    withoutSpectra.seriesW.ClearSpectralResults();
+    EXPECT_THROW(analyseCrossSpectra(withoutSpectra, silent), InvalidArgument);
+    SAdvProbe staleStresses = spectrallyAnalysed(60, 10, 0, 0);
+    formStresses(staleStresses);
+    staleStresses.workTables[SAdvProbe::kStresses].ElementAt(1).SetSize(59);
+    EXPECT_THROW(analyseCrossSpectra(staleStresses, silent), InvalidArgument);
+}
+
+TEST(CrossSpectralAnalysis, OfAnEmptyRecordGivesEmptySets) {
+    SAdvProbe probe;
+    NoProgress silent;
+    analyseCrossSpectra(probe, silent);
+    EXPECT_TRUE(probe.workTables[SAdvProbe::kCoSpectra].HasNoValues());
+    EXPECT_TRUE(probe.stageTables[SAdvProbe::kCoherence].HasNoValues());
+}
+
+TEST(CrossSpectralAnalysis, OfAConstantRecordIsCoherentByDefinition) {
+    SAdvProbe probe = spectrallyAnalysed(40, 8, 0, 0, 0.0);
+    for (SArray& column : probe.workTables[SAdvProbe::kVelocities]) {
+        std::fill(column.begin(), column.end(), 16);  // values that sum without rounding, so all deviations are 0
+        column.SetScale(0.125);
+    }
+    formAnalysedSeries(probe);
+    NoProgress silent;
+    analyseSpectra(probe, {8, 0, 0}, silent);
+    analyseCrossSpectra(probe, silent);
+    EXPECT_EQ(integers(probe.stageTables[SAdvProbe::kCoherence].GetAt(0)), std::vector<std::int32_t>(7, 10000000));
+    EXPECT_EQ(integers(probe.stageTables[SAdvProbe::kPhase].GetAt(2)),
+              std::vector<std::int32_t>(7, std::numeric_limits<std::int32_t>::min()));
+}
+
+TEST(CrossSpectralAnalysis, StopsWhenCancelled) {
+    class Impatient : public NoProgress {
+      public:
+        void breathe() override {
+            if (++breaths > 3) {
+                throw Cancelled();
+            }
+        }
+        int breaths = 0;
+    };
+    SAdvProbe probe = spectrallyAnalysed(400, 200, 0, 0);
+    Impatient impatient;
+    EXPECT_THROW(analyseCrossSpectra(probe, impatient), Cancelled);
+    EXPECT_FALSE(probe.IsDone(DoneMark::CrossSpectral));
+}
+
+TEST(CrossPhase, TurnsThroughAllQuadrants) {
+    EXPECT_NEAR(crossPhase(1.0, 1.0), 45.0, 1e-9);
+    EXPECT_NEAR(crossPhase(-1.0, 1.0), 135.0, 1e-9);
+    EXPECT_NEAR(crossPhase(-1.0, -1.0), -135.0, 1e-9);
+    EXPECT_NEAR(crossPhase(1.0, -1.0), -45.0, 1e-9);
+    EXPECT_NEAR(crossPhase(-1.0, 1e-9), 180.0, 1e-6);
+    EXPECT_NEAR(crossPhase(-1.0, -1e-9), -180.0, 1e-6);
+    EXPECT_NEAR(crossPhase(0.0, 2.0), 90.0, 1e-9);
+    EXPECT_NEAR(crossPhase(0.0, -2.0), -90.0, 1e-9);
+    EXPECT_TRUE(std::isnan(crossPhase(0.0, 0.0)));
+}
+
+TEST(SquaredCoherence, NeverExceedsOne) {
+    EXPECT_EQ(squaredCoherence(1.0, 1.0, 2.0, 4.0), 0.25);
+    EXPECT_EQ(squaredCoherence(3.0, 0.0, 2.0, 4.0), 1.0);
+    EXPECT_EQ(squaredCoherence(1.0, 0.0, 0.0, 4.0), 1.0);
+    EXPECT_EQ(squaredCoherence(0.0, 0.0, 0.0, 4.0), 1.0);
+}
+
+TEST(CrossLagWindow, DiffersFromTheUnivariateOneInBartlettOnly) {
+    EXPECT_EQ(crossLagWindowWeight(2, 0.0, 10.0), 0.1);
+    EXPECT_EQ(crossLagWindowWeight(2, 1.0, 10.0), 0.0);
+    EXPECT_EQ(crossLagWindowWeight(2, 6.0, 10.0), -0.5);
+    for (const int code : {0, 1, 3, 4, -1}) {
+        for (int k = 0; k <= 10; ++k) {
+            EXPECT_EQ(crossLagWindowWeight(code, k, 10.0), lagWindowWeight(code, k, 10.0));
+        }
+    }
+}
+
+TEST(CrossCovariance, RefusesSeriesThatDoNotMatch) {
+    NoProgress silent;
+    const std::vector<double> three(3, 1.0);
+    const std::vector<double> four(4, 1.0);
+    EXPECT_THROW(crossCovariance(three, four, 2, silent), InvalidArgument);
+    EXPECT_THROW(crossCovariance(four, four, 5, silent), InvalidArgument);
+    EXPECT_THROW(crossCovariance(four, four, -1, silent), InvalidArgument);
+}
+
+}  // namespace
+}  // namespace vorlan

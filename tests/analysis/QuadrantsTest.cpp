@@ -1,0 +1,377 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "StressRecord.h"
+#include "analysis/HoleSweep.h"
+#include "analysis/QuadrantSettings.h"
+#include "analysis/Quadrants.h"
+#include "analysis/Stresses.h"
+#include "model/DefaultFrames.h"
+
+namespace vorlan {
+namespace {
+
+using namespace stress_test;
+
+int plainQuadrant(double a, double b) {
+    if (a > 0.0 && b > 0.0) {
+        return 0;
+    }
+    if (a < 0.0 && b > 0.0) {
+        return 1;
+    }
+    if (a < 0.0 && b < 0.0) {
+        return 2;
+    }
+    return a > 0.0 && b < 0.0 ? 3 : 4;
+}
+
+/// The four result sets as stored integers, by the definitions: one loop over the samples per hole size and lag.
+struct PlainQuadrants {
+    std::array<std::vector<std::int32_t>, 5> contributions, times;
+    std::array<std::vector<std::int32_t>, 2> ejection, sweep;
+};
+
+std::vector<std::int32_t> plainPattern(const std::vector<double>& x, const std::vector<std::size_t>& events, int lag,
+                                       double deviation) {
+    std::vector<std::int32_t> result;
+    const auto samples = static_cast<long>(x.size());
+    for (long tau = -lag; tau <= lag; ++tau) {
+        double sum = 0.0;
+        int count = 0;
+        for (const std::size_t event : events) {
+            const long j = static_cast<long>(event) + tau;
+            if (j >= 0 && j < samples) {
+                sum += x[static_cast<std::size_t>(j)];
+                ++count;
+            }
+        }
+        result.push_back(count == 0 ? 0 : held(sum / count / deviation, 1e-4));
+    }
+    return result;
+}
+
+double plainDeviation(const SAdvProbe& probe, int component) {
+    const SArray& column = probe.workTables[0].GetAt(component);
+    std::vector<double> values;
+    for (int j = 0; j < column.GetSize(); ++j) {
+        values.push_back(column.GetAt(j) * column.GetScale());
+    }
+    const double mean = meanOf(values);
+    double squares = 0.0;
+    for (const double v : values) {
+        squares += (v - mean) * (v - mean);
+    }
+    return std::sqrt(squares / (static_cast<double>(values.size()) - 1.0));
+}
+
+/// The probe's stresses must have been formed.
+PlainQuadrants plainQuadrants(const SAdvProbe& probe, const QuadrantSettings& settings) {
+    const Columns fluctuations = fluctuationsOf(probe);
+    const int first = kFirst[settings.stressType];
+    const int second = kSecond[settings.stressType];
+    const auto& a = fluctuations[static_cast<std::size_t>(first)];
+    const auto& b = fluctuations[static_cast<std::size_t>(second)];
+    const SArray& column = probe.workTables[5].GetAt(settings.stressType);
+    std::vector<double> s;
+    for (int j = 0; j < column.GetSize(); ++j) {
+        s.push_back(column.GetAt(j) * column.GetScale());
+    }
+    const double m = meanOf(s);
+
+    PlainQuadrants plain;
+    const int sizes = static_cast<int>(settings.maximum / settings.increment);
+    for (int h = 0; h < sizes; ++h) {
+        const double hole = h * settings.increment;
+        std::array<std::uint32_t, 5> units{};
+        std::array<int, 5> counts{};
+        for (std::size_t j = 0; j < s.size(); ++j) {
+            const double r = s[j] / m;
+            const auto bucket = static_cast<std::size_t>(std::fabs(r) > hole ? plainQuadrant(a[j], b[j]) : 4);
+            units[bucket] += static_cast<std::uint32_t>(held(r, 1e-5));
+            ++counts[bucket];
+        }
+        double total = 0.0;
+        int samples = 0;
+        for (std::size_t q = 0; q < 5; ++q) {
+            total += static_cast<std::int32_t>(units[q]) * 1e-5;
+            samples += counts[q];
+        }
+        for (std::size_t q = 0; q < 5; ++q) {
+            plain.contributions[q].push_back(held(static_cast<std::int32_t>(units[q]) * 1e-5 / total, 1e-5));
+            plain.times[q].push_back(held(static_cast<double>(counts[q]) / samples, 1e-5));
+        }
+    }
+
+    std::array<std::vector<std::size_t>, 2> events;
+    for (std::size_t j = 0; j < s.size(); ++j) {
+        const int quadrant = plainQuadrant(a[j], b[j]);
+        if (m != 0.0 && quadrant == (m < 0.0 ? 1 : 0) && s[j] / m > settings.ejectionThreshold) {
+            events[0].push_back(j);
+        }
+        if (m != 0.0 && quadrant == (m < 0.0 ? 3 : 2) && s[j] / m > settings.sweepThreshold) {
+            events[1].push_back(j);
+        }
+    }
+    const int lag = static_cast<int>(settings.maximumLag / probe.samplingInterval);
+    for (std::size_t c = 0; c < 2; ++c) {
+        const double deviation = plainDeviation(probe, c == 0 ? first : second);
+        plain.ejection[c] = plainPattern(c == 0 ? a : b, events[0], lag, deviation);
+        plain.sweep[c] = plainPattern(c == 0 ? a : b, events[1], lag, deviation);
+    }
+    return plain;
+}
+
+void expectPlainResults(const SAdvProbe& probe, const QuadrantSettings& settings) {
+    const PlainQuadrants plain = plainQuadrants(probe, settings);
+    ASSERT_EQ(probe.stageTables[0].GetSize(), 5);
+    ASSERT_EQ(probe.stageTables[1].GetSize(), 5);
+    ASSERT_EQ(probe.stageTables[2].GetSize(), 2);
+    ASSERT_EQ(probe.stageTables[3].GetSize(), 2);
+    for (int q = 0; q < 5; ++q) {
+        EXPECT_EQ(integers(probe.stageTables[0].GetAt(q)), plain.contributions[static_cast<std::size_t>(q)]);
+        EXPECT_EQ(integers(probe.stageTables[1].GetAt(q)), plain.times[static_cast<std::size_t>(q)]);
+        EXPECT_EQ(probe.stageTables[0].GetAt(q).GetScale(), 1e-5);
+        EXPECT_EQ(probe.stageTables[1].GetAt(q).GetScale(), 1e-5);
+    }
+    for (int c = 0; c < 2; ++c) {
+        EXPECT_EQ(integers(probe.stageTables[2].GetAt(c)), plain.ejection[static_cast<std::size_t>(c)]);
+        EXPECT_EQ(integers(probe.stageTables[3].GetAt(c)), plain.sweep[static_cast<std::size_t>(c)]);
+        EXPECT_EQ(probe.stageTables[2].GetAt(c).GetScale(), 1e-4);
+        EXPECT_EQ(probe.stageTables[3].GetAt(c).GetScale(), 1e-4);
+    }
+}
+
+/// Increment, maximum, ejection threshold, sweep threshold, lag, stress type.
+QuadrantSettings settingsOf(double increment, double maximum, double ejection, double sweep, double lag, int type) {
+    return {increment, maximum, ejection, sweep, lag, type};
+}
+
+TEST(Quadrants, HoldTheIntegersOfThePlainLoops) {
+    for (const double coupling : {-0.4, 0.4}) {
+        for (int type = 0; type < 3; ++type) {
+            for (const int samples : {1, 2, 3, 333, 2000}) {
+                SAdvProbe probe = correlatedProbe(samples, coupling);
+                formStresses(probe);
+                for (const QuadrantSettings& settings :
+                     {settingsOf(0.2, 20.0, 1.0, 2.0, 2.0, type), settingsOf(0.3, 4.1, 0.0, 0.0, 20.0, type),
+                      settingsOf(2.0, 2.0, 3.0, 0.5, 0.03, type), settingsOf(0.001, 2.0, 1.0, 1.0, 3.21, type)}) {
+                    SCOPED_TRACE(testing::Message() << "coupling " << coupling << " type " << type << " samples "
+                                                    << samples << " increment " << settings.increment);
+                    NoProgress silent;
+                    analyseQuadrants(probe, settings, silent);
+                    expectPlainResults(probe, settings);
+                }
+            }
+        }
+    }
+}
+
+TEST(Quadrants, RecordsTheRun) {
+    for (const double coupling : {-0.4, 0.4}) {
+        SAdvProbe probe = correlatedProbe(500, coupling);
+        NoProgress silent;
+        analyseQuadrants(probe, settingsOf(0.25, 5.0, 1.0, 2.0, 2.5, 1), silent);
+        EXPECT_EQ(probe.stressesFormed, 1U);
+        EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetAt(2).GetScale(), 0.1);
+        EXPECT_EQ(probe.quadrantStress, 1U);
+        EXPECT_EQ(probe.statistics[18], 0.25);
+        EXPECT_EQ(probe.statistics[19], 5.0);
+        EXPECT_EQ(probe.statistics[20], 2.5);
+        EXPECT_EQ(probe.statistics[21], probe.statistics[SAdvProbe::kMeanStresses + 1]);
+        EXPECT_EQ(probe.statistics[21] > 0.0, coupling > 0.0);
+        EXPECT_TRUE(probe.IsDone(DoneMark::Quadrants));
+        EXPECT_EQ(probe.stageTables[0].GetAt(4).GetSize(), 20);
+        EXPECT_EQ(probe.stageTables[3].GetAt(1).GetSize(), 2 * 62 + 1);
+    }
+}
+
+TEST(Quadrants, SharesAddUpAndTheHoleGrows) {
+    SAdvProbe probe = correlatedProbe(3000, -0.4);
+    NoProgress silent;
+    analyseQuadrants(probe, QuadrantSettings(), silent);
+    ASSERT_EQ(probe.stageTables[0].GetAt(0).GetSize(), 100);
+    for (int h = 0; h < 100; ++h) {
+        double contribution = 0.0;
+        double time = 0.0;
+        for (int q = 0; q < 5; ++q) {
+            contribution += probe.stageTables[0].GetAt(q).GetValue(h);
+            time += probe.stageTables[1].GetAt(q).GetValue(h);
+        }
+        // Five values, each cut off below its fifth decimal.
+        EXPECT_NEAR(contribution, 1.0, 5e-5);
+        EXPECT_NEAR(time, 1.0, 5e-5);
+        if (h > 0) {
+            EXPECT_GE(probe.stageTables[1].GetAt(4).GetAt(h), probe.stageTables[1].GetAt(4).GetAt(h - 1));
+        }
+    }
+    EXPECT_GT(probe.stageTables[0].GetAt(1).GetValue(0), 0.0);
+    EXPECT_LT(probe.stageTables[0].GetAt(0).GetValue(0), 0.0);
+}
+
+/// A record of one repeated pattern of fluctuations, in whole units.
+SAdvProbe patternProbe(const std::vector<std::array<int, 3>>& pattern, int repeats) {
+    SAdvProbe probe;
+    probe.samplingInterval = 0.5;
+    SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    velocities.Reshape(3, 1.0);
+    for (int i = 0; i < repeats; ++i) {
+        for (const auto& sample : pattern) {
+            for (int c = 0; c < 3; ++c) {
+                velocities.ElementAt(c).Add(sample[static_cast<std::size_t>(c)]);
+            }
+        }
+    }
+    return probe;
+}
+
+TEST(Quadrants, CountSamplesOnAnAxisAndAtTheHoleSizeInTheHole) {
+    // Means 0; u'w' is 4, -4, -4, 0, 0: m = -0.8, r = -5, 5, 5, 0, 0.
+    SAdvProbe probe = patternProbe({{2, 0, 2}, {-2, 0, 2}, {2, 0, -2}, {-2, 0, 0}, {0, 0, -2}}, 1);
+    NoProgress silent;
+    analyseQuadrants(probe, settingsOf(1.0, 6.0, 1.0, 2.0, 2.0, 1), silent);
+    const SMultiArray& times = probe.stageTables[SAdvProbe::kTimes];
+    ASSERT_EQ(probe.statistics[21], -0.8);
+    const std::vector<std::int32_t> outside = {20000, 20000, 20000, 20000, 20000, 0};
+    EXPECT_EQ(integers(times.GetAt(0)), outside);
+    EXPECT_EQ(integers(times.GetAt(1)), outside);
+    EXPECT_EQ(integers(times.GetAt(2)), std::vector<std::int32_t>(6, 0));
+    EXPECT_EQ(integers(times.GetAt(3)), outside);
+    // The quotient 1 / 1e-5 falls just short of 100000, so a whole share is held as 0.99999.
+    EXPECT_EQ(integers(times.GetAt(4)), (std::vector<std::int32_t>{40000, 40000, 40000, 40000, 40000, 99999}));
+    const SMultiArray& contributions = probe.stageTables[SAdvProbe::kContributions];
+    EXPECT_EQ(contributions.GetAt(0).GetAt(0), -99999);
+    EXPECT_EQ(contributions.GetAt(1).GetAt(0), 99999);
+    EXPECT_EQ(contributions.GetAt(3).GetAt(4), 99999);
+    EXPECT_EQ(contributions.GetAt(4).GetAt(5), 99999);
+}
+
+TEST(Quadrants, WrapWhenASumLeavesThirtyTwoBits) {
+    // A mean stress near 0 makes every r large; the sums of the units then wrap.
+    SAdvProbe probe = patternProbe({{3, 0, 100}, {-3, 0, 100}, {3, 0, -100}, {-3, 0, -100}}, 150);
+    for (int c : {0, 2}) {
+        probe.workTables[0].ElementAt(c).Add(1);
+    }
+    probe.workTables[0].ElementAt(1).Add(0);
+    NoProgress silent;
+    const QuadrantSettings settings = settingsOf(50.0, 1000.0, 1.0, 2.0, 2.0, 1);
+    analyseQuadrants(probe, settings, silent);
+    expectPlainResults(probe, settings);
+}
+
+TEST(Quadrants, OfAZeroMeanStressAreDefined) {
+    SAdvProbe balanced = patternProbe({{2, 0, 2}, {-2, 0, 2}, {2, 0, -2}, {-2, 0, -2}}, 3);
+    SAdvProbe constant = patternProbe({{2, 0, 2}}, 7);
+    for (SAdvProbe* probe : {&balanced, &constant}) {
+        NoProgress silent;
+        const QuadrantSettings settings = settingsOf(0.5, 3.0, 1.0, 2.0, 2.0, 1);
+        analyseQuadrants(*probe, settings, silent);
+        EXPECT_EQ(probe->statistics[21], 0.0);
+        expectPlainResults(*probe, settings);
+        EXPECT_EQ(integers(probe->stageTables[SAdvProbe::kEjectionPattern].GetAt(0)), std::vector<std::int32_t>(9, 0));
+    }
+}
+
+TEST(Quadrants, OfAnEmptyRecordAreEmpty) {
+    SAdvProbe probe;
+    probe.samplingInterval = 0.5;
+    NoProgress silent;
+    analyseQuadrants(probe, QuadrantSettings(), silent);
+    EXPECT_TRUE(probe.stageTables[SAdvProbe::kContributions].HasNoValues());
+    EXPECT_EQ(integers(probe.stageTables[SAdvProbe::kSweepPattern].GetAt(1)), std::vector<std::int32_t>(41, 0));
+}
+
+TEST(Quadrants, WithANegativeIncrementAverageOnly) {
+    SAdvProbe probe = correlatedProbe(400, -0.4);
+    NoProgress silent;
+    for (const double maximum : {20.0, -20.0}) {
+        analyseQuadrants(probe, settingsOf(-0.2, maximum, 1.0, 2.0, 2.0, 1), silent);
+        EXPECT_TRUE(probe.stageTables[SAdvProbe::kContributions].HasNoValues());
+        EXPECT_EQ(probe.stageTables[SAdvProbe::kEjectionPattern].GetAt(0).GetSize(), 101);
+    }
+}
+
+TEST(Quadrants, RefuseWhatMemoryCannotBear) {
+    SAdvProbe probe = correlatedProbe(50, -0.4);
+    const SAdvProbe before = probe;
+    NoProgress silent;
+    for (const QuadrantSettings& settings :
+         {settingsOf(1e-9, 20.0, 1.0, 2.0, 2.0, 1), settingsOf(0.0, 20.0, 1.0, 2.0, 2.0, 1),
+          settingsOf(0.2, std::nan(""), 1.0, 2.0, 2.0, 1), settingsOf(0.2, 20.0, 1.0, 2.0, 1e9, 1),
+          settingsOf(0.2, 20.0, 1.0, 2.0, 2.0, 3), settingsOf(0.2, 20.0, 1.0, 2.0, 2.0, -1)}) {
+        EXPECT_THROW(analyseQuadrants(probe, settings, silent), InvalidArgument);
+    }
+    EXPECT_EQ(probe, before);
+    // At the limits themselves it runs.
+    analyseQuadrants(probe, settingsOf(1.0, kMaximumHoleSizes, 1.0, 2.0, 2.0, 1), silent);
+    EXPECT_EQ(probe.stageTables[SAdvProbe::kTimes].GetAt(4).GetSize(), kMaximumHoleSizes);
+}
+
+std::string patternTitles(const SAdvProbe& probe) {
+    const SFrameAtrArray& frames = probe.frameAttributes[5];
+    std::string titles;
+    for (const int record : {1, 3}) {
+        titles += (record < frames.GetSize() ? frames.GetAt(record).plotTitle : "none") + "|";
+    }
+    return titles;
+}
+
+TEST(Quadrants, TitleThePatternsByTheirEvents) {
+    const std::string interactions =
+        "Outward Interactions (dimensionless velocities)|Inward Interactions (dimensionless velocities)|";
+    const std::string defaults = "Ejection (dimensionless velocities)|Sweep (dimensionless velocities)|";
+    NoProgress silent;
+    SAdvProbe negative = correlatedProbe(300, -0.4);
+    analyseQuadrants(negative, QuadrantSettings(), silent);
+    EXPECT_EQ(patternTitles(negative), "none|none|");
+
+    SAdvProbe positive = correlatedProbe(300, 0.4);
+    analyseQuadrants(positive, QuadrantSettings(), silent);
+    EXPECT_EQ(patternTitles(positive), interactions);
+    EXPECT_EQ(positive.frameAttributes[5].GetAt(0), defaultFrame(5, 0));
+    EXPECT_EQ(positive.frameAttributes[5].GetSize(), 4);
+    // The other pair's mean stress has the other sign.
+    QuadrantSettings vw;
+    vw.stressType = 2;
+    analyseQuadrants(positive, vw, silent);
+    EXPECT_EQ(patternTitles(positive), defaults);
+    positive.coordinateSystem = 0;
+    analyseQuadrants(positive, vw, silent);
+    EXPECT_EQ(patternTitles(positive), interactions);
+
+    createDefaultFrames(negative);
+    negative.frameAttributes[5].ElementAt(1).plotTitle = "mine";
+    analyseQuadrants(negative, QuadrantSettings(), silent);
+    EXPECT_EQ(patternTitles(negative), "mine|Sweep (dimensionless velocities)|");
+}
+
+TEST(QuadrantSettings, AreCheckedInOrderAndByTheirBounds) {
+    QuadrantSettings bad = settingsOf(0.0, 1.9, -0.1, -0.1, 1.9, 1);
+    EXPECT_EQ(refusalOf(bad), "The ejection threshold should be grater than 0!");
+    bad.ejectionThreshold = 0.0;
+    EXPECT_EQ(refusalOf(bad), "The maximum size should be grater than 2!");
+    bad.maximum = 2.0;
+    EXPECT_EQ(refusalOf(bad), "The maximum lag should be grater than 2!");
+    bad.maximumLag = 2.0;
+    EXPECT_EQ(refusalOf(bad), "The sweep threshold should be grater than 0!");
+    bad.sweepThreshold = 0.0;
+    EXPECT_EQ(refusalOf(bad), "The size increment should be grater than 0!");
+    bad.increment = -0.1;
+    EXPECT_EQ(refusalOf(bad), "");
+}
+
+TEST(QuadrantSettings, TravelToTheWorkspaceAndBack) {
+    WorkspaceSettings workspace;
+    EXPECT_EQ(quadrantSettingsOf(workspace), QuadrantSettings());
+    const QuadrantSettings changed = settingsOf(0.5, 10.0, 1.5, 2.5, 4.0, 2);
+    storeQuadrantSettings(changed, workspace);
+    EXPECT_EQ(quadrantSettingsOf(workspace), changed);
+    EXPECT_EQ(workspace.maximumTimeLag, 4.0);
+    EXPECT_EQ(workspace.quadrantStress, 2);
+    workspace.quadrantStress = 7;
+    EXPECT_EQ(quadrantSettingsOf(workspace).stressType, 1);
+}
+
+}  // namespace
+}  // namespace vorlan
