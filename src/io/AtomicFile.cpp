@@ -175,6 +175,9 @@ void writeFileAtomically(const std::filesystem::path& path, const std::function<
     stream.exceptions(std::ios::badbit);
     write(stream);
     stream.flush();
+    if (!stream) {
+        throw FileError::cannotWrite(FileError::Kind::Unwritable, path, "writing failed");
+    }
     file.commit();
 }
 
