@@ -4,6 +4,7 @@
 
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
+#include "analysis/kernels/SlidingProducts.h"
 #include "model/DefaultFrames.h"
 
 namespace vorlan {
@@ -32,32 +33,6 @@ double weightAt(FilterShape shape, double t, double m, double f) {
     throw InvalidArgument();
 }
 
-/// out[j] = sum over i of weights[i] x[j + i]. Neighbouring outputs run side by side, each sum in its own order.
-void weightedSums(const double* x, std::span<const double> weights, std::span<double> out) {
-    constexpr std::size_t kLanes = 16;
-    std::size_t j = 0;
-    for (; j + kLanes <= out.size(); j += kLanes) {
-        double sums[kLanes] = {};
-        const double* start = x + j;
-        for (std::size_t i = 0; i < weights.size(); ++i) {
-            const double w = weights[i];
-            for (std::size_t lane = 0; lane < kLanes; ++lane) {
-                sums[lane] += w * start[i + lane];
-            }
-        }
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            out[j + lane] = sums[lane];
-        }
-    }
-    for (; j < out.size(); ++j) {
-        double sum = 0.0;
-        for (std::size_t i = 0; i < weights.size(); ++i) {
-            sum += weights[i] * x[j + i];
-        }
-        out[j] = sum;
-    }
-}
-
 }  // namespace
 
 std::vector<double> filterWeights(FilterShape shape, int halfWidth, double f) {
@@ -69,13 +44,13 @@ std::vector<double> filterWeights(FilterShape shape, int halfWidth, double f) {
     return weights;
 }
 
-std::vector<double> filtered(std::span<const double> x, std::span<const double> weights, FilterType type) {
+std::vector<double> filtered(std::span<const double> x, std::span<const double> weights, FilterType type,
+                             Progress& progress) {
     if (weights.size() >= x.size()) {
         throw InvalidArgument();
     }
     const std::size_t m = weights.size() / 2;
-    std::vector<double> y(x.size() - weights.size());
-    weightedSums(x.data() + 1, weights, y);
+    std::vector<double> y = slidingProducts(x.subspan(1), weights, x.size() - weights.size(), progress);
     if (type == FilterType::HighPass || type == FilterType::BandCut) {
         // The two subtract from different samples: the start of the span and its centre.
         const std::size_t reference = type == FilterType::HighPass ? 0 : m;
@@ -96,8 +71,7 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         SArray& column = velocities.ElementAt(component);
-        column.StoreValues(filtered(column.Values(), weights, settings.type));
-        progress.breathe();
+        column.StoreValues(filtered(column.Values(), weights, settings.type, progress));
     }
 }
 

@@ -18,7 +18,9 @@ std::vector<double> filterWeights(FilterShape shape, int halfWidth, double f);
 
 /// The filtered samples, 2M = weights.size() fewer than x, with S[j] = sum over i of weights[i] x[j + 1 + i]:
 ///   low-pass, band-pass S[j]; high-pass x[j] - S[j]; band-cut x[j + M] - S[j].
-std::vector<double> filtered(std::span<const double> x, std::span<const double> weights, FilterType type);
+/// Each sum in the order of i. InvalidArgument when the kernel is not shorter than x.
+std::vector<double> filtered(std::span<const double> x, std::span<const double> weights, FilterType type,
+                             Progress& progress);
 
 /// Replaces the working velocities by the filtered ones, each in the resolution of its column. Marks, scores and
 /// auxiliary tables keep their length: output j keeps the time of index j. InvalidArgument when the kernel is not

@@ -1,0 +1,278 @@
+#include "analysis/Editing.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "VelocityRecord.h"
+#include "analysis/Clipping.h"
+#include "analysis/ProbeMoments.h"
+
+namespace vorlan::test {
+namespace {
+
+/// Velocities of resolution 1 with equal scores in every beam.
+SAdvProbe smallRecord(const std::vector<std::int32_t>& u, const std::vector<std::int32_t>& scores) {
+    SAdvProbe probe;
+    probe.samplingInterval = 0.04;
+    for (int c = 0; c < 3; ++c) {
+        probe.workTables[SAdvProbe::kVelocities].Add(columnOf(u, 1.0));
+        probe.workTables[SAdvProbe::kCorrelation].Add(columnOf(scores, 1.0));
+        probe.workTables[SAdvProbe::kSignalToNoise].Add(columnOf(scores, 1.0));
+    }
+    for (std::size_t i = 0; i < u.size(); ++i) {
+        probe.sampleFlags.Add(1);
+    }
+    return probe;
+}
+
+std::vector<std::int32_t> marksOf(const SAdvProbe& probe) {
+    return {probe.sampleFlags.begin(), probe.sampleFlags.end()};
+}
+
+TEST(Editing, ScoresEqualToTheThresholdAreGood) {
+    struct Row {
+        const char* name;
+        std::array<std::int32_t, 3> tenths;
+        bool badAverage, badMinimum;
+    };
+    const Row rows[] = {{"all equal", {700, 700, 700}, false, false},
+                        {"one a little low", {700, 700, 699}, true, true},
+                        {"one low, average high", {990, 980, 699}, false, true},
+                        {"first low", {699, 990, 990}, false, true}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        SAdvProbe probe = smallRecord({1, 2, 3}, {99, 99, 99});
+        for (int c = 0; c < 3; ++c) {
+            probe.workTables[1].ElementAt(c) = columnOf(std::vector(3, row.tenths[static_cast<std::size_t>(c)]), 0.1);
+        }
+        SAdvProbe other = probe;
+        EXPECT_EQ(testScores(probe, 1, ScoreStatistic::Average, 70.0).bad, row.badAverage ? 1 : 0);
+        EXPECT_EQ(testScores(other, 1, ScoreStatistic::Minimum, 70.0).bad, row.badMinimum ? 1 : 0);
+    }
+}
+
+TEST(Editing, RepairReadsTheLeftNeighbourRepairedAndTheRightOneOld) {
+    SAdvProbe probe = smallRecord({0, 100, 60, 20}, {0, 0, 0, 0});
+    const CriterionResult result = testScores(probe, 1, ScoreStatistic::Minimum, 70.0);
+    EXPECT_EQ(unitsOf(velocity(probe, 0)), (std::vector<std::int32_t>{0, 30, 25, 20}));
+    EXPECT_EQ(marksOf(probe), (std::vector<std::int32_t>{1, 0, 0, 1}));
+    EXPECT_EQ(result.tested, 2);
+    EXPECT_EQ(result.keptShare(), 0.0);
+    // Marks stay at 0 although the repaired sample is good now.
+    EXPECT_EQ(testScores(probe, 1, ScoreStatistic::Minimum, -1.0).bad, 0);
+    EXPECT_EQ(marksOf(probe)[1], 0);
+}
+
+TEST(Editing, SpikesAreRepairedByThresholdAndIntervalAlone) {
+    const std::vector<std::int32_t> units = {290, 291, 3291, 293, 294};
+    SAdvProbe probe = smallRecord(units, {99, 99, 99, 99, 99});
+    velocity(probe, 0).SetScale(0.01);  // trunc(293 * 0.01 / 0.01) would not be 293 everywhere
+    SAdvProbe counted = probe;
+    EXPECT_EQ(filterSpikes(counted, 1.0).bad, 3);
+    EXPECT_EQ(unitsOf(velocity(counted, 0)), units);
+    EXPECT_EQ(marksOf(counted), (std::vector<std::int32_t>{1, 0, 0, 0, 1}));
+
+    // 981 a < 1 / dt = 25.
+    SAdvProbe repaired = probe;
+    filterSpikes(repaired, 0.025);
+    EXPECT_EQ(unitsOf(velocity(repaired, 1)), (std::vector<std::int32_t>{290, 1790, 1041, 667, 294}));
+    probe.useAllSamples = 0;
+    EXPECT_EQ(filterSpikes(probe, 0.025).bad, 3);
+    EXPECT_EQ(unitsOf(velocity(probe, 1)), units);
+}
+
+TEST(Editing, VelocityTestCountsComponentsAndUsesTheMomentsFromBefore) {
+    SAdvProbe probe = smallRecord({10, 10, 13, 10, 10}, {99, 99, 99, 99, 99});
+    velocity(probe, 2) = columnOf({10, 10, 12, 10, 14}, 1.0);
+    for (int c = 0; c < 3; ++c) {
+        probe.SetVelocityMoments(c, {10.0, 1.0, 0.0, 0.0});
+    }
+    const CriterionResult result = testVelocities(probe, 2.0);
+    EXPECT_EQ(result.bad, 2);
+    EXPECT_EQ(result.tested, 9);
+    EXPECT_EQ(unitsOf(velocity(probe, 0)), (std::vector<std::int32_t>{10, 10, 10, 10, 10}));
+    EXPECT_EQ(unitsOf(velocity(probe, 2)), (std::vector<std::int32_t>{10, 10, 12, 10, 14}));
+    EXPECT_EQ(marksOf(probe), (std::vector<std::int32_t>{1, 1, 0, 1, 1}));
+}
+
+/// The whole screening once more, sample by sample over plain values.
+struct PlainEditing {
+    std::array<std::vector<std::int32_t>, 3> x;
+    std::array<double, 3> scales{};
+    std::vector<std::int32_t> marks;
+    bool replace = false;
+    double value(std::size_t c, std::size_t i) const { return x[c][i] * scales[c]; }
+    void repair(std::size_t c, std::size_t i) {
+        x[c][i] = static_cast<std::int32_t>((value(c, i - 1) + value(c, i + 1)) * 0.5 / scales[c]);
+    }
+};
+
+TEST(Editing, AllTestsInOrderOnWholeAndClippedRecords) {
+    for (const bool replace : {true, false}) {
+        for (const bool clipped : {true, false}) {
+            SAdvProbe probe = velocityRecord(403, 7);
+            computeProbeMoments(probe);
+            if (clipped) {
+                clip(probe, 1.0, 9.0);
+                probe.workTables[1] = probe.sampledTables[1];  // scores longer than the record
+            }
+            EditingSettings settings;
+            settings.correlation = {true, ScoreStatistic::Minimum, 99.0, 60.0};
+            settings.signalToNoise = {true, ScoreStatistic::Average, 9.0, 99.0};
+            settings.spikeFilter = true;
+            settings.accelerationThreshold = replace ? 0.02 : 4.0;
+            settings.velocityTest = true;
+            settings.velocityThreshold = 1.2;
+            settings.treatment = replace ? BadSampleTreatment::Interpolate : BadSampleTreatment::Remove;
+
+            PlainEditing plain;
+            plain.replace = replace;
+            plain.scales = {0.001, 0.01, 0.002};
+            plain.marks = marksOf(probe);
+            for (std::size_t c = 0; c < 3; ++c) {
+                plain.x[c] = unitsOf(velocity(probe, static_cast<int>(c)));
+            }
+            int bad[4] = {};
+            const auto score = [&](int table, int beam, std::size_t i) {
+                return probe.workTables[static_cast<std::size_t>(table)].GetAt(beam).GetAt(static_cast<int>(i)) * 0.1;
+            };
+            for (int test = 0; test < 4; ++test) {
+                for (std::size_t i = 1; i + 1 < plain.x[0].size(); ++i) {
+                    std::vector<std::size_t> hit;
+                    if (test == 0 && std::min({score(1, 0, i), score(1, 1, i), score(1, 2, i)}) < 60.0) {
+                        hit = {0, 1, 2};
+                    }
+                    if (test == 1 && (score(2, 0, i) + score(2, 1, i) + score(2, 2, i)) / 3 < 9.0) {
+                        hit = {0, 1, 2};
+                    }
+                    if (test == 2) {
+                        double square = 0.0;
+                        for (std::size_t c = 0; c < 3; ++c) {
+                            const double e = (plain.value(c, i) - plain.value(c, i - 1) -
+                                              (plain.value(c, i + 1) - plain.value(c, i))) /
+                                             0.04;
+                            square += e * e;
+                        }
+                        if (981.0 * settings.accelerationThreshold < std::sqrt(square)) {
+                            hit = {0, 1, 2};
+                        }
+                    }
+                    for (std::size_t c = 0; test == 3 && c < 3; ++c) {
+                        const Moments m = probe.VelocityMoments(static_cast<int>(c));
+                        if (std::fabs(plain.value(c, i) - m.mean) > 1.2 * std::sqrt(m.variance)) {
+                            hit.push_back(c);
+                        }
+                    }
+                    if (hit.empty()) {
+                        continue;
+                    }
+                    plain.marks[i] = 0;
+                    bad[test] += test == 3 ? static_cast<int>(hit.size()) : 1;
+                    for (const std::size_t c : hit) {
+                        if (replace) {
+                            plain.repair(c, i);
+                        }
+                    }
+                }
+            }
+
+            const EditingResult result = editSeries(probe, settings);
+            EXPECT_EQ(result.correlation.bad, bad[0]);
+            EXPECT_EQ(result.signalToNoise.bad, bad[1]);
+            EXPECT_EQ(result.spikes.bad, bad[2]);
+            EXPECT_EQ(result.velocity.bad, bad[3]);
+            for (const int count : bad) {
+                EXPECT_GT(count, 0);
+            }
+            EXPECT_EQ(marksOf(probe), plain.marks);
+            for (std::size_t c = 0; c < 3; ++c) {
+                EXPECT_EQ(unitsOf(velocity(probe, static_cast<int>(c))), plain.x[c]);
+            }
+            EXPECT_EQ(probe.title, "Cleaned-up time series (" + std::to_string(bad[3]) + " samples replaced)");
+        }
+    }
+}
+
+TEST(Editing, CaptionFollowsSpikesThenVelocities) {
+    SAdvProbe probe = smallRecord({0, 0, 500, 0, 0}, {99, 99, 99, 99, 99});
+    probe.title = "before";
+    EditingSettings settings;
+    settings.spikeFilter = true;
+    settings.accelerationThreshold = 1000.0;
+    editSeries(probe, settings);
+    EXPECT_EQ(probe.title, "before");
+    EXPECT_EQ(probe.frameAttributes[0].GetAt(0).plotTitle, "Cleaned-up time series");
+    settings.accelerationThreshold = 15.0;
+    editSeries(probe, settings);
+    EXPECT_EQ(probe.title, "Cleaned-up time series (3 spikes removed)");
+    settings.spikeFilter = false;
+    settings.velocityTest = true;
+    settings.velocityThreshold = 1e9;
+    computeProbeMoments(probe);
+    editSeries(probe, settings);
+    EXPECT_EQ(probe.title, "Cleaned-up time series");
+}
+
+TEST(Editing, RemovalForgetsFourStagesAndTheirLastTabs) {
+    SAdvProbe probe = velocityRecord(50);
+    for (const int stage : {3, 1, 2, 4, 5, 6}) {
+        probe.tabItems.AppendStage(stage);
+    }
+    TabItem second;
+    second.imageIndex = 3;
+    probe.tabItems.Add(second);
+    probe.stageDone = {0, 1, 1, 1, 1, 1};  // the stationarity tab stays: its mark is not set
+    EditingSettings settings;
+    settings.treatment = BadSampleTreatment::Remove;
+    settings.correlation = {true, ScoreStatistic::Average, 1e9, 0.0};
+    editSeries(probe, settings);
+    EXPECT_EQ(probe.stageDone, (std::array<std::uint32_t, 6>{0, 1, 0, 1, 0, 0}));
+    std::vector<std::uint32_t> tabs;
+    for (const TabItem& item : probe.tabItems) {
+        tabs.push_back(item.imageIndex);
+    }
+    EXPECT_EQ(tabs, (std::vector<std::uint32_t>{0, 3, 1, 2, 4}));
+    EXPECT_FALSE(probe.UsesAllSamples());
+    // Every tested sample is bad: the two ends are left.
+    EXPECT_EQ(probe.seriesUV.values.GetSize(), 2);
+    // Interpolation lets all samples count again, its marks stay.
+    editSeries(probe, EditingSettings());
+    EXPECT_TRUE(probe.UsesAllSamples());
+    EXPECT_EQ(marksOf(probe)[1], 0);
+}
+
+TEST(Editing, ShortRecordsAreNotTestedAndShortScoresRefused) {
+    SAdvProbe two = smallRecord({0, 1000}, {0, 0});
+    EditingSettings settings;
+    settings.correlation.on = settings.signalToNoise.on = settings.spikeFilter = settings.velocityTest = true;
+    const EditingResult result = editSeries(two, settings);
+    EXPECT_EQ(result.correlation.bad + result.signalToNoise.bad + result.spikes.bad + result.velocity.bad, 0);
+    EXPECT_EQ(result.correlation.keptShare(), 1.0);
+
+    SAdvProbe probe = velocityRecord(20);
+    probe.workTables[1].ElementAt(2).SetSize(10);
+    EXPECT_THROW(editSeries(probe, settings), InvalidArgument);
+}
+
+TEST(Editing, ParametersGoToTheWorkspaceAndBack) {
+    WorkspaceSettings stored;
+    EditingSettings dialog = editingSettingsOf(stored);
+    EXPECT_EQ(dialog.correlation.threshold(), 70.0);
+    EXPECT_EQ(dialog.signalToNoise.threshold(), 10.0);
+    dialog.signalToNoise = {true, ScoreStatistic::Minimum, 11.0, 6.0};
+    dialog.treatment = BadSampleTreatment::Remove;
+    storeEditingSettings(dialog, stored);
+    const EditingSettings back = editingSettingsOf(stored);
+    EXPECT_TRUE(back.signalToNoise.on);
+    EXPECT_EQ(back.signalToNoise.threshold(), 6.0);
+    EXPECT_FALSE(back.correlation.on);
+    EXPECT_EQ(back.treatment, BadSampleTreatment::Remove);
+    stored.badSampleTreatment = 9;
+    stored.snrStatistic = -3;
+    EXPECT_EQ(editingSettingsOf(stored).treatment, BadSampleTreatment::Interpolate);
+    EXPECT_EQ(editingSettingsOf(stored).signalToNoise.statistic, ScoreStatistic::Average);
+}
+
+}  // namespace
+}  // namespace vorlan::test
