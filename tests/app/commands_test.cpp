@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "RecordingPort.h"
+#include "SampleDocument.h"
+#include "analysis/SpectralAnalysis.h"
+#include "app/CommandState.h"
+#include "app/RecomputeChain.h"
+#include "io/FileError.h"
+
+namespace vorlan {
+namespace {
+
+constexpr const char* kRepeatQuestion = "The Time Series was changed. Repeat all previous calculations ?";
+
+class Commands : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        simulateAndSelect(document);
+        before = document.Probe();
+    }
+
+    RecordingPort port;
+    CVorl_ADVDoc document{port};
+    SAdvProbe before;
+};
+
+TEST_F(Commands, SpectralAnalysisRecordsItsRunAndEntersItsStage) {
+    SpectralSettings settings;
+    settings.windowButton = 1;
+    settings.unitButton = 0;
+    settings.percent = 15;
+    ASSERT_EQ(document.SpectralAnalysis(settings), Outcome::Done);
+    EXPECT_EQ(document.Probe().spectralLags, 150U);
+    EXPECT_EQ(document.Probe().spectralWindow, 2U);
+    EXPECT_EQ(document.Probe().spectralUnit, 1U);
+    EXPECT_EQ(document.Settings().lastWindowCode, 2);
+    EXPECT_TRUE(document.Settings().lastUnitIsRad);
+    EXPECT_EQ(document.Settings().lastTruncationPoint, 150);
+    EXPECT_EQ(document.Settings().lagPercent, 15);
+    EXPECT_EQ(document.CurrentStage(), Stage::Spectral);
+    EXPECT_EQ(document.Probe().seriesV.spectrum.GetSize(), 150);
+    ASSERT_FALSE(port.positions.empty());
+    EXPECT_TRUE(std::is_sorted(port.positions.begin(), port.positions.end()));
+    EXPECT_EQ(port.positions.back(), 100);
+    EXPECT_EQ(port.statuses.front(), "Spectral analysis calculations: ");
+    EXPECT_EQ(port.offsets, std::vector<int>{170});
+    EXPECT_EQ(port.ends, 1);
+    EXPECT_FALSE(document.IsRunning());
+}
+
+TEST_F(Commands, TooManyLagsAreRefusedAndTheProbeStays) {
+    EXPECT_EQ(document.SpectralAnalysis(lagsOf(501)), Outcome::Refused);
+    ASSERT_EQ(port.refusals.size(), 1U);
+    EXPECT_EQ(port.refusals[0], "Truncation point too large ! This value exceed of half time series length.");
+    EXPECT_EQ(document.Probe(), before);
+    EXPECT_EQ(document.Settings().lastTruncationPoint, 501) << "kept although the command was abandoned";
+    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing);
+    EXPECT_EQ(document.SpectralAnalysis(lagsOf(500)), Outcome::Done);
+}
+
+TEST_F(Commands, AReopenedLagsModeUsesItsNumberAsPercentage) {
+    SpectralSettings settings = lagsOf(30);
+    settings.percentFlag = true;
+    ASSERT_EQ(document.SpectralAnalysis(settings), Outcome::Done);
+    EXPECT_EQ(document.Probe().spectralLags, 300U);
+}
+
+TEST_F(Commands, CancellingStoresNothingAnywhereInTheRun) {
+    // Wherever the run is cut, the probe is bit for bit what it was.
+    int done = 0;
+    for (int pumps = 0; pumps < 2000 && done == 0; ++pumps) {
+        port.pumpsLeft = pumps;
+        const Outcome outcome = document.SpectralAnalysis(lagsOf(60));
+        if (outcome == Outcome::Done) {
+            ++done;
+            EXPECT_GT(pumps, 0) << "the run never asked whether it is wanted";
+        } else {
+            EXPECT_EQ(outcome, Outcome::Cancelled);
+            ASSERT_EQ(document.Probe(), before);
+            ASSERT_FALSE(document.IsRunning());
+        }
+    }
+    EXPECT_EQ(done, 1);
+}
+
+TEST_F(Commands, NothingStartsDuringARun) {
+    class Nosy : public RecordingPort {
+      public:
+        bool pump() override {
+            state = commandState(*document, Command::SimulateTimeSeries).enabled ||
+                    commandState(*document, Command::NewWorkspace).enabled;
+            inner = document->ResetTimeSeries();
+            return true;
+        }
+        CVorl_ADVDoc* document = nullptr;
+        bool state = true;
+        Outcome inner = Outcome::Done;
+    } nosy;
+    CVorl_ADVDoc busy(nosy);
+    nosy.document = &busy;
+    simulateAndSelect(busy);
+    ASSERT_EQ(busy.SpectralAnalysis(lagsOf(50)), Outcome::Done);
+    EXPECT_FALSE(nosy.state);
+    EXPECT_EQ(nosy.inner, Outcome::Refused);
+}
+
+TEST_F(Commands, AChangeAsksOnlyWhenAStageIsDone) {
+    EXPECT_EQ(document.Clip(4.0, 36.0), Outcome::Done);
+    EXPECT_TRUE(port.questions.empty());
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(50)), Outcome::Done);
+    document.SelectStage(0);
+    EXPECT_EQ(document.ResetTimeSeries(), Outcome::Done);
+    EXPECT_EQ(port.questions, std::vector<std::string>{kRepeatQuestion});
+}
+
+TEST_F(Commands, OkRepeatsTheDoneStagesAndCancelKeepsTheirResults) {
+    ASSERT_EQ(document.StationarityAnalysis({BandMode::Fixed, 5}), Outcome::Done);
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(50)), Outcome::Done);
+    document.SelectStage(0);
+    const SAdvProbe analysed = document.Probe();
+
+    port.answer = false;
+    ASSERT_EQ(document.Clip(0.0, 20.0), Outcome::Done);
+    EXPECT_EQ(document.Probe().WorkingSamples(), 500);
+    EXPECT_EQ(document.Probe().seriesU.correlation, analysed.seriesU.correlation);
+    EXPECT_EQ(document.Probe().seriesU.bandMeans, analysed.seriesU.bandMeans);
+    EXPECT_TRUE(document.Probe().IsDone(DoneMark::Spectral));
+
+    port.answer = true;
+    ASSERT_EQ(document.ResetTimeSeries(), Outcome::Done);
+    ASSERT_EQ(document.Clip(0.0, 20.0), Outcome::Done);
+    CVorl_ADVDoc fresh(port);
+    simulateAndSelect(fresh);
+    ASSERT_EQ(fresh.Clip(0.0, 20.0), Outcome::Done);
+    ASSERT_EQ(fresh.StationarityAnalysis({BandMode::Fixed, 5}), Outcome::Done);
+    ASSERT_EQ(fresh.SpectralAnalysis(lagsOf(50)), Outcome::Done);
+    EXPECT_EQ(document.Probe().seriesW.structureFunction, fresh.Probe().seriesW.structureFunction);
+    EXPECT_EQ(document.Probe().seriesU.spectrum, fresh.Probe().seriesU.spectrum);
+    EXPECT_EQ(document.Probe().seriesV.bandKurtosis, fresh.Probe().seriesV.bandKurtosis);
+    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing) << "repeating selects no stage";
+}
+
+TEST_F(Commands, AStageThatCannotBeRepeatedSaysSoOnceAndTheChainGoesOn) {
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(400)), Outcome::Done);
+    ASSERT_EQ(document.CrossSpectralAnalysis(), Outcome::Done);
+    QuadrantSettings quadrants;
+    quadrants.maximumLag = 2.0;
+    ASSERT_EQ(document.QuadrantsAnalysis(quadrants), Outcome::Done);
+    document.SelectStage(0);
+    const SAdvProbe analysed = document.Probe();
+    ASSERT_EQ(document.Clip(0.0, 20.0), Outcome::Done);
+    EXPECT_EQ(port.refusals, std::vector<std::string>{kTruncationTooLarge});
+    const SAdvProbe& probe = document.Probe();
+    EXPECT_EQ(probe.seriesU.spectrum, analysed.seriesU.spectrum);
+    EXPECT_EQ(probe.workTables[SAdvProbe::kCoSpectra], analysed.workTables[SAdvProbe::kCoSpectra]);
+    EXPECT_NE(probe.stageTables[SAdvProbe::kTimes], analysed.stageTables[SAdvProbe::kTimes]) << "quadrants repeated";
+}
+
+TEST_F(Commands, RefusedChangesLeaveTheProbeAsItWas) {
+    EXPECT_EQ(document.Clip(-1.0, 5.0), Outcome::Refused);
+    EXPECT_EQ(port.refusals.back(), "The limits for clipping are wrong !");
+    EXPECT_EQ(document.Probe(), before);
+
+    FilterSettings filter;
+    filter.halfWidth = 0.02;
+    EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Refused);
+    EXPECT_EQ(port.refusals.back(), "Filter width too small ! This value should be larger than sampling rate.");
+    filter.halfWidth = 10.5;
+    EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Refused);
+    EXPECT_EQ(port.refusals.back(),
+              "Filter width too large ! This value should be smaller than 1/4 time series length.");
+    const std::size_t said = port.refusals.size();
+    filter.halfWidth = 10.0;
+    EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Cancelled) << "exactly a quarter: nothing, silently";
+    EXPECT_EQ(port.refusals.size(), said);
+    EXPECT_EQ(document.Probe(), before);
+    EXPECT_EQ(document.Settings().filterHalfWidth, 10.0) << "accepted parameters are kept";
+}
+
+TEST_F(Commands, CancelledRepeatDropsTheWholeChange) {
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(50)), Outcome::Done);
+    document.SelectStage(0);
+    const SAdvProbe analysed = document.Probe();
+    port.pumpsLeft = 0;
+    EXPECT_EQ(document.Clip(0.0, 30.0), Outcome::Cancelled);
+    EXPECT_EQ(document.Probe(), analysed);
+}
+
+TEST_F(Commands, EveryDoneMarkHasAPlaceInTheChain) {
+    std::array<int, kDoneMarkCount> places{};
+    for (const StageRepeat& stage : recomputeChain()) {
+        ++places[static_cast<std::size_t>(stage.mark)];
+    }
+    for (const int count : places) {
+        EXPECT_EQ(count, 1);
+    }
+}
+
+TEST_F(Commands, AFailedOpenLeavesTheWorkspace) {
+    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "cut.avp";
+    document.SaveWorkspace(path);
+    EXPECT_FALSE(document.IsModified());
+    std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+    EXPECT_THROW(document.OpenWorkspace(path), FileError);
+    EXPECT_EQ(document.Probe(), before);
+    EXPECT_THROW(document.SaveWorkspace("/nonexistent/folder/x.avp"), FileError);
+    EXPECT_EQ(document.GetPath(), path);
+    std::filesystem::remove(path);
+}
+
+TEST_F(Commands, FramesAreCreatedFromTheDefaults) {
+    FrameAttributesType frame;
+    frame.plotTitle = "mine";
+    document.SetPlanFrame(1, frame);
+    EXPECT_EQ(document.GetWorkspace().dataFiles.frameAttributes.GetSize(), 2);
+    EXPECT_EQ(document.GetWorkspace().dataFiles.frameAttributes.GetAt(1).plotTitle, "mine");
+    document.SetFrame(3, 1, frame);
+    EXPECT_EQ(document.Probe().frameAttributes[3].GetAt(1), frame);
+    EXPECT_THROW(document.SetFrame(-1, 0, frame), std::exception);
+}
+
+TEST_F(Commands, ConvectiveVelocityIsThatOfTheSeries) {
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(10)), Outcome::Done);
+    const SAdvProbe& p = document.Probe();
+    const double u = p.seriesU.moments.mean;
+    const double v = p.seriesV.moments.mean;
+    const double w = p.seriesW.moments.mean;
+    EXPECT_DOUBLE_EQ(document.AveragedVelocity().value(), std::sqrt(u * u + v * v + w * w));
+    document.SetMeanVelocity({1, 25.0});
+    EXPECT_EQ(document.Settings().meanVelocityMode, 1);
+    EXPECT_EQ(document.Settings().userMeanVelocity, 25.0);
+}
+
+}  // namespace
+}  // namespace vorlan

@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include "RecordingPort.h"
+#include "SampleDocument.h"
+#include "app/CommandState.h"
+
+namespace vorlan {
+namespace {
+
+class Selection : public ::testing::Test {
+  protected:
+    RecordingPort port;
+    CVorl_ADVDoc document{port};
+
+    bool enabled(Command command) const { return commandState(document, command).enabled; }
+};
+
+TEST_F(Selection, NewDocumentHasNothingSelectedAndNothingToTest) {
+    EXPECT_EQ(document.ActiveFile(), -1);
+    EXPECT_EQ(document.ActiveProbe(), -1);
+    EXPECT_EQ(document.ShownTab(), -1);
+    EXPECT_FALSE(document.TestSelectionChange());
+    EXPECT_FALSE(document.IsModified());
+}
+
+TEST_F(Selection, SimulatingSelectsTheFileAndNoProbe) {
+    document.SimulateTimeSeries(sampleParameters(), 1);
+    EXPECT_EQ(document.ActiveFile(), 0);
+    EXPECT_FALSE(document.HasProbe());
+    EXPECT_TRUE(document.IsModified());
+    EXPECT_TRUE(enabled(Command::CloseFile));
+    EXPECT_FALSE(enabled(Command::SpectralAnalysis));
+    EXPECT_FALSE(enabled(Command::Histograms));
+
+    document.SelectProbe(0);
+    EXPECT_EQ(document.ShownTab(), 0);
+    EXPECT_EQ(document.Settings().choiceA, 1);
+    EXPECT_TRUE(document.ShowsTable());
+    EXPECT_TRUE(enabled(Command::SpectralAnalysis));
+    EXPECT_TRUE(enabled(Command::ResetTimeSeries));
+}
+
+TEST_F(Selection, StagesSetTheDisplaySwitchAndTheirOwnCommands) {
+    simulateAndSelect(document);
+    ASSERT_EQ(document.StationarityAnalysis({BandMode::Fixed, 4}), Outcome::Done);
+    EXPECT_EQ(document.CurrentStage(), Stage::Stationarity);
+    EXPECT_FALSE(document.ShowsTable());
+    EXPECT_FALSE(enabled(Command::ResetTimeSeries)) << "belongs to pre-processing";
+    EXPECT_TRUE(enabled(Command::DigitalFiltration)) << "needs no stage";
+    EXPECT_FALSE(enabled(Command::ResultsTable));
+
+    document.SelectStage(0);
+    EXPECT_TRUE(document.ShowsTable());
+    EXPECT_TRUE(enabled(Command::ResetTimeSeries));
+    EXPECT_EQ(document.Probe().selectedTab, 0);
+}
+
+TEST_F(Selection, TabsStandInTheOrderOfTheFirstRun) {
+    simulateAndSelect(document);
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
+    ASSERT_EQ(document.Distributions({}), Outcome::Done);
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(30)), Outcome::Done);
+    const STabsArray& tabs = document.Probe().tabItems;
+    ASSERT_EQ(tabs.GetSize(), 3);
+    EXPECT_EQ(tabs.GetAt(1).text, "Spectral Analysis");
+    EXPECT_EQ(tabs.GetAt(2).text, "Histograms");
+    EXPECT_EQ(document.ShownTab(), 1);
+}
+
+TEST_F(Selection, ProbesKeepTheirTabs) {
+    simulateAndSelect(document);
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
+    simulateAndSelect(document);
+    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing);
+    document.SelectFile(0);
+    EXPECT_EQ(document.ActiveProbe(), 0) << "a file brings its first probe";
+    EXPECT_EQ(document.CurrentStage(), Stage::Spectral);
+}
+
+TEST_F(Selection, ATabOfAnUnknownStageChangesNothingButTheTab) {
+    SimulationParameters p = sampleParameters();
+    SAdvFile file = simulate(p, 1);
+    TabItem odd;
+    odd.imageIndex = 9;
+    file.probes.ElementAt(0).tabItems.Add(odd);
+    document.AppendFile(std::move(file));
+    document.SelectProbe(0);
+    document.SelectStage(1);
+    EXPECT_EQ(document.Settings().choiceA, 1);
+    EXPECT_EQ(document.Settings().activeItem, 1);
+    EXPECT_EQ(document.Probe().selectedTab, 1);
+}
+
+TEST_F(Selection, ClosingStepsDownBeforeItRemoves) {
+    for (int i = 0; i < 3; ++i) {
+        simulateAndSelect(document, 10.0 + i);
+    }
+    document.SelectFile(1);
+    const int previous = document.Settings().previousFile;
+    port.answer = false;
+    EXPECT_EQ(document.CloseFile(), Outcome::Cancelled);
+    EXPECT_EQ(document.GetWorkspace().dataFiles.files.GetSize(), 3);
+
+    port.answer = true;
+    EXPECT_EQ(document.CloseFile(), Outcome::Done);
+    EXPECT_EQ(port.questions.back(), "Do you want to close the active data file ?");
+    EXPECT_EQ(document.GetWorkspace().dataFiles.files.GetSize(), 2);
+    EXPECT_EQ(document.ActiveFile(), 0);
+    EXPECT_EQ(document.Settings().previousFile, previous - 1);
+    EXPECT_EQ(document.File().probes.GetAt(0).sampleCount, 250U);
+
+    EXPECT_EQ(document.CloseFile(), Outcome::Done);
+    EXPECT_EQ(document.ActiveFile(), -1) << "closing the first of several leaves none selected";
+    EXPECT_EQ(document.GetWorkspace().dataFiles.files.GetSize(), 1);
+    EXPECT_FALSE(enabled(Command::CloseFile));
+}
+
+TEST_F(Selection, IndexesOutOfRangeCountAsNoSelection) {
+    simulateAndSelect(document);
+    document.MutableSettings().activeFile = 7;
+    EXPECT_FALSE(document.HasFile());
+    EXPECT_FALSE(document.HasProbe());
+    EXPECT_EQ(document.Settings().activeFile, 7) << "the stored value stays until the user selects";
+    document.SelectFile(3);
+    EXPECT_EQ(document.Settings().activeFile, 7);
+}
+
+TEST_F(Selection, NavigationDoesNotModifyTheWorkspace) {
+    simulateAndSelect(document);
+    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "navigation.avp";
+    document.SaveWorkspace(path);
+    document.SelectPhysicalValue(PhysicalValue::Stresses);
+    document.SelectActivePane(Pane::RightTop);
+    document.SelectFile(0);
+    document.SelectStage(0);
+    EXPECT_FALSE(document.IsModified());
+    std::filesystem::remove(path);
+}
+
+TEST_F(Selection, RemovedSamplesDisableWhatNeedsAllOfThem) {
+    simulateAndSelect(document);
+    EditingSettings editing;
+    editing.treatment = BadSampleTreatment::Remove;
+    ASSERT_EQ(document.EditTimeSeries(editing), Outcome::Done);
+    for (const Command command : {Command::DigitalFiltration, Command::StationarityAnalysis, Command::SpectralAnalysis,
+                                  Command::QuadrantsAnalysis, Command::CrossSpectralAnalysis}) {
+        EXPECT_FALSE(enabled(command));
+    }
+    EXPECT_TRUE(enabled(Command::Histograms));
+    EXPECT_TRUE(enabled(Command::ExportVelocities));
+}
+
+TEST_F(Selection, ExportsOpenWithTheirResults) {
+    simulateAndSelect(document);
+    EXPECT_FALSE(enabled(Command::ExportSpectral));
+    EXPECT_FALSE(enabled(Command::CrossSpectralAnalysis));
+    ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
+    EXPECT_TRUE(enabled(Command::ExportSpectral));
+    EXPECT_TRUE(enabled(Command::CrossSpectralAnalysis));
+    EXPECT_FALSE(enabled(Command::ExportCrossSpectral));
+    ASSERT_EQ(document.CrossSpectralAnalysis(), Outcome::Done);
+    EXPECT_TRUE(enabled(Command::ExportCrossSpectral));
+    EXPECT_FALSE(enabled(Command::ExportPatterns));
+    ASSERT_EQ(document.QuadrantsAnalysis({}), Outcome::Done);
+    EXPECT_TRUE(enabled(Command::ExportPatterns));
+}
+
+}  // namespace
+}  // namespace vorlan
