@@ -14,6 +14,8 @@ struct ExportOptions {
     bool header = false;  ///< header lines
     bool time = false;    ///< leading time or lag columns
     Separator separator = Separator::Space;
+    /// Step between hole sizes for probes whose quadrant analysis recorded none: the workspace's own.
+    double holeIncrement = 0.2;
 };
 
 /// The probe that is exported and how a header names it.

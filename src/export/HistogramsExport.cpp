@@ -1,0 +1,31 @@
+#include "export/HistogramsExport.h"
+
+#include <array>
+
+#include "analysis/ResultAxes.h"
+#include "export/RowWriter.h"
+
+namespace vorlan {
+
+void writeHistograms(std::ostream& stream, const ExportSource& source, const ExportOptions& options) {
+    RowWriter rows(stream, options.separator);
+    if (options.header) {
+        writeHeader(rows, FileLabel::Capitalised, source, "VELOCITY HISTOGRAMS:\n");
+    }
+    std::array<std::vector<double>, SAdvProbe::kComponents> centres;
+    for (int c = 0; c < SAdvProbe::kComponents; ++c) {
+        centres[static_cast<std::size_t>(c)] = gradeCentres(source.probe.Series(c));
+    }
+    for (int k = 0; k < source.probe.seriesU.histogram.GetSize(); ++k) {
+        for (int c = 0; c < SAdvProbe::kComponents; ++c) {
+            if (options.time) {
+                rows.value(centres[static_cast<std::size_t>(c)].at(static_cast<std::size_t>(k)), 2);
+            }
+            rows.value(source.probe.Series(c).histogram.GetValue(k), 2);
+        }
+        rows.end();
+    }
+    rows.finish();
+}
+
+}  // namespace vorlan
