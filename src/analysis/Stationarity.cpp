@@ -86,7 +86,7 @@ void computeCumulativeBands(STimeSeries& series, std::span<const double> values,
     double sum = 0.0;
     for (std::size_t first = 0; first < bands; first += kLanes) {
         const std::size_t lanes = std::min(kLanes, bands - first);
-        // Bands that start alike share their sums up to the end of the shorter one.
+        // The bands start alike and run side by side, each with its own mean; one that has ended adds on, unread.
         PowerSums<kLanes> sums;
         for (std::size_t b = 0; b < lanes; ++b) {
             sum = sumOf(values.subspan((first + b) * length, length), sum);

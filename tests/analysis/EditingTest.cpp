@@ -222,6 +222,8 @@ TEST(Editing, RemovalForgetsFourStagesAndTheirLastTabs) {
     TabItem second;
     second.imageIndex = 3;
     probe.tabItems.Add(second);
+    probe.tabItems.Add(probe.tabItems.GetAt(0));
+    probe.selectedTab = 8;                 // the last one, behind all that are deleted
     probe.stageDone = {0, 1, 1, 1, 1, 1};  // the stationarity tab stays: its mark is not set
     EditingSettings settings;
     settings.treatment = BadSampleTreatment::Remove;
@@ -232,7 +234,8 @@ TEST(Editing, RemovalForgetsFourStagesAndTheirLastTabs) {
     for (const TabItem& item : probe.tabItems) {
         tabs.push_back(item.imageIndex);
     }
-    EXPECT_EQ(tabs, (std::vector<std::uint32_t>{0, 3, 1, 2, 4}));
+    EXPECT_EQ(tabs, (std::vector<std::uint32_t>{0, 3, 1, 2, 4, 0}));
+    EXPECT_EQ(probe.selectedTab, 5);
     EXPECT_FALSE(probe.UsesAllSamples());
     // Every tested sample is bad: the two ends are left.
     EXPECT_EQ(probe.seriesUV.values.GetSize(), 2);

@@ -133,6 +133,14 @@ TEST(Filtration, ASpanOfFourSamplesHasADivisorOfFive) {
     EXPECT_EQ(y, std::vector<double>(6, 8.0));
 }
 
+TEST(Filtration, WeightsKeepTheWrittenConstants) {
+    const std::vector<double> bell = filterWeights(FilterShape::Bell, 12, 0.0);
+    ASSERT_EQ(bell.size(), 24U);
+    EXPECT_EQ(bell[0],
+              std::sqrt(2.0) * std::exp(3.1415926 * 121.0 / -288.0) * std::cos(11.0 * 6.2831852 / 12.0) / 12.0);
+    EXPECT_EQ(bell[23], std::sqrt(2.0) * std::exp(3.1415926 * 144.0 / -288.0) * std::cos(-6.2831852) / 12.0);
+}
+
 TEST(Filtration, AGaussianOfNoWidthGivesZeros) {
     SAdvProbe probe = velocityRecord(40);
     NoProgress progress;
