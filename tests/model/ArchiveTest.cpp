@@ -1,0 +1,131 @@
+#include "model/Archive.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "model/PlainArrays.h"
+#include "model/WorkspaceImage.h"
+
+namespace vorlan {
+namespace {
+
+std::vector<std::byte> bytesOf(std::initializer_list<int> values) {
+    std::vector<std::byte> bytes;
+    for (const int v : values) {
+        bytes.push_back(static_cast<std::byte>(v));
+    }
+    return bytes;
+}
+
+TEST(ArchiveTexts, TakeTheShortestPrefix) {
+    struct Row {
+        std::size_t length;
+        std::vector<std::byte> prefix;
+    };
+    const Row rows[] = {{0, bytesOf({0})},
+                        {1, bytesOf({1})},
+                        {254, bytesOf({254})},
+                        {255, bytesOf({0xFF, 0xFF, 0x00})},
+                        {256, bytesOf({0xFF, 0x00, 0x01})},
+                        {0xFFFD, bytesOf({0xFF, 0xFD, 0xFF})},
+                        {0xFFFE, bytesOf({0xFF, 0xFF, 0xFF, 0xFE, 0xFF, 0x00, 0x00})},
+                        {70000, bytesOf({0xFF, 0xFF, 0xFF, 0x70, 0x11, 0x01, 0x00})}};
+    for (const Row& row : rows) {
+        std::string text(row.length, '\x80');
+        Archive out = Archive::storing();
+        out.value(text);
+        ASSERT_EQ(out.bytes().size(), row.prefix.size() + row.length);
+        EXPECT_TRUE(std::equal(row.prefix.begin(), row.prefix.end(), out.bytes().begin())) << row.length;
+        std::string back = "previous";
+        Archive in = Archive::loading(out.bytes());
+        in.value(back);
+        EXPECT_EQ(back, text);
+        EXPECT_EQ(in.remaining(), 0U);
+    }
+}
+
+TEST(ArchiveTexts, RefuseTheReservedLength) {
+    const auto bytes = bytesOf({0xFF, 0xFE, 0xFF, 'a', 'b', 'c'});
+    Archive in = Archive::loading(bytes);
+    std::string text;
+    EXPECT_THROW(in.value(text), FormatError);
+}
+
+TEST(ArchiveErrors, TellWhere) {
+    const auto bytes = bytesOf({1, 2, 3, 4, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F});
+    Archive in = Archive::loading(bytes);
+    std::uint32_t word = 0;
+    in.value(word);
+    std::string text;
+    try {
+        in.value(text);
+        FAIL();
+    } catch (const EndOfFileError& error) {
+        EXPECT_EQ(error.offset(), 4U);
+    }
+    EXPECT_THROW(in.append(bytes), WrongModeError);
+    Archive out = Archive::storing();
+    EXPECT_THROW(out.takeRest(), WrongModeError);
+}
+
+TEST(ArchiveCounts, AreCheckedAgainstTheBytesThatAreLeft) {
+    const auto negative = bytesOf({0xFF, 0xFF, 0xFF, 0xFF, 9});
+    Archive in = Archive::loading(negative);
+    EXPECT_EQ(in.count(0, 4), 0U);
+    const auto two = bytesOf({2, 0, 0, 0, 1, 2, 3, 4, 5, 6, 7});
+    Archive narrow = Archive::loading(two);
+    EXPECT_THROW(narrow.count(0, 4), EndOfFileError);
+    Archive wide = Archive::loading(two);
+    EXPECT_EQ(wide.count(0, 3), 2U);
+    const auto longCount = bytesOf({0xFF, 0xFF, 3, 0, 0, 0, 0, 0, 0});
+    Archive generic = Archive::loading(longCount);
+    EXPECT_EQ(generic.shortCount(0, 1), 3U);
+}
+
+TEST(ArchiveCodes, OutOfRangeKeepTheMember) {
+    const auto bytes = bytesOf({3, 0, 0, 0, 4, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF});
+    Archive in = Archive::loading(bytes);
+    std::uint32_t option = 1;
+    in.code(option, 3);
+    EXPECT_EQ(option, 3U);
+    in.code(option, 3);
+    EXPECT_EQ(option, 3U);
+    in.code(option, 3);
+    EXPECT_EQ(option, 3U);
+    EXPECT_EQ(in.remaining(), 0U);
+}
+
+class Collector : public ByteSink {
+  public:
+    void write(std::span<const std::byte> bytes) override {
+        largest = std::max(largest, bytes.size());
+        all.insert(all.end(), bytes.begin(), bytes.end());
+    }
+    std::vector<std::byte> all;
+    std::size_t largest = 0;
+};
+
+TEST(ArchiveSink, GetsTheSameBytesAsTheBuffer) {
+    SIntArray marks;
+    for (int i = 0; i < 100000; ++i) {
+        marks.Add(i);
+    }
+    std::string text(40000, 't');
+    Collector sink;
+    Archive direct = Archive::storing(sink);
+    Archive buffered = Archive::storing();
+    for (Archive* archive : {&direct, &buffered}) {
+        for (int i = 0; i < 3; ++i) {
+            archive->value(text);
+            marks.Serialize(*archive);
+            EXPECT_EQ(archive->offset(), (i + 1) * (3 + 40000 + 4 + 400000U));
+        }
+    }
+    direct.flush();
+    EXPECT_EQ(sink.all, buffered.bytes());
+    EXPECT_EQ(sink.largest, 400000U);
+}
+
+}  // namespace
+}  // namespace vorlan

@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "model/Archive.h"
+#include "model/SAdvSet.h"
+#include "model/SArray.h"
+#include "model/SSvmSet.h"
+#include "model/STabsArray.h"
+#include "model/Text.h"
+
+namespace vorlan {
+namespace {
+
+constexpr std::int32_t kNoInteger = std::numeric_limits<std::int32_t>::min();
+
+struct Stored {
+    const char* name;
+    double scale;
+    double value;
+    std::int32_t integer;
+};
+
+class StoringValues : public testing::TestWithParam<Stored> {};
+
+TEST_P(StoringValues, TruncatesTowardZero) {
+    SArray column(GetParam().scale);
+    column.AddValue(GetParam().value);
+    column.SetValue(2, GetParam().value);
+    EXPECT_EQ(column.GetAt(0), GetParam().integer);
+    EXPECT_EQ(column.GetAt(1), 0);
+    EXPECT_EQ(column.GetAt(2), GetParam().integer);
+    EXPECT_EQ(column.GetValue(0), GetParam().integer * GetParam().scale);
+    const std::vector<double> values{GetParam().value};
+    column.StoreValues(values);
+    EXPECT_EQ(column.GetSize(), 1);
+    EXPECT_EQ(column.GetAt(0), GetParam().integer);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, StoringValues,
+    testing::Values(Stored{"positive", 1.0, 1.99, 1}, Stored{"negative", 1.0, -1.99, -1},
+                    Stored{"decimals", 0.01, 12.349, 1234}, Stored{"quotientBelowTheInteger", 0.01, 0.29, 28},
+                    Stored{"largest", 1.0, 2147483647.9, 2147483647}, Stored{"tooLarge", 1.0, 2147483648.0, kNoInteger},
+                    Stored{"smallest", 1.0, -2147483648.9, kNoInteger},
+                    Stored{"tooSmall", 1.0, -2147483649.0, kNoInteger},
+                    Stored{"notANumber", 1.0, std::nan(""), kNoInteger},
+                    Stored{"infinite", 0.001, -std::numeric_limits<double>::infinity(), kNoInteger},
+                    Stored{"zeroScale", 0.0, 1.0, kNoInteger}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(Arrays, ReadingOutsideIsRefusedAndSettingGrows) {
+    SIntArray marks;
+    EXPECT_THROW(marks.GetAt(0), InvalidArgument);
+    marks.SetAt(2, 7);
+    EXPECT_EQ(marks.GetSize(), 3);
+    EXPECT_EQ(marks.GetAt(0), 0);
+    EXPECT_EQ(marks.GetAt(1), 0);
+    EXPECT_EQ(marks.GetAt(2), 7);
+    EXPECT_THROW(marks.GetAt(-1), InvalidArgument);
+    EXPECT_THROW(marks.GetAt(3), InvalidArgument);
+    EXPECT_THROW(marks.RemoveAt(3), InvalidArgument);
+    EXPECT_THROW(marks.SetAt(-1, 0), InvalidArgument);
+    EXPECT_EQ(marks.GetSize(), 3);
+    try {
+        marks.GetAt(9);
+        FAIL();
+    } catch (const InvalidArgument& error) {
+        EXPECT_STREQ(error.what(), "Encountered an improper argument.");
+    }
+    // An element may be set from the array itself while it grows.
+    StrArray names;
+    names.Add(std::string(100, 'n'));
+    for (int i = 1; i < 50; ++i) {
+        names.SetAt(i, names.GetAt(0));
+    }
+    EXPECT_EQ(names.GetAt(49), std::string(100, 'n'));
+}
+
+TEST(Arrays, GrowAgainWithZerosAfterShrinking) {
+    SArray column;
+    column.SetAt(3, 5);
+    column.RemoveAll();
+    column.SetSize(4);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(column.GetAt(i), 0);
+    }
+}
+
+TEST(Arrays, CopiesAreDeepAndKeepTheScale) {
+    SMultiArray table;
+    table.Reshape(3, 0.01);
+    table.ElementAt(1).AddValue(1.5);
+    SMultiArray copy = table;
+    EXPECT_EQ(copy, table);
+    copy.ElementAt(1).SetAt(0, 9);
+    EXPECT_EQ(table.GetAt(1).GetAt(0), 150);
+    EXPECT_EQ(copy.GetAt(1).GetScale(), 0.01);
+    copy = table;
+    copy.ElementAt(2).SetScale(2.0);
+    EXPECT_NE(copy, table);
+}
+
+TEST(Arrays, LoadingAppends) {
+    SArray stored(0.5);
+    stored.Add(3);
+    Archive out = Archive::storing();
+    stored.Serialize(out);
+    SArray column;
+    column.Add(1);
+    Archive in = Archive::loading(out.bytes());
+    column.Serialize(in);
+    EXPECT_EQ(column.GetScale(), 0.5);
+    ASSERT_EQ(column.GetSize(), 2);
+    EXPECT_EQ(column.GetAt(0), 1);
+    EXPECT_EQ(column.GetAt(1), 3);
+}
+
+TEST(Arrays, EveryKindComesBackAsItWasStored) {
+    SDMultiArray doubles;
+    doubles.GrowTo(1).Add(0.1);
+    StrArray names;
+    names.Add("a");
+    names.Add(std::string(300, 'b'));
+    SSuperArray tables;
+    tables.GrowTo(1).Reshape(2, 0.25);
+    Archive out = Archive::storing();
+    doubles.Serialize(out);
+    names.Serialize(out);
+    tables.Serialize(out);
+    SDMultiArray doublesBack;
+    StrArray namesBack;
+    SSuperArray tablesBack;
+    Archive in = Archive::loading(out.bytes());
+    doublesBack.Serialize(in);
+    namesBack.Serialize(in);
+    tablesBack.Serialize(in);
+    EXPECT_EQ(in.remaining(), 0U);
+    EXPECT_EQ(doublesBack, doubles);
+    EXPECT_EQ(namesBack, names);
+    EXPECT_EQ(tablesBack, tables);
+}
+
+std::string tabTexts(std::initializer_list<std::uint32_t> stages) {
+    STabsArray tabs;
+    for (const std::uint32_t stage : stages) {
+        TabItem item;
+        item.imageIndex = stage;
+        item.parameter = 77;
+        tabs.Add(item);
+    }
+    Archive out = Archive::storing();
+    tabs.Serialize(out);
+    STabsArray back;
+    Archive in = Archive::loading(out.bytes());
+    back.Serialize(in);
+    std::string texts;
+    for (const TabItem& item : back) {
+        EXPECT_EQ(item.mask, 3U);
+        EXPECT_EQ(item.parameter, 77U);
+        texts += item.text + "|";
+    }
+    return texts;
+}
+
+TEST(Tabs, TakeTheirTextFromTheStageNumber) {
+    EXPECT_EQ(tabTexts({0, 1, 2, 3, 4, 5, 6}),
+              "Pre-Processing|Stationarity|Histograms|Spectral Analysis|Mean Velocity Vectors|Qudrants Analysis|"
+              "Cross-Spectral Analysis|");
+    EXPECT_EQ(tabTexts({6, 7, 0xFFFFFFFFU, 2}),
+              "Cross-Spectral Analysis|Cross-Spectral Analysis|Cross-Spectral Analysis|Histograms|");
+    EXPECT_EQ(tabTexts({9, 1}), "|Stationarity|");
+}
+
+TEST(Tabs, StandInOrderOfFirstRun) {
+    STabsArray tabs;
+    EXPECT_EQ(tabs.AppendStage(3), 0);
+    EXPECT_EQ(tabs.AppendStage(0), 1);
+    EXPECT_EQ(tabs.AppendStage(3), 0);
+    EXPECT_EQ(tabs.GetSize(), 2);
+    EXPECT_EQ(tabs.IndexOfStage(5), -1);
+    EXPECT_EQ(tabs.GetAt(0).parameter, 3U);
+    EXPECT_THROW(tabs.AppendStage(7), InvalidArgument);
+    EXPECT_THROW(tabs.AppendStage(-1), InvalidArgument);
+}
+
+TEST(Set, SelectingATabGrowsTheArrays) {
+    SAdvSet set;
+    set.SetSelectedTab(1, 2, 4);
+    ASSERT_EQ(set.files.GetSize(), 2);
+    ASSERT_EQ(set.files.GetAt(1).probes.GetSize(), 3);
+    EXPECT_EQ(set.files.GetAt(1).probes.GetAt(2).selectedTab, 4);
+    EXPECT_EQ(set.files.GetAt(1).probes.GetAt(0).selectedTab, -1);
+    EXPECT_THROW(set.SetSelectedTab(5, -1, 0), InvalidArgument);
+    EXPECT_THROW(set.SetSelectedTab(-1, 0, 0), InvalidArgument);
+    EXPECT_EQ(set.files.GetSize(), 2);
+}
+
+TEST(SamplingVolumes, HoldTheIntegerPartOfTheCoordinates) {
+    SAdvSet set;
+    SAdvFile file;
+    file.fileName = "C:\\site/a\\run 7.adv";
+    SAdvProbe probe;
+    probe.samplingVolumeX = 1500.7;
+    probe.samplingVolumeY = -2.9;
+    probe.samplingVolumeZ = 1e12;
+    file.probes.Add(probe);
+    set.files.Add(file);
+    file.fileName = "site/run 8.adv";
+    file.probes.RemoveAll();
+    set.files.Add(file);
+    SSvmSet volumes;
+    volumes.Build(set);
+    volumes.Build(set);
+    ASSERT_EQ(volumes.files().size(), 2U);
+    EXPECT_EQ(volumes.files()[0].name, "run 7.adv");
+    EXPECT_EQ(volumes.files()[0].x.GetAt(0), 1500);
+    EXPECT_EQ(volumes.files()[0].x.GetValue(0), 1.5);
+    EXPECT_EQ(volumes.files()[0].y.GetAt(0), -2);
+    EXPECT_EQ(volumes.files()[0].z.GetAt(0), kNoInteger);
+    EXPECT_EQ(volumes.files()[1].name, "site/run 8.adv");
+    EXPECT_TRUE(volumes.files()[1].x.IsEmpty());
+}
+
+TEST(FixedText, EqualsPrintf) {
+    for (const double value : {0.0, -0.0, 0.125, 2.675, -0.004, 1e300, -1e-300, 0.5, 1234567.895,
+                               std::numeric_limits<double>::infinity(), std::nan(""), -std::nan("")}) {
+        for (const int digits : {0, 2, 3, 6, 7}) {
+            std::string text = "x";
+            appendFixed(text, value, digits);
+            EXPECT_EQ(text, formatted("x%.*f", digits, value));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vorlan

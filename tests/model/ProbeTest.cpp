@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "model/Angles.h"
+#include "model/Archive.h"
+#include "model/ProbeInformation.h"
+#include "model/SAdvProbe.h"
+
+namespace vorlan {
+namespace {
+
+/// Three samples (1, 2, 3), (3, 0, 3), (8, 1, 0) at resolution 0.5.
+SAdvProbe smallProbe() {
+    SAdvProbe probe;
+    const double rows[3][3] = {{1, 2, 3}, {3, 0, 3}, {8, 1, 0}};
+    probe.sampledTables[0].Reshape(3, 0.5);
+    for (const auto& row : rows) {
+        for (int c = 0; c < 3; ++c) {
+            probe.sampledTables[0].ElementAt(c).AddValue(row[c]);
+        }
+    }
+    for (int table = 1; table < 6; ++table) {
+        probe.sampledTables[static_cast<std::size_t>(table)].Reshape(1, 1.0);
+        probe.sampledTables[static_cast<std::size_t>(table)].ElementAt(0).Add(10 * table);
+    }
+    return probe;
+}
+
+TEST(Probe, NewOneHasItsDefaults) {
+    const SAdvProbe probe;
+    EXPECT_EQ(probe.selectedTab, -1);
+    EXPECT_EQ(probe.coordinateSystem, 1U);
+    EXPECT_EQ(probe.isProbe, 1U);
+    EXPECT_EQ(probe.zoomMode, 0U);
+    EXPECT_TRUE(probe.UsesAllSamples());
+    EXPECT_FALSE(probe.IsChanged());
+    EXPECT_EQ(probe.WorkingSamples(), 0);
+}
+
+TEST(Probe, ResetBringsTheSampledRecordBack) {
+    SAdvProbe probe = smallProbe();
+    probe.sampleFlags.Add(0);
+    probe.scalarResults[0] = 4.0;
+    probe.title = "kept";
+    probe.useAllSamples = 0;
+    probe.Reset();
+    EXPECT_EQ(probe.workTables[0], probe.sampledTables[0]);
+    EXPECT_EQ(probe.workTables[1].GetAt(0).GetAt(0), 10);
+    EXPECT_EQ(probe.workTables[2].GetAt(0).GetAt(0), 20);
+    EXPECT_EQ(probe.workTables[3].GetAt(0).GetAt(0), 40);
+    EXPECT_EQ(probe.workTables[4].GetAt(0).GetAt(0), 50);
+    EXPECT_TRUE(probe.workTables[5].IsEmpty());
+    EXPECT_EQ(probe.scalarResults[0], 0.0);
+    ASSERT_EQ(probe.sampleFlags.GetSize(), 3);
+    for (const std::int32_t mark : probe.sampleFlags) {
+        EXPECT_EQ(mark, 1);
+    }
+    EXPECT_EQ(probe.title, "kept");
+    EXPECT_FALSE(probe.UsesAllSamples());
+
+    // Marks beyond the record stay.
+    probe.sampleFlags.SetAt(4, -3);
+    probe.Reset();
+    EXPECT_EQ(probe.sampleFlags.GetAt(4), -3);
+}
+
+TEST(Probe, PressureIsNotStored) {
+    SAdvProbe probe = smallProbe();
+    probe.samplingInterval = 0.25;
+    Archive out = Archive::storing();
+    probe.Serialize(out);
+    SAdvProbe back;
+    Archive in = Archive::loading(out.bytes());
+    back.Serialize(in);
+    EXPECT_EQ(in.remaining(), 0U);
+    EXPECT_TRUE(back.sampledTables[5].IsEmpty());
+    EXPECT_EQ(back.sampledTables[4], probe.sampledTables[4]);
+    for (int kind = 0; kind < 6; ++kind) {
+        EXPECT_EQ(back.Series(kind).samplingInterval, 0.25);
+        EXPECT_EQ(back.Series(kind).kind, static_cast<std::uint32_t>(kind));
+    }
+    back.Reset();
+    EXPECT_TRUE(back.workTables[4].IsEmpty());
+    EXPECT_FALSE(back.workTables[3].IsEmpty());
+}
+
+TEST(Probe, CopiesAreDeep) {
+    SAdvProbe probe = smallProbe();
+    probe.seriesVW.spectrum.Add(4);
+    probe.frameAttributes[6].GrowTo(0).plotTitle = "title";
+    SAdvProbe copy = probe;
+    EXPECT_EQ(copy, probe);
+    copy.seriesVW.spectrum.SetAt(0, 5);
+    EXPECT_NE(copy, probe);
+    copy = probe;
+    copy.frameAttributes[6].ElementAt(0).plotTitle = "other";
+    EXPECT_EQ(probe.frameAttributes[6].GetAt(0).plotTitle, "title");
+    EXPECT_NE(copy, probe);
+}
+
+TEST(Probe, AnyMarkOfAStageMeansChanged) {
+    for (int mark = 0; mark < kDoneMarkCount; ++mark) {
+        SAdvProbe probe;
+        probe.SetDone(static_cast<DoneMark>(mark));
+        EXPECT_TRUE(probe.IsChanged());
+        EXPECT_TRUE(probe.IsDone(static_cast<DoneMark>(mark)));
+        probe.SetDone(static_cast<DoneMark>(mark), false);
+        EXPECT_FALSE(probe.IsChanged());
+    }
+}
+
+TEST(Probe, SamplesCountByTheirMark) {
+    SAdvProbe probe = smallProbe();
+    probe.Reset();
+    probe.sampleFlags.SetAt(0, 0);
+    probe.sampleFlags.SetAt(1, 2);
+    EXPECT_TRUE(probe.Counts(0));
+    EXPECT_EQ(meanVelocities(probe), (std::array<double, 3>{4.0, 1.0, 2.0}));
+    probe.useAllSamples = 0;
+    EXPECT_FALSE(probe.Counts(0));
+    EXPECT_TRUE(probe.Counts(1));
+    EXPECT_FALSE(probe.Counts(3));
+    EXPECT_EQ(meanVelocities(probe), (std::array<double, 3>{5.5, 0.5, 1.5}));
+}
+
+TEST(Probe, InformationTexts) {
+    SAdvProbe probe;
+    probe.workTables[0].Reshape(3, 1.0);
+    for (int c = 0; c < 3; ++c) {
+        probe.workTables[0].ElementAt(c).Add(c == 1 ? 5 : 0);
+    }
+    probe.samplingVolumeX = 1500.7;
+    probe.samplingVolumeY = -20.0;
+    const std::vector<std::string> expected = {"Current measuring point:",
+                                               "Sampling Volume Coordinates:",
+                                               "X = 1.50     Y = -0.02     Z = 0.00",
+                                               "Mean Flow Direction [deg]:",
+                                               "Heading = 90.00",
+                                               "Roll        = 0.00",
+                                               "Pitch      = 0.00",
+                                               "*Probe's XYZ coordinate system"};
+    EXPECT_EQ(probeInformation(probe), expected);
+    probe.probeNumber = 12;
+    EXPECT_EQ(probeListText(probe), "Probe 12");
+    probe.isProbe = 0;
+    EXPECT_EQ(probeListText(probe), "Burst 12");
+}
+
+TEST(Probe, FlowDirectionsTakeTheirOwnPairs) {
+    const FlowDirections directions = meanFlowDirections({1.0, 1.0, -2.0});
+    EXPECT_NEAR(directions.heading, 45.0, 1e-9);
+    EXPECT_NEAR(directions.roll, -63.434948822922, 1e-9);
+    EXPECT_NEAR(directions.pitch, -63.434948822922, 1e-9);
+    EXPECT_NEAR(meanFlowDirections({-1.0, 0.0, 1.0}).pitch, 90.0, 1e-9);
+}
+
+TEST(RotatePair, TurnsFromTheFirstAxisToTheSecond) {
+    double x = 1.0;
+    double y = 0.0;
+    RotatePair(x, y, 90.0);
+    EXPECT_NEAR(x, 0.0, 1e-12);
+    EXPECT_NEAR(y, 1.0, 1e-12);
+    RotatePair(x, y, -30.0);
+    EXPECT_NEAR(x, 0.5, 1e-12);
+    EXPECT_NEAR(y, std::sqrt(3.0) / 2.0, 1e-12);
+    // The constant has twelve decimals: a half turn does not quite close.
+    x = 1.0;
+    y = 0.0;
+    RotatePair(x, y, 180.0);
+    EXPECT_EQ(y, std::sin(3.141592653589));
+}
+
+}  // namespace
+}  // namespace vorlan
