@@ -20,6 +20,15 @@ std::vector<int> countedIndexes(const SAdvProbe& probe, int samples) {
     return indexes;
 }
 
+SArray picked(const SArray& column, const std::vector<int>& indexes) {
+    SArray part(column.GetScale());
+    part.ResizeForOverwrite(indexes.size());
+    const auto source = column.view();
+    std::transform(indexes.begin(), indexes.end(), part.begin(),
+                   [source](int i) { return source[static_cast<std::size_t>(i)]; });
+    return part;
+}
+
 }  // namespace
 
 void formAnalysedSeries(SAdvProbe& probe) {
@@ -37,23 +46,16 @@ void formAnalysedSeries(SAdvProbe& probe) {
         if (column.GetSize() < samples) {
             throw InvalidArgument();
         }
-        series.values.SetScale(column.GetScale());
-        series.values.ResizeForOverwrite(indexes.size());
-        const auto source = column.view();
-        std::transform(indexes.begin(), indexes.end(), series.values.begin(),
-                       [source](int i) { return source[static_cast<std::size_t>(i)]; });
+        series.values = picked(column, indexes);
     }
 }
 
+SArray countedColumn(const SAdvProbe& probe, const SArray& column) {
+    return picked(column, countedIndexes(probe, column.GetSize()));
+}
+
 std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column) {
-    const double scale = column.GetScale();
-    const auto source = column.view();
-    std::vector<double> values;
-    values.reserve(source.size());
-    for (const int i : countedIndexes(probe, column.GetSize())) {
-        values.push_back(source[static_cast<std::size_t>(i)] * scale);
-    }
-    return values;
+    return countedColumn(probe, column).Values();
 }
 
 }  // namespace vorlan

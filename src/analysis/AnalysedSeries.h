@@ -8,6 +8,9 @@ namespace vorlan {
 /// working columns) and gives them the probe's sampling interval. The three always have one length.
 void formAnalysedSeries(SAdvProbe& probe);
 
+/// The part of column that counts by the probe's marks: integers copied, resolution kept.
+SArray countedColumn(const SAdvProbe& probe, const SArray& column);
+
 /// The values of column that count by the probe's marks, in index order.
 std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column);
 

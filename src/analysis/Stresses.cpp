@@ -57,11 +57,9 @@ void formStresses(SAdvProbe& probe, StressResolution resolution) {
 
         // The moments are those of the stored products, of the samples that count.
         STimeSeries& series = probe.Series(STimeSeries::UV + pair);
-        const std::vector<double> counted = countedValues(probe, column);
         series.samplingInterval = probe.samplingInterval;
-        series.values.SetScale(column.GetScale());
-        series.values.StoreValues(counted);
-        series.moments = momentsOf(counted);
+        series.values = countedColumn(probe, column);
+        series.moments = momentsOf(series.values.Values());
         probe.SetStressMoments(pair, series.moments);
     }
     probe.stressesFormed = 1;

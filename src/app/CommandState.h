@@ -1,17 +1,18 @@
 #pragma once
 
 #include "app/CVorl_ADVDoc.h"
+#include "export/ExportKind.h"
 
 namespace vorlan {
 
 /// Every command that a menu offers, in the order of the menus.
-enum class Command {
+enum class Command : int {
     NewWorkspace,
     OpenWorkspace,
     SaveWorkspace,
     SaveWorkspaceAs,
     CloseFile,
-    ExportVelocities,
+    ExportVelocities,  // the exports stand in the order of ExportKind
     ExportStationarity,
     ExportHistograms,
     ExportStatistics,
@@ -56,6 +57,11 @@ enum class Command {
 };
 
 inline constexpr int kCommandCount = static_cast<int>(Command::About) + 1;
+
+/// The command that offers an export.
+inline Command exportCommand(ExportKind kind) {
+    return static_cast<Command>(static_cast<int>(Command::ExportVelocities) + static_cast<int>(kind));
+}
 
 struct CommandState {
     bool enabled = false;
