@@ -8,8 +8,10 @@ namespace vorlan {
 
 /// Frequencies that one call of KernelSet::trigonometricSums works on.
 inline constexpr std::size_t kFrequencyBlock = 16;
-/// Lags between two accurate sines and cosines.
+/// Lags of one block, half of them on either side of its middle.
 inline constexpr std::size_t kPhaseSteps = 64;
+/// Distances from a block's middle, 0 included.
+inline constexpr std::size_t kFoldedSteps = kPhaseSteps / 2 + 1;
 /// Series that share their cosines in one call.
 inline constexpr std::size_t kSharedSeries = 3;
 
@@ -19,10 +21,17 @@ struct alignas(64) PhaseRow {
     double sine[kFrequencyBlock];
 };
 
-/// The phase of lag b * kPhaseSteps + t is the sum of two: of t, in steps[t], and of b * kPhaseSteps, in blocks[b].
+/// The terms of one block of lags by their distance t from its middle m = b * kPhaseSteps + kPhaseSteps / 2:
+/// a[m + t] + a[m - t] and a[m + t] - a[m - t], a[m] once, and beyond the block nothing.
+struct FoldedTerms {
+    double even[kFoldedSteps];
+    double odd[kFoldedSteps];
+};
+
+/// Phases of the distances 0..kPhaseSteps / 2 and of the middles of the blocks.
 struct PhaseTables {
     const PhaseRow* steps;
-    const PhaseRow* blocks;
+    const PhaseRow* middles;
 };
 
 /// The inner loops, compiled for one instruction set. They work on sums that live in memory between calls, so that
@@ -41,11 +50,11 @@ struct KernelSet {
     void (*squaredDifferences)(const double* d, std::size_t size, std::size_t firstLag, std::size_t lags,
                                std::size_t first, std::size_t last, double* sums);
 
-    /// sums[s * kFrequencyBlock + f] = sum over k = 0..count-1 of terms[s][k] * cosine (or sine) of frequency f and
-    /// lag k, k ascending, for series s = 0..series-1; series is 1..kSharedSeries.
-    void (*cosineSums)(const double* const* terms, std::size_t series, std::size_t count, const PhaseTables& phases,
-                       double* sums);
-    void (*sineSums)(const double* const* terms, std::size_t series, std::size_t count, const PhaseTables& phases,
+    /// sums[s * kFrequencyBlock + f] = sum over all lags of term of series s * cosine (or sine) of frequency f and the
+    /// lag, block by block, for series s = 0..series-1; series is 1..kSharedSeries.
+    void (*cosineSums)(const FoldedTerms* const* terms, std::size_t series, std::size_t blocks,
+                       const PhaseTables& phases, double* sums);
+    void (*sineSums)(const FoldedTerms* const* terms, std::size_t series, std::size_t blocks, const PhaseTables& phases,
                      double* sums);
 };
 

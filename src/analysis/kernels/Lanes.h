@@ -37,6 +37,22 @@ inline Lanes spread(double v) {
     return v - Lanes{};
 }
 
+/// Loads into a register that is kept: used several times, the compiler would rather load again each time.
+inline Lanes loadOnce(const double* p) {
+    Lanes v = load(p);
+#if defined(__x86_64__)
+    asm("" : "+v"(v));
+#endif
+    return v;
+}
+
+/// Hides from the compiler where p points: equal addresses are then loaded from separately. The widest registers
+/// multiply faster by a number broadcast in the same instruction than by one broadcast before for two.
+template <class T>
+inline void keepApart(const T*& p) {
+    asm volatile("" : "+r"(p));
+}
+
 /// The difference of v and b, of either sign, on the adders or, where there is a fused operation, on the multipliers.
 template <bool OnMultipliers>
 inline Lanes difference(Lanes v, Lanes b) {

@@ -1,5 +1,6 @@
 #include "analysis/kernels/PhaseTable.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -24,21 +25,54 @@ PhaseTable::PhaseTable(std::size_t length) : turn_(2 * length), circle_(turn_) {
     }
 }
 
-void PhaseTable::fill(std::size_t first, std::size_t stride, std::size_t rows, PhaseRow* table) const {
-    std::array<std::size_t, kFrequencyBlock> place{};
-    std::array<std::size_t, kFrequencyBlock> step{};
+PhaseTable::Places PhaseTable::placesOf(std::size_t first, std::size_t lag) const {
+    Places places{};
     for (std::size_t f = 0; f < kFrequencyBlock; ++f) {
-        step[f] = (first + f) * stride % turn_;
+        places[f] = (first + f) * lag % turn_;
     }
-    for (std::size_t row = 0; row < rows; ++row) {
-        for (std::size_t f = 0; f < kFrequencyBlock; ++f) {
-            const Point& p = circle_[place[f]];
-            const double lack = static_cast<double>((first + f) * (row * stride)) * lack_;
-            const double loss = 0.5 * lack * lack;
-            table[row].cosine[f] = p.cosine + p.sine * lack - p.cosine * loss;
-            table[row].sine[f] = p.sine - p.cosine * lack - p.sine * loss;
-            place[f] += step[f];
-            place[f] = place[f] < turn_ ? place[f] : place[f] - turn_;
+    return places;
+}
+
+void PhaseTable::advance(Places& places, const Places& step) const {
+    for (std::size_t f = 0; f < kFrequencyBlock; ++f) {
+        const std::size_t next = places[f] + step[f];
+        places[f] = next < turn_ ? next : next - turn_;
+    }
+}
+
+void PhaseTable::lookUp(const Places& places, std::size_t first, std::size_t lag, PhaseRow& row) const {
+    for (std::size_t f = 0; f < kFrequencyBlock; ++f) {
+        const Point& p = circle_[places[f]];
+        const double lack = static_cast<double>((first + f) * lag) * lack_;
+        const double loss = 0.5 * lack * lack;
+        row.cosine[f] = p.cosine + p.sine * lack - p.cosine * loss;
+        row.sine[f] = p.sine - p.cosine * lack - p.sine * loss;
+    }
+}
+
+void PhaseTable::fill(std::size_t first, std::size_t start, std::size_t stride, std::size_t rows,
+                      PhaseRow* table) const {
+    // Row a * kGroup + b adds two phases: looking all of them up would take as long as the sums.
+    constexpr std::size_t kGroup = 16;
+    std::array<PhaseRow, kGroup> inner;
+    Places places{};
+    const Places innerStep = placesOf(first, stride);
+    for (std::size_t b = 0; b < std::min(kGroup, rows); ++b) {
+        lookUp(places, first, b * stride, inner[b]);
+        advance(places, innerStep);
+    }
+    places = placesOf(first, start);
+    const Places outerStep = placesOf(first, kGroup * stride);
+    for (std::size_t a = 0; a < rows; a += kGroup) {
+        PhaseRow outer;
+        lookUp(places, first, start + a * stride, outer);
+        advance(places, outerStep);
+        for (std::size_t b = 0; b < std::min(kGroup, rows - a); ++b) {
+            PhaseRow& row = table[a + b];
+            for (std::size_t f = 0; f < kFrequencyBlock; ++f) {
+                row.cosine[f] = outer.cosine[f] * inner[b].cosine[f] - outer.sine[f] * inner[b].sine[f];
+                row.sine[f] = outer.sine[f] * inner[b].cosine[f] + outer.cosine[f] * inner[b].sine[f];
+            }
         }
     }
 }

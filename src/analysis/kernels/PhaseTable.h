@@ -17,14 +17,19 @@ class PhaseTable {
     /// length L of at least 1.
     explicit PhaseTable(std::size_t length);
 
-    /// The phases of frequencies first..first+kFrequencyBlock-1 and lags 0, stride, 2 stride, ... (rows of them).
-    void fill(std::size_t first, std::size_t stride, std::size_t rows, PhaseRow* table) const;
+    /// The phases of frequencies first..first+kFrequencyBlock-1 and lags start, start + stride, ... (rows of them).
+    void fill(std::size_t first, std::size_t start, std::size_t stride, std::size_t rows, PhaseRow* table) const;
 
   private:
     struct Point {
         double cosine;
         double sine;
     };
+    using Places = std::array<std::size_t, kFrequencyBlock>;
+
+    Places placesOf(std::size_t first, std::size_t lag) const;
+    void advance(Places& places, const Places& step) const;
+    void lookUp(const Places& places, std::size_t first, std::size_t lag, PhaseRow& row) const;
 
     std::size_t turn_;           // 2L
     double lack_;                // (pi - kPi) / L

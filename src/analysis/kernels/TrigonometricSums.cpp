@@ -13,6 +13,23 @@ namespace {
 using Series = std::vector<std::vector<double>>;
 using BlockSums = decltype(KernelSet::cosineSums);
 
+std::vector<FoldedTerms> folded(std::span<const double> terms) {
+    std::vector<FoldedTerms> blocks((terms.size() + kPhaseSteps - 1) / kPhaseSteps);
+    const auto at = [terms](std::size_t k) { return k < terms.size() ? terms[k] : 0.0; };
+    for (std::size_t b = 0; b < blocks.size(); ++b) {
+        const std::size_t middle = b * kPhaseSteps + kPhaseSteps / 2;
+        blocks[b].even[0] = at(middle);
+        blocks[b].odd[0] = 0.0;
+        for (std::size_t t = 1; t < kFoldedSteps; ++t) {
+            // The lag as far behind the middle as the first before it belongs to the next block.
+            const double behind = t < kPhaseSteps / 2 ? at(middle + t) : 0.0;
+            blocks[b].even[t] = behind + at(middle - t);
+            blocks[b].odd[t] = behind - at(middle - t);
+        }
+    }
+    return blocks;
+}
+
 Series trigonometricSums(std::span<const std::vector<double>> terms, std::size_t length, std::size_t frequencies,
                          Progress& progress, BlockSums blockSums) {
     Series result(terms.size(), std::vector<double>(frequencies));
@@ -20,26 +37,27 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, std::size_t
         return result;
     }
     const std::size_t count = terms.front().size();
-    std::vector<const double*> series;
+    std::vector<std::vector<FoldedTerms>> series;
+    std::vector<const FoldedTerms*> starts;
     for (const std::vector<double>& s : terms) {
         if (s.size() != count || length == 0) {
             throw InvalidArgument();
         }
-        series.push_back(s.data());
+        starts.push_back(series.emplace_back(folded(s)).data());
     }
 
     const PhaseTable table(length);
-    std::vector<PhaseRow> steps(std::min(count, kPhaseSteps));
-    std::vector<PhaseRow> blocks((count + kPhaseSteps - 1) / kPhaseSteps);
+    std::vector<PhaseRow> steps(kFoldedSteps);
+    std::vector<PhaseRow> middles(series.front().size());
     std::vector<double> sums(kSharedSeries * kFrequencyBlock);
     Pacer pacer(progress);
     for (std::size_t first = 0; first < frequencies; first += kFrequencyBlock) {
-        table.fill(first, 1, steps.size(), steps.data());
-        table.fill(first, kPhaseSteps, blocks.size(), blocks.data());
+        table.fill(first, 0, 1, steps.size(), steps.data());
+        table.fill(first, kPhaseSteps / 2, kPhaseSteps, middles.size(), middles.data());
         const std::size_t held = std::min(kFrequencyBlock, frequencies - first);
         for (std::size_t s = 0; s < series.size(); s += kSharedSeries) {
             const std::size_t shared = std::min(kSharedSeries, series.size() - s);
-            blockSums(series.data() + s, shared, count, {steps.data(), blocks.data()}, sums.data());
+            blockSums(starts.data() + s, shared, middles.size(), {steps.data(), middles.data()}, sums.data());
             for (std::size_t t = 0; t < shared; ++t) {
                 std::copy_n(sums.begin() + static_cast<std::ptrdiff_t>(t * kFrequencyBlock), held,
                             result[s + t].begin() + static_cast<std::ptrdiff_t>(first));

@@ -1,0 +1,3 @@
+#include "Peak.h"
+#define PEAK_FUNCTION peakAvx2
+#include "PeakLoop.inc"

@@ -1,0 +1,3 @@
+#include "Peak.h"
+#define PEAK_FUNCTION peakAvx512
+#include "PeakLoop.inc"

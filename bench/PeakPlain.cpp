@@ -1,0 +1,3 @@
+#include "Peak.h"
+#define PEAK_FUNCTION peakPlain
+#include "PeakLoop.inc"
