@@ -1,0 +1,87 @@
+#include "batch/BatchProgram.h"
+
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+
+#include "batch/Jobs.h"
+#include "batch/Subcommands.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr const char* kVersion = "vorlan-batch 1.59";
+constexpr const char* kStatusHelp =
+    "Exit status: 0 done, 1 refused, 2 wrong usage or recipe, 3 an input cannot be read,\n"
+    "4 an output cannot be written. An output file is replaced only when it is complete.";
+
+std::vector<Subcommand> addSubcommands(CLI::App& program) {
+    std::vector<Subcommand> commands;
+    for (const auto add : {addNewCommand, addSimulateCommand, addImportCommand, addInfoCommand, addRunCommand,
+                           addExportCommand, addRenderCommand}) {
+        commands.push_back(add(program));
+        commands.back().options->set_version_flag("--version", kVersion, "Tell the version");
+        commands.back().options->set_help_flag("-h,--help", "Tell how it is used");
+    }
+    return commands;
+}
+
+int usageFault(Console& console, const CLI::App& program, const CLI::ParseError& error) {
+    console.complain(error.what());
+    std::string command = kBatchName;
+    for (const CLI::App* used : program.get_subcommands()) {
+        command += " " + used->get_name();
+    }
+    console.err << "Try \"" << command << " --help\".\n" << std::flush;
+    return static_cast<int>(ExitStatus::Usage);
+}
+
+/// What was asked for has to arrive: a full disk behind out is a failure.
+int afterOutput(Console& console) {
+    console.out.flush();
+    if (console.out) {
+        return static_cast<int>(ExitStatus::Done);
+    }
+    console.complain("Standard output cannot be written");
+    return static_cast<int>(ExitStatus::Unwritable);
+}
+
+}  // namespace
+
+int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err) {
+    Console console{out, err, &err == &std::cerr && ::isatty(STDERR_FILENO) == 1};
+    CLI::App program(
+        "Turbulence measurements without a window: runs the commands of Vorlan over any number of workspaces.",
+        kBatchName);
+    program.get_formatter()->column_width(36);
+    program.set_version_flag("--version", kVersion, "Tell the version");
+    program.set_help_flag("-h,--help", "Tell how it is used");
+    program.footer(kStatusHelp);
+    program.require_subcommand(1);
+    const std::vector<Subcommand> commands = addSubcommands(program);
+    try {
+        std::reverse(args.begin(), args.end());
+        program.parse(std::move(args));
+    } catch (const CLI::CallForHelp&) {
+        out << program.help();
+        return afterOutput(console);
+    } catch (const CLI::CallForVersion& version) {
+        out << version.what() << '\n';
+        return afterOutput(console);
+    } catch (const CLI::ParseError& error) {
+        return usageFault(console, program, error);
+    }
+    ExitStatus status = ExitStatus::Usage;
+    for (const Subcommand& command : commands) {
+        if (command.options->parsed()) {
+            const ExitStatus thrown = guarded(console, [&](Console& own) { status = command.run(own); });
+            status = thrown == ExitStatus::Done ? status : thrown;
+        }
+    }
+    return static_cast<int>(status);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+namespace vorlan {
+
+inline constexpr const char* kBatchName = "vorlan-batch";
+
+/// Where a command writes: what was asked for to out, everything else to err.
+struct Console {
+    std::ostream& out;
+    std::ostream& err;
+    bool errIsTerminal = false;
+
+    /// "vorlan-batch: text" on err, for every line of the text.
+    void complain(const std::string& text);
+};
+
+}  // namespace vorlan

@@ -1,0 +1,78 @@
+#include "batch/ConsolePort.h"
+
+#include "batch/Interrupt.h"
+
+namespace vorlan {
+
+namespace {
+// The one question whose answer an option decides; all others ask whether the user means what the recipe says.
+constexpr const char* kRepeatQuestion = "The Time Series was changed. Repeat all previous calculations ?";
+}  // namespace
+
+bool ConsolePort::takeRefused() {
+    const bool said = refused_;
+    refused_ = false;
+    return said;
+}
+
+bool ConsolePort::confirm(const std::string& text) {
+    return text == kRepeatQuestion ? options_.repeatStages : true;
+}
+
+void ConsolePort::refuse(const std::string& text) {
+    clearLine();
+    refused_ = true;
+    console_.complain(context_ + ": " + text);
+}
+
+void ConsolePort::beginRun(int) {
+    calculation_.clear();
+    percent_ = -1;
+}
+
+void ConsolePort::endRun() {
+    clearLine();
+}
+
+void ConsolePort::status(const std::string& text) {
+    // The texts end as a status bar in front of a bar wants them.
+    calculation_ = text.substr(0, text.find_last_not_of(": ") + 1);
+    show();
+}
+
+void ConsolePort::progress(int percent) {
+    if (percent != percent_) {
+        percent_ = percent;
+        show();
+    }
+}
+
+bool ConsolePort::pump() {
+    return !interrupted();
+}
+
+void ConsolePort::show() {
+    if (!options_.showProgress || calculation_.empty()) {
+        return;
+    }
+    clearLine();
+    console_.err << context_ << ": " << calculation_;
+    if (percent_ >= 0) {
+        console_.err << ' ' << percent_ << " %";
+    }
+    if (console_.errIsTerminal) {
+        lineShown_ = true;
+    } else {
+        console_.err << '\n';
+    }
+    console_.err.flush();
+}
+
+void ConsolePort::clearLine() {
+    if (lineShown_) {
+        console_.err << "\r\033[K" << std::flush;
+        lineShown_ = false;
+    }
+}
+
+}  // namespace vorlan

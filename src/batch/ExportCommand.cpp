@@ -1,0 +1,63 @@
+#include "batch/ExportRun.h"
+#include "batch/Options.h"
+#include "batch/Outputs.h"
+#include "batch/RecipeKeys.h"
+#include "batch/Subcommands.h"
+
+namespace vorlan {
+
+namespace {
+
+struct ExportArguments {
+    std::string input;
+    std::string out;
+    ProbePlace place;
+    ExportRequest request;
+    int separator = 0;
+};
+
+void runExport(const ExportArguments& arguments, Console& console) {
+    const std::string fault = faultOf(arguments.request);
+    if (!fault.empty()) {
+        throw usageError(fault);
+    }
+    SilentPort port;
+    CVorl_ADVDoc document(port);
+    openDocument(document, arguments.input);
+    std::string text;
+    try {
+        selectPlace(document, arguments.place);
+        text = exportedText(document, arguments.request);
+    } catch (const BatchError& error) {
+        throw BatchError(error.status(), arguments.input + ": " + error.what());
+    }
+    writeOutput(arguments.out, text, console);
+}
+
+}  // namespace
+
+Subcommand addExportCommand(CLI::App& program) {
+    CLI::App* app = program.add_subcommand("export", "Write results as text, for other programs");
+    const auto arguments = std::make_shared<ExportArguments>();
+    addChoice(*app, "KIND", arguments->request.name, exportNames(), "What to write: " + listed(exportNames()))
+        ->required()
+        ->type_name("");
+    app->add_option("--out", arguments->out, "The file to write; - is standard output")
+        ->required()
+        ->type_name("OUT.dat");
+    addPlace(*app, arguments->place);
+    app->add_flag("--header", arguments->request.options.header, "Header lines first");
+    app->add_flag("--time", arguments->request.options.time, "Time, lag and frequency columns first");
+    addChoice(*app, "--separator", arguments->separator, separatorNames(), "What stands between the values")
+        ->type_name("space|tab|comma")
+        ->default_str("space");
+    app->add_flag("--all", arguments->request.all, "All files and probes, for tables that have such a form");
+    app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
+    return {app, [arguments](Console& console) {
+                arguments->request.options.separator = static_cast<Separator>(arguments->separator);
+                runExport(*arguments, console);
+                return ExitStatus::Done;
+            }};
+}
+
+}  // namespace vorlan

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/CVorl_ADVDoc.h"
+#include "app/CommandState.h"
+#include "export/ExportKind.h"
+#include "export/ExportOptions.h"
+
+namespace vorlan {
+
+/// Names of the exports, in the order of their menu.
+const std::vector<std::string>& exportNames();
+/// Names of the value separators, by their code.
+const std::vector<std::string>& separatorNames();
+
+struct ExportRequest {
+    int name = 0;  ///< index in exportNames()
+    ExportOptions options;
+    bool all = false;  ///< all files and probes
+};
+
+/// Why the request cannot be meant; empty when it can.
+std::string faultOf(const ExportRequest& request);
+
+/// The command that the window offers for it.
+Command commandOf(const ExportRequest& request);
+
+/// The file of the selected probe (or of all), as the window would write it. BatchError Refused when it would not.
+std::string exportedText(const CVorl_ADVDoc& document, const ExportRequest& request);
+
+}  // namespace vorlan

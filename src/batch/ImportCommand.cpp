@@ -1,0 +1,126 @@
+#include <cmath>
+
+#include "analysis/ImportedProbe.h"
+#include "batch/Options.h"
+#include "batch/Subcommands.h"
+#include "batch/TextValues.h"
+#include "io/DelimitedTable.h"
+
+namespace vorlan {
+
+namespace {
+
+struct ImportOptions {
+    std::string out;
+    bool append = false;
+    bool asProbes = false;
+    std::optional<std::string> name;
+    TableOptions table;
+    ImportSettings settings;
+    int missing = 0;  ///< 0 error, 1 mark
+    std::vector<std::string> tables;
+};
+
+const Range kAboveZero{std::nextafter(0.0, 1.0), 1e300};
+
+SAdvProbe readProbe(const std::string& path, const ImportOptions& options, std::uint32_t number, Console& console) {
+    try {
+        const DelimitedTable table = readDelimitedTable(path, options.table);
+        for (const std::string& column : table.unused) {
+            console.complain(path + ": column \"" + nameAsUtf8(column) + "\" is not used");
+        }
+        ImportSettings settings = options.settings;
+        settings.probeNumber = number;
+        return importedProbe(table.record, settings);
+    } catch (const FileError& error) {
+        throw unreadable(textOf(error));
+    } catch (const InvalidArgument&) {
+        throw unreadable(path + ": a column holds no value");
+    }
+}
+
+SAdvFile newFile(const ImportOptions& options, const std::string& table) {
+    SAdvFile file;
+    file.fileName = options.name ? *options.name : std::filesystem::path(table).stem().string();
+    file.headerDoubleA = options.settings.samplingInterval;
+    return file;
+}
+
+void setLength(SAdvFile& file) {
+    const SAdvProbe& first = file.probes.GetAt(0);
+    file.headerDoubleB = first.WorkingSamples() * first.samplingInterval;
+}
+
+std::vector<SAdvFile> readFiles(const ImportOptions& options, Console& console) {
+    std::vector<SAdvFile> files;
+    for (const std::string& table : options.tables) {
+        if (files.empty() || !options.asProbes) {
+            files.push_back(newFile(options, table));
+        }
+        SAdvProbesArray& probes = files.back().probes;
+        probes.Add(readProbe(table, options, static_cast<std::uint32_t>(probes.GetSize()) + 1, console));
+        setLength(files.back());
+    }
+    return files;
+}
+
+void addTableOptions(CLI::App& app, ImportOptions& options) {
+    app.add_option_function<std::string>(
+           "--columns",
+           [&options](const std::string& text) {
+               const std::string fault = refusalOfColumnList(text);
+               if (!fault.empty()) {
+                   throw CLI::ValidationError("--columns", fault);
+               }
+               options.table.columns = text;
+           },
+           "Names of the columns, with commas between them, \"-\" for one to skip: u,v,w (required), cor1,cor2,cor3, "
+           "snr1,snr2,snr3, heading,pitch,roll, pressure; without it the first line names them")
+        ->type_name("LIST");
+    addReal(app, "--resolution", options.settings.resolution, kAboveZero, "R",
+            "Step in which velocities are stored, cm/s; everything else takes 0.001")
+        ->default_str(shown(options.settings.resolution));
+    addChoice(app, "--missing", options.missing, {"error", "mark"},
+              "An empty or NaN velocity is an error, or (mark) the sample gets mark 0 and the straight line between "
+              "its neighbours")
+        ->type_name("error|mark")
+        ->default_str("error");
+}
+
+}  // namespace
+
+Subcommand addImportCommand(CLI::App& program) {
+    CLI::App* app = program.add_subcommand("import", "Make a workspace from delimited text");
+    const auto options = std::make_shared<ImportOptions>();
+    addWorkspaceOutput(*app, options->out, "The workspace to write")->required();
+    app->add_flag("--append", options->append, "Add the records to that workspace as further data files");
+    addReal(*app, "--interval", options->settings.samplingInterval, kAboveZero, "S", "Sampling interval, s")
+        ->required();
+    addTableOptions(*app, *options);
+    app->add_option("--name", options->name, "Name of the data file (default: the table's, without its extension)")
+        ->type_name("TEXT");
+    addTriple(*app, "--position", options->settings.position, kAnyNumbers, "X,Y,Z",
+              "Position of the sampling volume, m")
+        ->default_str("0,0,0");
+    app->add_flag("--as-probes", options->asProbes, "Make all tables probes 1, 2, ... of one data file");
+    app->add_option("TABLE", options->tables, "Text with one sample per line; comma, semicolon, tab or blanks between")
+        ->required()
+        ->type_name("");
+    return {app, [options](Console& console) {
+                options->table.velocityResolution = options->settings.resolution;
+                options->table.missing =
+                    options->missing == 1 ? TableOptions::Missing::Mark : TableOptions::Missing::Error;
+                SilentPort port;
+                CVorl_ADVDoc document(port);
+                if (options->append) {
+                    openDocument(document, options->out);
+                }
+                for (SAdvFile& file : readFiles(*options, console)) {
+                    document.AppendFile(std::move(file));
+                }
+                saveDocument(document, options->out);
+                return ExitStatus::Done;
+            }};
+}
+
+}  // namespace vorlan

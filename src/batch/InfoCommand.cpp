@@ -1,0 +1,49 @@
+#include "batch/Options.h"
+#include "batch/Outputs.h"
+#include "batch/Subcommands.h"
+#include "batch/WorkspaceSummary.h"
+#include "io/ReadFile.h"
+#include "io/WorkspaceFile.h"
+#include "model/Archive.h"
+
+namespace vorlan {
+
+namespace {
+
+struct InfoArguments {
+    std::string input;
+    bool json = false;
+};
+
+/// The text at the head of a workspace file.
+std::string versionOf(const FileContent& content) {
+    Archive archive = Archive::loading(content.bytes());
+    std::string version;
+    archive.value(version);
+    return version;
+}
+
+std::string summaryOf(const InfoArguments& arguments) {
+    try {
+        const Workspace workspace = openWorkspace(arguments.input);
+        const std::string version = versionOf(readFile(arguments.input));
+        return arguments.json ? summaryAsJson(workspace, version) : summaryAsText(workspace, version, arguments.input);
+    } catch (const FileError& error) {
+        throw unreadable(textOf(error));
+    }
+}
+
+}  // namespace
+
+Subcommand addInfoCommand(CLI::App& program) {
+    CLI::App* app = program.add_subcommand("info", "Tell what a workspace holds");
+    const auto arguments = std::make_shared<InfoArguments>();
+    app->add_flag("--json", arguments->json, "As one JSON object, for other programs");
+    app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
+    return {app, [arguments](Console& console) {
+                writeOutput(kStandardOutput, summaryOf(*arguments), console);
+                return ExitStatus::Done;
+            }};
+}
+
+}  // namespace vorlan

@@ -1,0 +1,29 @@
+#include "batch/Options.h"
+#include "batch/Outputs.h"
+#include "batch/Subcommands.h"
+
+namespace vorlan {
+
+Subcommand addNewCommand(CLI::App& program) {
+    CLI::App* app = program.add_subcommand("new", "Make an empty workspace");
+    const auto path = std::make_shared<std::string>();
+    app->add_option_function<std::string>(
+           "OUT.avp",
+           [path](const std::string& text) {
+               if (text.empty() || text == kStandardOutput) {
+                   throw CLI::ValidationError("OUT.avp", "a workspace needs the name of a file");
+               }
+               *path = text;
+           },
+           "The workspace to write; an existing file is replaced")
+        ->required()
+        ->type_name("");
+    return {app, [path](Console&) {
+                SilentPort port;
+                CVorl_ADVDoc document(port);
+                saveDocument(document, *path);
+                return ExitStatus::Done;
+            }};
+}
+
+}  // namespace vorlan

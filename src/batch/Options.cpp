@@ -1,0 +1,115 @@
+#include "batch/Options.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "batch/Outputs.h"
+#include "batch/RecipeKeys.h"
+#include "batch/TextValues.h"
+#include "model/Text.h"
+
+namespace vorlan {
+
+namespace {
+
+void requireInRange(const std::string& option, double value, const Range& range) {
+    if (!range.holds(value)) {
+        throw CLI::ValidationError(option, shown(value) + " is not " + describe(range));
+    }
+}
+
+CLI::Option* addNumber(CLI::App& app, const std::string& name, int& target, const std::string& help) {
+    return app
+        .add_option_function<std::string>(
+            name,
+            [&target, name](const std::string& text) {
+                const std::optional<long long> number = parseInteger(text);
+                if (!number || *number < 1 || *number > std::numeric_limits<int>::max()) {
+                    throw CLI::ValidationError(name, "\"" + text + "\" is not a number from 1");
+                }
+                target = static_cast<int>(*number) - 1;
+            },
+            help)
+        ->type_name("N")
+        ->default_str(std::to_string(target + 1));
+}
+
+}  // namespace
+
+std::string shown(double value) {
+    return formatted("%.15g", value);
+}
+
+CLI::Option* addWorkspaceOutput(CLI::App& app, std::string& path, const std::string& help) {
+    return app
+        .add_option_function<std::string>(
+            "--out",
+            [&path](const std::string& text) {
+                if (text.empty() || text == kStandardOutput) {
+                    throw CLI::ValidationError("--out", "a workspace needs the name of a file");
+                }
+                path = text;
+            },
+            help)
+        ->type_name("OUT.avp");
+}
+
+CLI::Option* addReal(CLI::App& app, const std::string& name, double& target, const Range& range,
+                     const std::string& unit, const std::string& help) {
+    return app
+        .add_option_function<std::string>(
+            name,
+            [&target, name, range](const std::string& text) {
+                const std::optional<double> value = parseReal(text);
+                if (!value) {
+                    throw CLI::ValidationError(name, "\"" + text + "\" is not a number");
+                }
+                requireInRange(name, *value, range);
+                target = *value;
+            },
+            help)
+        ->type_name(unit);
+}
+
+CLI::Option* addTriple(CLI::App& app, const std::string& name, std::array<double, 3>& target, const Ranges& ranges,
+                       const std::string& parts, const std::string& help) {
+    return app
+        .add_option_function<std::string>(
+            name,
+            [&target, name, ranges, parts](const std::string& text) {
+                const std::optional<std::vector<double>> values = parseReals(text, target.size());
+                if (!values) {
+                    throw CLI::ValidationError(
+                        name, "\"" + text + "\" is not three numbers " + parts + " with commas between them");
+                }
+                for (std::size_t i = 0; i < target.size(); ++i) {
+                    requireInRange(name, (*values)[i], ranges[i]);
+                }
+                std::copy(values->begin(), values->end(), target.begin());
+            },
+            help)
+        ->type_name(parts);
+}
+
+CLI::Option* addChoice(CLI::App& app, const std::string& name, int& target, const std::vector<std::string>& choices,
+                       const std::string& help) {
+    return app
+        .add_option_function<std::string>(
+            name,
+            [&target, name, choices](const std::string& text) {
+                const auto at = std::find(choices.begin(), choices.end(), text);
+                if (at == choices.end()) {
+                    throw CLI::ValidationError(name, "\"" + text + "\" is not " + listed(choices));
+                }
+                target = static_cast<int>(at - choices.begin());
+            },
+            help)
+        ->type_name("NAME");
+}
+
+void addPlace(CLI::App& app, ProbePlace& place) {
+    addNumber(app, "--file", place.file, "Data file, counted from 1");
+    addNumber(app, "--probe", place.probe, "Probe in the data file, counted from 1");
+}
+
+}  // namespace vorlan

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analysis/Simulation.h"
+#include "batch/WorkspaceAccess.h"
+
+namespace vorlan {
+
+// Options that several subcommands have, each with its check: a wrong value is a CLI::ValidationError that names the
+// option.
+
+/// "--out OUT.avp".
+CLI::Option* addWorkspaceOutput(CLI::App& app, std::string& path, const std::string& help);
+
+/// A number in a range, both ends included.
+CLI::Option* addReal(CLI::App& app, const std::string& name, double& target, const Range& range,
+                     const std::string& unit, const std::string& help);
+
+/// Three comma-separated numbers, each in its range.
+using Ranges = std::array<Range, 3>;
+CLI::Option* addTriple(CLI::App& app, const std::string& name, std::array<double, 3>& target, const Ranges& ranges,
+                       const std::string& parts, const std::string& help);
+
+/// One of the names; target takes its index.
+CLI::Option* addChoice(CLI::App& app, const std::string& name, int& target, const std::vector<std::string>& choices,
+                       const std::string& help);
+
+/// "--file N" and "--probe N", numbers from 1.
+void addPlace(CLI::App& app, ProbePlace& place);
+
+inline constexpr Range kAnyNumber{-1e300, 1e300};
+inline constexpr Ranges kAnyNumbers{kAnyNumber, kAnyNumber, kAnyNumber};
+
+/// "0.04", as help texts and messages show numbers.
+std::string shown(double value);
+
+}  // namespace vorlan

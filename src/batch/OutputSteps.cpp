@@ -1,0 +1,69 @@
+// Steps that write files of the selected probe.
+#include "batch/ExportRun.h"
+#include "batch/RecipeSteps.h"
+
+namespace vorlan {
+
+namespace {
+
+ExportRequest exportRequestOf(const StepValues& values) {
+    ExportRequest request;
+    request.name = values.choice("kind");
+    request.options.header = values.boolean("header");
+    request.options.time = values.boolean("time");
+    request.options.separator = static_cast<Separator>(values.choice("separator"));
+    request.all = values.boolean("all");
+    return request;
+}
+
+Outcome runExport(StepContext& context, const StepValues& values) {
+    context.outputs.add(outputOf(values)->expand(context.workspace, context.place),
+                        exportedText(context.document, exportRequestOf(values)));
+    return Outcome::Done;
+}
+
+std::string faultOfExport(const StepValues& values) {
+    return faultOf(exportRequestOf(values));
+}
+
+Outcome runRender(StepContext& context, const StepValues& values) {
+    RenderRequest request;
+    request.stage = static_cast<Stage>(values.choice("stage"));
+    if (values.has("pane")) {
+        request.pane = static_cast<Pane>(values.choice("pane"));
+    }
+    request.value = static_cast<PhysicalValue>(values.choice("values"));
+    request.size = parsePictureSize(values.text("size")).value();
+    request.path = outputOf(values)->expand(context.workspace, context.place);
+    context.outputs.add(request.path, context.renderer.render(context.document, request));
+    return Outcome::Done;
+}
+
+std::string faultOfPicturePattern(const std::string& text) {
+    const std::string fault = OutputPattern::faultOf(text);
+    return fault.empty() ? faultOfPicturePath(text) : fault;
+}
+
+std::string faultOfSize(const std::string& text) {
+    return parsePictureSize(text) ? "" : kPictureSizeFault;
+}
+
+}  // namespace
+
+std::vector<StepSpec> outputSteps() {
+    return {
+        {.name = "export",
+         .keys = {required(choiceKey("kind", exportNames())), required(textKey("out", {}, OutputPattern::faultOf)),
+                  booleanKey("header", false), booleanKey("time", false),
+                  choiceKey("separator", separatorNames(), "space"), booleanKey("all", false)},
+         .run = runExport,
+         .faultOfValues = faultOfExport},
+        {.name = "render",
+         .keys = {required(choiceKey("stage", stageNames())), choiceKey("pane", paneNames()),
+                  choiceKey("values", physicalValueNames(), "velocities"), textKey("size", "1200x900", faultOfSize),
+                  required(textKey("out", {}, faultOfPicturePattern))},
+         .run = runRender},
+    };
+}
+
+}  // namespace vorlan

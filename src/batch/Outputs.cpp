@@ -1,0 +1,88 @@
+#include "batch/Outputs.h"
+
+#include <algorithm>
+
+#include "batch/BatchError.h"
+#include "io/AtomicFile.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::string_view kWorkspaceHolder = "{workspace}";
+constexpr std::string_view kFileHolder = "{file}";
+constexpr std::string_view kProbeHolder = "{probe}";
+
+std::string replaced(std::string text, std::string_view holder, const std::string& value) {
+    for (std::size_t at = text.find(holder); at != std::string::npos; at = text.find(holder, at + value.size())) {
+        text.replace(at, holder.size(), value);
+    }
+    return text;
+}
+
+}  // namespace
+
+void writeOutput(const std::string& path, std::string_view bytes, Console& console) {
+    if (path == kStandardOutput) {
+        console.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        console.out.flush();
+        if (!console.out) {
+            throw unwritable("Standard output cannot be written");
+        }
+        return;
+    }
+    try {
+        writeFileAtomically(path, bytes);
+    } catch (const FileError& error) {
+        throw unwritable(textOf(error));
+    }
+}
+
+std::string identityOf(const std::filesystem::path& path) {
+    std::error_code error;
+    const std::filesystem::path whole = std::filesystem::weakly_canonical(std::filesystem::absolute(path), error);
+    return error ? path.lexically_normal().string() : whole.string();
+}
+
+void PendingOutputs::add(const std::string& path, std::string bytes) {
+    const auto same =
+        std::find_if(outputs_.begin(), outputs_.end(), [&](const Output& output) { return output.path == path; });
+    if (same == outputs_.end() || path == kStandardOutput) {
+        outputs_.push_back({path, std::move(bytes)});
+    } else {
+        same->bytes = std::move(bytes);
+    }
+}
+
+void PendingOutputs::commit(Console& console) {
+    for (const Output& output : outputs_) {
+        writeOutput(output.path, output.bytes, console);
+    }
+    outputs_.clear();
+}
+
+std::string OutputPattern::faultOf(const std::string& text) {
+    if (text.empty()) {
+        return "is empty";
+    }
+    for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
+        const std::string_view rest = std::string_view(text).substr(at);
+        if (!rest.starts_with(kWorkspaceHolder) && !rest.starts_with(kFileHolder) && !rest.starts_with(kProbeHolder)) {
+            return "knows only the placeholders {workspace}, {file} and {probe}";
+        }
+    }
+    return {};
+}
+
+std::string OutputPattern::expand(const std::filesystem::path& workspace, const ProbePlace& place) const {
+    // The name comes last: what stands in it is no placeholder.
+    const std::string numbered = replaced(replaced(text_, kFileHolder, std::to_string(place.file + 1)), kProbeHolder,
+                                          std::to_string(place.probe + 1));
+    return replaced(numbered, kWorkspaceHolder, workspace.stem().string());
+}
+
+std::string OutputPattern::expandWorkspace(const std::filesystem::path& workspace) const {
+    return replaced(text_, kWorkspaceHolder, workspace.stem().string());
+}
+
+}  // namespace vorlan

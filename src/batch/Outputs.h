@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "batch/Console.h"
+#include "batch/WorkspaceAccess.h"
+
+namespace vorlan {
+
+/// The output that means standard output.
+inline constexpr const char* kStandardOutput = "-";
+
+/// Writes bytes to a file, complete or not at all, or to standard output; BatchError Unwritable.
+void writeOutput(const std::string& path, std::string_view bytes, Console& console);
+
+/// One name per file, however it is spelled: absolute, links followed as far as there are any.
+std::string identityOf(const std::filesystem::path& path);
+
+/// The files that a run makes. They are held back until everything succeeded, so a refused step leaves all of them as
+/// they were.
+class PendingOutputs {
+  public:
+    /// A later addition of the same path takes the earlier one's place; standard output gets all of them.
+    void add(const std::string& path, std::string bytes);
+    /// Writes them in the order in which they were added; BatchError Unwritable at the first that cannot be.
+    void commit(Console& console);
+
+  private:
+    struct Output {
+        std::string path;
+        std::string bytes;
+    };
+    std::vector<Output> outputs_;
+};
+
+/// A name with the placeholders {workspace} (name of the input without folder and extension), {file} and {probe}
+/// (numbers from 1).
+class OutputPattern {
+  public:
+    explicit OutputPattern(std::string text) : text_(std::move(text)) {}
+
+    /// Why the text is no pattern; empty when it is one.
+    static std::string faultOf(const std::string& text);
+
+    const std::string& text() const { return text_; }
+    bool isStandardOutput() const { return text_ == kStandardOutput; }
+    std::string expand(const std::filesystem::path& workspace, const ProbePlace& place) const;
+    /// File and probe stay placeholders: equal texts of two inputs mean that they write one file.
+    std::string expandWorkspace(const std::filesystem::path& workspace) const;
+
+  private:
+    std::string text_;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "batch/RecipeSteps.h"
+
+namespace vorlan {
+
+/// A step as a recipe asks for it.
+struct RecipeStep {
+    const StepSpec* spec = nullptr;
+    StepValues values;
+    int line = 0;  ///< where it begins, from 1
+};
+
+/// What is done to every selected probe of a workspace.
+struct Recipe {
+    std::optional<std::vector<int>> files;   ///< numbers from 1; all without
+    std::optional<std::vector<int>> probes;  ///< the same, in every selected data file
+    std::vector<RecipeStep> steps;
+
+    /// True when a step writes a file of its own.
+    bool writesFiles() const;
+};
+
+/// Reads a recipe. BatchError Unreadable when there is no file, Usage for its faults: one line "path:line: what" for
+/// each, in the order of the lines.
+Recipe loadRecipe(const std::filesystem::path& path);
+Recipe parseRecipe(std::string_view text, const std::filesystem::path& path);
+
+}  // namespace vorlan

@@ -1,0 +1,88 @@
+#include "batch/RecipeKeys.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "model/Text.h"
+
+namespace vorlan {
+
+KeySpec booleanKey(std::string name, bool fallback) {
+    return {.name = std::move(name), .type = KeyType::Boolean, .fallback = fallback};
+}
+
+KeySpec integerKey(std::string name, std::optional<int> fallback) {
+    KeySpec key{.name = std::move(name), .type = KeyType::Integer};
+    if (fallback) {
+        key.fallback = *fallback;
+    }
+    return key;
+}
+
+KeySpec realKey(std::string name, std::optional<double> fallback) {
+    KeySpec key{.name = std::move(name), .type = KeyType::Real};
+    if (fallback) {
+        key.fallback = *fallback;
+    }
+    return key;
+}
+
+KeySpec choiceKey(std::string name, std::vector<std::string> choices, const std::string& fallback) {
+    KeySpec key{.name = std::move(name), .type = KeyType::Choice};
+    const auto at = std::find(choices.begin(), choices.end(), fallback);
+    if (at != choices.end()) {
+        key.fallback = static_cast<int>(at - choices.begin());
+    }
+    key.choices = std::move(choices);
+    return key;
+}
+
+KeySpec textKey(std::string name, std::optional<std::string> fallback, std::string (*faultOfText)(const std::string&)) {
+    KeySpec key{.name = std::move(name), .type = KeyType::Text};
+    if (fallback) {
+        key.fallback = *std::move(fallback);
+    }
+    key.faultOfText = faultOfText;
+    return key;
+}
+
+KeySpec tripleKey(std::string name) {
+    return {.name = std::move(name), .type = KeyType::Triple};
+}
+
+KeySpec within(KeySpec key, double minimum, double maximum) {
+    key.range = {minimum, maximum};
+    return key;
+}
+
+KeySpec above(KeySpec key, double limit) {
+    // An integer key steps to the next integer; a real one excludes the limit alone.
+    const double next = key.type == KeyType::Integer ? limit + 1.0 : std::nextafter(limit, limit + 1.0);
+    key.range = {next, std::numeric_limits<double>::infinity()};
+    return key;
+}
+
+KeySpec required(KeySpec key) {
+    key.required = true;
+    return key;
+}
+
+std::string listed(const std::vector<std::string>& choices) {
+    std::string text;
+    for (std::size_t i = 0; i < choices.size(); ++i) {
+        text += i == 0 ? "" : i + 1 == choices.size() ? " or " : ", ";
+        text += choices[i];
+    }
+    return text;
+}
+
+std::string describe(const Range& range) {
+    const bool bounded = std::isfinite(range.maximum);
+    if (!bounded && std::isfinite(range.minimum)) {
+        const double rounded = std::floor(range.minimum);
+        return range.minimum > rounded ? formatted("above %g", rounded) : formatted("at least %g", range.minimum);
+    }
+    return formatted("between %g and %g", range.minimum, range.maximum);
+}
+
+}  // namespace vorlan

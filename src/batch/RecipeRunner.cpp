@@ -1,0 +1,171 @@
+#include "batch/RecipeRunner.h"
+
+#include <map>
+#include <numeric>
+
+#include "batch/BatchError.h"
+#include "batch/Interrupt.h"
+#include "io/ReadFile.h"
+
+namespace vorlan {
+
+namespace {
+
+/// The selected indexes of count things, from 0.
+std::vector<int> selected(const std::optional<std::vector<int>>& numbers, int count) {
+    std::vector<int> indexes;
+    if (!numbers) {
+        indexes.resize(static_cast<std::size_t>(count));
+        std::iota(indexes.begin(), indexes.end(), 0);
+        return indexes;
+    }
+    for (const int number : *numbers) {
+        indexes.push_back(number - 1);
+    }
+    return indexes;
+}
+
+std::vector<ProbePlace> selectedPlaces(const Recipe& recipe, const Workspace& workspace) {
+    const SAdvFilesArray& files = workspace.dataFiles.files;
+    std::vector<ProbePlace> places;
+    for (const int file : selected(recipe.files, files.GetSize())) {
+        const int probes = file < files.GetSize() ? files.GetAt(file).probes.GetSize() : 0;
+        if (file >= files.GetSize()) {
+            requireProbe(workspace, {file, 0});
+        }
+        for (const int probe : selected(recipe.probes, probes)) {
+            requireProbe(workspace, {file, probe});
+            places.push_back({file, probe});
+        }
+    }
+    return places;
+}
+
+/// One step must not overwrite what another step, or the same one for another probe, has written.
+void requireDistinctOutputs(const Recipe& recipe, const std::filesystem::path& input,
+                            const std::vector<ProbePlace>& places) {
+    std::map<std::string, const RecipeStep*> writers;
+    for (const ProbePlace& place : places) {
+        for (const RecipeStep& step : recipe.steps) {
+            const std::optional<OutputPattern> output = outputOf(step.values);
+            if (!output || output->isStandardOutput()) {
+                continue;
+            }
+            const std::string path = output->expand(input, place);
+            const auto [earlier, isNew] = writers.emplace(identityOf(path), &step);
+            const bool sameTable = earlier->second == &step && writesForAllProbes(step.values);
+            if (!isNew && !sameTable) {
+                throw usageError(path + " would be written more than once; {file} and {probe} in \"out\" (line " +
+                                 std::to_string(step.line) + " of the recipe) keep the probes apart");
+            }
+        }
+    }
+}
+
+void restoreSelection(const WorkspaceSettings& loaded, WorkspaceSettings& settings) {
+    settings.activeFile = loaded.activeFile;
+    settings.activeProbe = loaded.activeProbe;
+    settings.activeItem = loaded.activeItem;
+    settings.previousFile = loaded.previousFile;
+    settings.previousProbe = loaded.previousProbe;
+    settings.previousItem = loaded.previousItem;
+}
+
+class Runner {
+  public:
+    Runner(const Recipe& recipe, const std::filesystem::path& input, const ConsolePort::Options& options,
+           Console& console)
+        : recipe_(recipe), input_(input), console_(console), port_(console, options), document_(port_) {
+        port_.setContext(input.string());
+    }
+
+    void run(const std::filesystem::path& target) {
+        openDocument(document_, input_);
+        applySteps();
+        if (interrupted()) {
+            throw BatchError(ExitStatus::Interrupted, input_.string() + ": interrupted");
+        }
+        outputs_.commit(console_);
+        if (!target.empty()) {
+            writeWorkspace(target);
+        }
+    }
+
+  private:
+    void applySteps() {
+        const std::vector<ProbePlace> places = placesOfRecipe();
+        const WorkspaceSettings loaded = document_.Settings();
+        for (const ProbePlace& place : places) {
+            for (std::size_t i = 0; i < recipe_.steps.size(); ++i) {
+                apply(recipe_.steps[i], i + 1, place);
+            }
+        }
+        restoreSelection(loaded, document_.MutableSettings());
+    }
+
+    std::vector<ProbePlace> placesOfRecipe() {
+        try {
+            const std::vector<ProbePlace> places = selectedPlaces(recipe_, document_.GetWorkspace());
+            requireDistinctOutputs(recipe_, input_, places);
+            if (places.empty() && !recipe_.steps.empty()) {
+                console_.complain(input_.string() + ": there is no probe to work on");
+            }
+            return places;
+        } catch (const BatchError& error) {
+            throw BatchError(error.status(), input_.string() + ": " + error.what());
+        }
+    }
+
+    void apply(const RecipeStep& step, std::size_t number, const ProbePlace& place) {
+        port_.setContext(input_.string() + ": " + describe(place) + ", step " + std::to_string(number) + " (" +
+                         step.spec->name + ")");
+        StepContext context{document_, port_, outputs_, renderer_, input_, place};
+        Outcome outcome = Outcome::Done;
+        try {
+            selectPlace(document_, place);
+            outcome = runStep(*step.spec, step.values, context);
+        } catch (const BatchError& error) {
+            throw BatchError(error.status(), port_.context() + ": " + error.what());
+        }
+        const bool said = port_.takeRefused();
+        if (interrupted()) {
+            throw BatchError(ExitStatus::Interrupted, port_.context() + ": interrupted");
+        }
+        if (outcome == Outcome::Refused) {
+            throw refusal(said ? "" : port_.context() + ": refused");
+        }
+        if (outcome == Outcome::Cancelled) {
+            console_.complain(port_.context() + ": nothing was changed");
+        }
+    }
+
+    void writeWorkspace(const std::filesystem::path& target) {
+        if (!recipe_.steps.empty()) {
+            saveDocument(document_, target);
+            return;
+        }
+        try {
+            const FileContent content = readFile(input_);
+            writeOutput(target.string(), content.text(), console_);
+        } catch (const FileError& error) {
+            throw unreadable(textOf(error));
+        }
+    }
+
+    const Recipe& recipe_;
+    const std::filesystem::path& input_;
+    Console& console_;
+    ConsolePort port_;
+    CVorl_ADVDoc document_;
+    PendingOutputs outputs_;
+    Renderer renderer_;
+};
+
+}  // namespace
+
+void runRecipe(const Recipe& recipe, const std::filesystem::path& input, const std::filesystem::path& target,
+               const ConsolePort::Options& options, Console& console) {
+    Runner(recipe, input, options, console).run(target);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "batch/Console.h"
+#include "batch/ConsolePort.h"
+#include "batch/Recipe.h"
+
+namespace vorlan {
+
+/// Applies the recipe to every selected probe of one workspace, all steps to the first, then to the next, and writes
+/// what it makes: the files of its steps, then the workspace to target, if there is one. Nothing is written unless
+/// every step was done. A recipe without steps writes the input's bytes.
+///
+/// BatchError for everything that ends the run; refusals have gone to the console then.
+void runRecipe(const Recipe& recipe, const std::filesystem::path& input, const std::filesystem::path& target,
+               const ConsolePort::Options& options, Console& console);
+
+}  // namespace vorlan

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/CVorl_ADVDoc.h"
+#include "app/CommandState.h"
+#include "batch/ConsolePort.h"
+#include "batch/Outputs.h"
+#include "batch/RecipeKeys.h"
+#include "batch/RenderRun.h"
+
+namespace vorlan {
+
+/// What a step works on: the selected probe of the document.
+struct StepContext {
+    CVorl_ADVDoc& document;
+    ConsolePort& port;
+    PendingOutputs& outputs;
+    Renderer& renderer;
+    std::filesystem::path workspace;  ///< the input
+    ProbePlace place;
+
+    /// What a dialog does with parameters that it does not accept: says why, and true.
+    bool refuses(const std::string& text) {
+        if (!text.empty()) {
+            port.refuse(text);
+        }
+        return !text.empty();
+    }
+};
+
+/// One kind of step: a row of the table.
+struct StepSpec {
+    std::string name;
+    std::vector<KeySpec> keys;
+    /// Does the step. Refusals of the document go through its port; BatchError Refused for the step's own.
+    Outcome (*run)(StepContext& context, const StepValues& values);
+    /// The command behind the step; none for steps that ask for themselves.
+    std::optional<Command> command = std::nullopt;
+    /// Where the window offers the command.
+    std::optional<Stage> stage = std::nullopt;
+    /// What is wrong with keys that are right one by one; empty when nothing is.
+    std::string (*faultOfValues)(const StepValues& values) = nullptr;
+};
+
+/// The rows by subject.
+std::vector<StepSpec> preProcessingSteps();
+std::vector<StepSpec> analysisSteps();
+std::vector<StepSpec> outputSteps();
+
+/// All steps, in the order of the manual.
+const std::vector<StepSpec>& stepTable();
+/// Null for an unknown name.
+const StepSpec* stepNamed(const std::string& name);
+
+/// The file that a step of these values writes; empty for steps that write none.
+std::optional<OutputPattern> outputOf(const StepValues& values);
+/// True when the step writes the same file whatever probe it is run for.
+bool writesForAllProbes(const StepValues& values);
+
+/// Selects the step's stage, makes sure that its command is enabled and runs it.
+Outcome runStep(const StepSpec& spec, const StepValues& values, StepContext& context);
+
+}  // namespace vorlan

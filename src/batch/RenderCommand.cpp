@@ -1,0 +1,87 @@
+#include "batch/Options.h"
+#include "batch/Outputs.h"
+#include "batch/RecipeKeys.h"
+#include "batch/RenderRun.h"
+#include "batch/Subcommands.h"
+
+namespace vorlan {
+
+namespace {
+
+struct RenderArguments {
+    std::string input;
+    ProbePlace place;
+    RenderRequest request;
+    int stage = 0;
+    int pane = -1;
+    int value = 0;
+};
+
+void runRender(RenderArguments& arguments, Console& console) {
+    RenderRequest& request = arguments.request;
+    request.stage = static_cast<Stage>(arguments.stage);
+    request.value = static_cast<PhysicalValue>(arguments.value);
+    if (arguments.pane >= 0) {
+        request.pane = static_cast<Pane>(arguments.pane);
+    }
+    SilentPort port;
+    CVorl_ADVDoc document(port);
+    openDocument(document, arguments.input);
+    Renderer renderer;
+    std::string bytes;
+    try {
+        selectPlace(document, arguments.place);
+        bytes = renderer.render(document, request);
+    } catch (const BatchError& error) {
+        throw BatchError(error.status(), arguments.input + ": " + error.what());
+    }
+    writeOutput(request.path, bytes, console);
+}
+
+}  // namespace
+
+Subcommand addRenderCommand(CLI::App& program) {
+    CLI::App* app = program.add_subcommand("render", "Draw a stage's diagrams into a picture");
+    const auto arguments = std::make_shared<RenderArguments>();
+    addChoice(*app, "--stage", arguments->stage, stageNames(), "The stage: " + listed(stageNames()))
+        ->required()
+        ->type_name("STAGE");
+    addChoice(*app, "--pane", arguments->pane, paneNames(),
+              "One pane: " + listed(paneNames()) + "; all four without it")
+        ->type_name("PANE");
+    addChoice(*app, "--values", arguments->value, physicalValueNames(), "What stages with two sides show")
+        ->type_name("velocities|stresses")
+        ->default_str("velocities");
+    app->add_option_function<std::string>(
+           "--out",
+           [arguments](const std::string& text) {
+               const std::string fault = faultOfPicturePath(text);
+               if (!fault.empty()) {
+                   throw CLI::ValidationError("--out", "\"" + text + "\" " + fault);
+               }
+               arguments->request.path = text;
+           },
+           "The picture to write, .png, .svg or .pdf")
+        ->required()
+        ->type_name("OUT");
+    app->add_option_function<std::string>(
+           "--size",
+           [arguments](const std::string& text) {
+               const std::optional<PictureSize> size = parsePictureSize(text);
+               if (!size) {
+                   throw CLI::ValidationError("--size", std::string("\"") + text + "\" " + kPictureSizeFault);
+               }
+               arguments->request.size = *size;
+           },
+           "Width and height, pixels (of 1/96 inch in .svg and .pdf)")
+        ->type_name("WxH")
+        ->default_str("1200x900");
+    addPlace(*app, arguments->place);
+    app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
+    return {app, [arguments](Console& console) {
+                runRender(*arguments, console);
+                return ExitStatus::Done;
+            }};
+}
+
+}  // namespace vorlan

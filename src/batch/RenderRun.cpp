@@ -1,0 +1,107 @@
+#include "batch/RenderRun.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <clocale>
+#include <filesystem>
+
+#include "batch/BatchError.h"
+#include "batch/Console.h"
+#include "batch/WorkspaceAccess.h"
+#include "plot/RenderFile.h"
+#include "stages/PaneDescription.h"
+
+namespace vorlan {
+
+namespace {
+
+std::optional<RenderFormat> formatOf(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    if (extension == ".png") {
+        return RenderFormat::Png;
+    }
+    if (extension == ".svg") {
+        return RenderFormat::Svg;
+    }
+    if (extension == ".pdf") {
+        return RenderFormat::Pdf;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+const std::vector<std::string>& stageNames() {
+    static const std::vector<std::string> names = {"pre-processing", "stationarity", "histograms",    "spectral",
+                                                   "vectors",        "quadrants",    "cross-spectral"};
+    return names;
+}
+
+const std::vector<std::string>& paneNames() {
+    static const std::vector<std::string> names = {"left-top", "left-bottom", "right-top", "right-bottom"};
+    return names;
+}
+
+const std::vector<std::string>& physicalValueNames() {
+    static const std::vector<std::string> names = {"velocities", "stresses"};
+    return names;
+}
+
+std::string faultOfPicturePath(const std::string& path) {
+    return formatOf(path) ? "" : "must end in .png, .svg or .pdf";
+}
+
+/// The application object that fonts and painting need. A program that has one keeps it.
+class Renderer::Toolkit {
+  public:
+    Toolkit() {
+        if (QCoreApplication::instance() != nullptr) {
+            return;
+        }
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+        application_ = std::make_unique<QGuiApplication>(argumentCount_, arguments_);
+        // The application takes over the desktop's language; numbers keep their point.
+        std::setlocale(LC_NUMERIC, "C");
+    }
+
+  private:
+    std::string name_ = kBatchName;
+    int argumentCount_ = 1;
+    char* arguments_[2] = {name_.data(), nullptr};
+    std::unique_ptr<QGuiApplication> application_;
+};
+
+Renderer::Renderer() = default;
+Renderer::~Renderer() = default;
+
+std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& request) {
+    // The plans show what every probe has; the other stages exist once they were run.
+    const bool selected = selectStage(document, request.stage);
+    if (!selected && request.stage != Stage::MeanVelocityVectors && request.stage != Stage::PreProcessing) {
+        throw refusal(std::string("this probe has no stage \"") + kStageTexts[static_cast<std::size_t>(request.stage)] +
+                      "\" yet");
+    }
+    std::vector<PaneContent> panes;
+    for (int pane = 0; pane < kPaneCount; ++pane) {
+        if (!request.pane || *request.pane == static_cast<Pane>(pane)) {
+            panes.push_back(
+                describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(), request.stage,
+                              static_cast<Pane>(pane), request.value, !selected || document.ShowsTable()}));
+        }
+    }
+    if (!toolkit_) {
+        toolkit_ = std::make_unique<Toolkit>();
+    }
+    const QByteArray bytes =
+        renderPanes(panes, QSize(request.size.width, request.size.height), formatOf(request.path).value());
+    if (bytes.isEmpty()) {
+        throw refusal("a picture of this size cannot be made");
+    }
+    return bytes.toStdString();
+}
+
+}  // namespace vorlan

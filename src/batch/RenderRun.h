@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/CVorl_ADVDoc.h"
+#include "batch/TextValues.h"
+#include "model/Stages.h"
+
+namespace vorlan {
+
+/// Names of the stages, by stage number.
+const std::vector<std::string>& stageNames();
+/// Names of the panes, by pane number.
+const std::vector<std::string>& paneNames();
+/// Names of the physical values, by their code.
+const std::vector<std::string>& physicalValueNames();
+
+struct RenderRequest {
+    Stage stage = Stage::PreProcessing;
+    std::optional<Pane> pane;  ///< all four without one
+    PhysicalValue value = PhysicalValue::Velocities;
+    PictureSize size;
+    std::string path;  ///< its extension decides the format
+};
+
+/// Why no picture can be written to the path; empty when one can.
+std::string faultOfPicturePath(const std::string& path);
+
+/// Draws what the window's panes show. Holds the toolkit, which is started with the first picture: processes that
+/// work on several workspaces are started before.
+class Renderer {
+  public:
+    Renderer();
+    ~Renderer();
+    Renderer(const Renderer&) = delete;
+    Renderer& operator=(const Renderer&) = delete;
+
+    /// The bytes of the picture of the selected probe. Selects the stage; BatchError Refused when the probe has not
+    /// got it.
+    std::string render(CVorl_ADVDoc& document, const RenderRequest& request);
+
+  private:
+    class Toolkit;
+    std::unique_ptr<Toolkit> toolkit_;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "app/CVorl_ADVDoc.h"
+#include "io/FileError.h"
+
+namespace vorlan {
+
+/// Opens the workspace in the document; BatchError Unreadable.
+void openDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
+/// Saves it; BatchError Unwritable, the file at path is then what it was.
+void saveDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
+
+/// The error's text, with the file's name in front where it does not hold it.
+std::string textOf(const FileError& error);
+
+/// Indexes of a probe, from 0.
+struct ProbePlace {
+    int file = 0;
+    int probe = 0;
+
+    friend bool operator==(const ProbePlace&, const ProbePlace&) = default;
+};
+/// "data file 1, probe 2".
+std::string describe(const ProbePlace& place);
+
+/// Refuses a place that the workspace does not have.
+void requireProbe(const Workspace& workspace, const ProbePlace& place);
+/// Selects file and probe as clicks on the selectors would, unless they are selected.
+void selectPlace(CVorl_ADVDoc& document, const ProbePlace& place);
+/// Selects the probe's tab of the stage; false when it has none.
+bool selectStage(CVorl_ADVDoc& document, Stage stage);
+
+}  // namespace vorlan

@@ -1,0 +1,173 @@
+#include "batch/WorkspaceSummary.h"
+
+#include <algorithm>
+#include <cmath>
+#include <nlohmann/json.hpp>
+#include <span>
+
+#include "analysis/RotationSettings.h"
+#include "batch/TextValues.h"
+#include "model/ProbeInformation.h"
+#include "model/Text.h"
+
+namespace vorlan {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr const char* kVelocityNames[] = {"u", "v", "w"};
+constexpr const char* kStressNames[] = {"u'v'", "u'w'", "v'w'"};
+constexpr const char* kWindowNames[] = {"rectangle", "Tukey", "Bartlett", "Parzen"};
+// Stages by done mark; pre-processing has none.
+constexpr Stage kMarkedStages[kDoneMarkCount] = {Stage::Stationarity,        Stage::Histograms,    Stage::Spectral,
+                                                 Stage::MeanVelocityVectors, Stage::CrossSpectral, Stage::Quadrants};
+
+// The library writes what is not finite as null.
+Json momentsAsJson(const Moments& m) {
+    return {{"mean", m.mean}, {"variance", m.variance}, {"skewness", m.skewness}, {"kurtosis", m.kurtosis}};
+}
+
+Json resultsAsJson(const SAdvProbe& probe) {
+    const std::span<const double> block = probe.resultBlock;
+    return {{"dissipation", block[SAdvProbe::kDissipationRate]},
+            {"timeScales", block.subspan(SAdvProbe::kTimeScales, 3)},
+            {"spectrumIntegrals", block.subspan(SAdvProbe::kSpectrumIntegrals, 3)}};
+}
+
+Json probeAsJson(const SAdvProbe& probe) {
+    Json json;
+    json["number"] = probe.probeNumber;
+    json["samples"] = SAdvProbe::ColumnLength(probe.sampledTables[SAdvProbe::kVelocities]);
+    json["workingSamples"] = probe.WorkingSamples();
+    json["interval"] = probe.samplingInterval;
+    json["title"] = nameAsUtf8(probe.title);
+    json["zoomMode"] = probe.zoomMode;
+    json["useAllSamples"] = probe.useAllSamples;
+    json["validSamples"] = validSamples(probe);
+    json["stageDone"] = probe.stageDone;
+    json["position"] = rotationSettingsOf(probe).position;
+    json["moments"] = Json::array();
+    json["stressMoments"] = Json::array();
+    for (int i = 0; i < SAdvProbe::kComponents; ++i) {
+        json["moments"].push_back(momentsAsJson(probe.VelocityMoments(i)));
+        json["stressMoments"].push_back(momentsAsJson(probe.StressMoments(i)));
+    }
+    json["spectral"] = {{"lags", probe.spectralLags}, {"window", probe.spectralWindow}, {"unit", probe.spectralUnit}};
+    json["results"] = resultsAsJson(probe);
+    return json;
+}
+
+std::string plural(int count, const std::string& thing) {
+    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
+}
+
+std::string spectralText(const SAdvProbe& probe) {
+    const char* window =
+        probe.spectralWindow < std::size(kWindowNames) ? kWindowNames[probe.spectralWindow] : "unknown";
+    return " (" + plural(static_cast<int>(probe.spectralLags), "lag") + ", " + window + " window, " +
+           (probe.spectralUnit == 0 ? "Hz" : "rad/s") + ")";
+}
+
+std::string stagesText(const SAdvProbe& probe) {
+    std::string text;
+    for (int mark = 0; mark < kDoneMarkCount; ++mark) {
+        if (!probe.IsDone(static_cast<DoneMark>(mark))) {
+            continue;
+        }
+        text += text.empty() ? "" : ", ";
+        text += kStageTexts[static_cast<std::size_t>(kMarkedStages[mark])];
+        if (static_cast<DoneMark>(mark) == DoneMark::Spectral) {
+            text += spectralText(probe);
+        }
+    }
+    return text.empty() ? "none" : text;
+}
+
+std::string momentsRow(const char* name, const Moments& m) {
+    return formatted("      %-4s %12.3f %12.3f %10.3f %10.3f\n", name, m.mean, m.variance, m.skewness, m.kurtosis);
+}
+
+std::string resultsText(const SAdvProbe& probe) {
+    const double* block = probe.resultBlock.data();
+    const auto given = [](double v) { return v != 0.0; };
+    std::string text;
+    if (given(block[SAdvProbe::kDissipationRate])) {
+        text += formatted("    Dissipation rate %g cm^2/s^3\n", block[SAdvProbe::kDissipationRate]);
+    }
+    const double* scales = block + SAdvProbe::kTimeScales;
+    if (std::any_of(scales, scales + 3, given)) {
+        text += formatted("    Time scales %g, %g, %g s\n", scales[0], scales[1], scales[2]);
+    }
+    const double* integrals = block + SAdvProbe::kSpectrumIntegrals;
+    if (std::any_of(integrals, integrals + 3, given)) {
+        text += formatted("    Integrals of spectra %g, %g, %g (cm/s)^2\n", integrals[0], integrals[1], integrals[2]);
+    }
+    return text;
+}
+
+std::string probeAsText(const SAdvProbe& probe) {
+    const int samples = SAdvProbe::ColumnLength(probe.sampledTables[SAdvProbe::kVelocities]);
+    const int working = probe.WorkingSamples();
+    const std::array<double, 3> position = rotationSettingsOf(probe).position;
+    std::string text = "  " + probeListText(probe) + ": " + plural(samples, "sample") +
+                       formatted(" at %g s (%g s)", probe.samplingInterval, samples * probe.samplingInterval) + "\n";
+    if (!probe.title.empty()) {
+        text += "    " + nameAsUtf8(probe.title) + "\n";
+    }
+    text += "    Working record: " + plural(working, "sample") + ", " + std::to_string(validSamples(probe)) + " valid" +
+            (probe.UsesAllSamples() ? "" : "; only those are used") + "\n";
+    text += formatted("    Sampling volume at %g, %g, %g m\n", position[0], position[1], position[2]);
+    text += "    Stages done: " + stagesText(probe) + "\n";
+    text += formatted("      %-4s %12s %12s %10s %10s\n", "", "mean", "variance", "skewness", "kurtosis");
+    for (int i = 0; i < SAdvProbe::kComponents; ++i) {
+        text += momentsRow(kVelocityNames[i], probe.VelocityMoments(i));
+    }
+    for (int i = 0; i < SAdvProbe::kComponents; ++i) {
+        text += momentsRow(kStressNames[i], probe.StressMoments(i));
+    }
+    return text + resultsText(probe);
+}
+
+}  // namespace
+
+int validSamples(const SAdvProbe& probe) {
+    const int samples = std::min(probe.WorkingSamples(), probe.sampleFlags.GetSize());
+    const std::span<const std::int32_t> marks = probe.sampleFlags.view().first(static_cast<std::size_t>(samples));
+    return static_cast<int>(std::count_if(marks.begin(), marks.end(), [](std::int32_t mark) { return mark >= 1; }));
+}
+
+std::string summaryAsJson(const Workspace& workspace, const std::string& version) {
+    Json json;
+    json["version"] = nameAsUtf8(version);
+    json["activeFile"] = workspace.settings.activeFile;
+    json["activeProbe"] = workspace.settings.activeProbe;
+    json["files"] = Json::array();
+    for (const SAdvFile& file : workspace.dataFiles.files) {
+        Json probes = Json::array();
+        for (const SAdvProbe& probe : file.probes) {
+            probes.push_back(probeAsJson(probe));
+        }
+        json["files"].push_back({{"name", nameAsUtf8(file.fileName)}, {"probes", std::move(probes)}});
+    }
+    return json.dump(2) + "\n";
+}
+
+std::string summaryAsText(const Workspace& workspace, const std::string& version, const std::string& name) {
+    std::string text =
+        name + ": " + nameAsUtf8(version) + ", " + plural(workspace.dataFiles.files.GetSize(), "data file");
+    if (!workspace.boundaries.IsEmpty()) {
+        text += ", " + plural(workspace.boundaries.GetSize(), "boundary file");
+    }
+    text += "\n";
+    int number = 0;
+    for (const SAdvFile& file : workspace.dataFiles.files) {
+        text += "\nData file " + std::to_string(++number) + ": " + nameAsUtf8(file.fileName) + "\n";
+        for (const SAdvProbe& probe : file.probes) {
+            text += probeAsText(probe);
+        }
+    }
+    return text;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,14 @@
+#include <iostream>
+
+#include "batch/BatchError.h"
+#include "batch/BatchProgram.h"
+#include "batch/Interrupt.h"
+
+int main(int argc, char** argv) {
+    vorlan::installInterruptHandler();
+    const int status = vorlan::runBatch({argv + 1, argv + argc}, std::cout, std::cerr);
+    if (status == static_cast<int>(vorlan::ExitStatus::Interrupted)) {
+        vorlan::dieOfInterrupt();
+    }
+    return status;
+}
