@@ -1,0 +1,249 @@
+#include "io/AtomicFile.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <ostream>
+
+#include "io/FileError.h"
+#include "io/TempFolder.h"
+#include "io/WorkspaceFile.h"
+
+namespace vorlan {
+namespace {
+
+using test::slurp;
+using test::spill;
+using test::TempFolder;
+
+FileError errorOfWriting(const std::filesystem::path& path, const std::string& text) {
+    try {
+        writeFileAtomically(path, text);
+    } catch (const FileError& error) {
+        return error;
+    }
+    ADD_FAILURE() << "nothing was refused";
+    return FileError::cannotWrite(FileError::Kind::Empty, path, "");
+}
+
+TEST(AtomicFiles, ReplaceOnlyOnCommit) {
+    const TempFolder folder;
+    const auto path = folder / "data";
+    spill(path, "old");
+    {
+        AtomicFile file(path);
+        file.write("new and longer");
+        EXPECT_EQ(slurp(path), "old");
+        EXPECT_EQ(folder.entries(), 2U);
+    }
+    EXPECT_EQ(slurp(path), "old");
+    EXPECT_EQ(folder.entries(), 1U);
+    AtomicFile file(path);
+    file.write("new");
+    file.commit();
+    EXPECT_EQ(slurp(path), "new");
+    EXPECT_EQ(folder.entries(), 1U);
+}
+
+TEST(AtomicFiles, WhatTheWriterThrowsLeavesTheOldFile) {
+    const TempFolder folder;
+    const auto path = folder / "data";
+    spill(path, "old");
+    EXPECT_THROW(writeFileAtomically(path,
+                                     [](std::ostream& stream) {
+                                         stream << std::string(200000, 'x');
+                                         throw std::runtime_error("stopped");
+                                     }),
+                 std::runtime_error);
+    EXPECT_EQ(slurp(path), "old");
+    EXPECT_EQ(folder.entries(), 1U);
+    const std::string text(200001, 'y');
+    writeFileAtomically(path, [&](std::ostream& stream) { stream << text << 1; });
+    EXPECT_EQ(slurp(path), text + "1");
+}
+
+TEST(AtomicFiles, KeepPermissions) {
+    const TempFolder folder;
+    const mode_t mask = ::umask(027);
+    const auto fresh = folder / "fresh";
+    writeFileAtomically(fresh, "a");
+    struct stat status {};
+    ::stat(fresh.c_str(), &status);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+    for (const mode_t mode : {0600U, 0664U, 0755U}) {
+        ::chmod(fresh.c_str(), mode);
+        writeFileAtomically(fresh, "b");
+        ::stat(fresh.c_str(), &status);
+        EXPECT_EQ(status.st_mode & 07777U, mode);
+    }
+    ::umask(mask);
+}
+
+TEST(AtomicFiles, FollowLinks) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "deep");
+    spill(folder / "deep/data", "old");
+    std::filesystem::create_symlink("deep/data", folder / "link");
+    std::filesystem::create_symlink(folder / "link", folder / "link of link");
+    writeFileAtomically(folder / "link of link", "new");
+    EXPECT_EQ(slurp(folder / "deep/data"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link of link"));
+    std::filesystem::create_symlink("deep/later", folder / "dangling");
+    writeFileAtomically(folder / "dangling", "made");
+    EXPECT_EQ(slurp(folder / "deep/later"), "made");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "dangling"));
+    std::filesystem::create_symlink("round", folder / "round");
+    EXPECT_EQ(errorOfWriting(folder / "round", "x").kind(), FileError::Kind::Unwritable);
+}
+
+TEST(AtomicFiles, TakeRelativeNames) {
+    const TempFolder folder;
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    writeFileAtomically("bare", "text");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(slurp(folder / "bare"), "text");
+}
+
+TEST(AtomicFiles, WriteDevicesDirectly) {
+    const TempFolder folder;
+    std::filesystem::create_symlink("/dev/full", folder / "full");
+    const FileError error = errorOfWriting(folder / "full", "text");
+    EXPECT_EQ(error.kind(), FileError::Kind::Unwritable);
+    EXPECT_EQ(error.reason(), "no space left on device");
+    EXPECT_EQ(error.what(), "File cannot be written: " + (folder / "full").string() + " (no space left on device)");
+    EXPECT_NO_THROW(writeFileAtomically("/dev/null", "text"));
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+}
+
+TEST(AtomicFiles, RefuseFoldersAndMissingFolders) {
+    const TempFolder folder;
+    EXPECT_EQ(errorOfWriting(folder.path(), "x").kind(), FileError::Kind::NotAFile);
+    const FileError missing = errorOfWriting(folder / "none/data", "x");
+    EXPECT_EQ(missing.kind(), FileError::Kind::Missing);
+    EXPECT_EQ(missing.reason(), "there is no such folder");
+    spill(folder / "file", "");
+    EXPECT_EQ(errorOfWriting(folder / "file/data", "x").kind(), FileError::Kind::Missing);
+}
+
+/// Makes the process an ordinary user while it lives, since nothing is protected from the superuser.
+class OrdinaryUser {
+  public:
+    OrdinaryUser() : changed_(::geteuid() == 0 && ::seteuid(65534) == 0) {}
+    ~OrdinaryUser() {
+        if (changed_) {
+            EXPECT_EQ(::seteuid(0), 0);
+        }
+    }
+
+  private:
+    bool changed_;
+};
+
+TEST(AtomicFiles, RespectProtection) {
+    const TempFolder folder;
+    ::chmod(folder.path().c_str(), 0755);
+    spill(folder / "open", "old");
+    ::chmod((folder / "open").c_str(), 0666);
+    std::filesystem::create_directory(folder / "free");
+    ::chmod((folder / "free").c_str(), 0777);
+    spill(folder / "free/protected", "old");
+    ::chmod((folder / "free/protected").c_str(), 0444);
+    if (::geteuid() != 0) {
+        ::chmod(folder.path().c_str(), 0555);
+    }
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(errorOfWriting(folder / "open", "new").reason(), "permission denied");
+        EXPECT_EQ(errorOfWriting(folder / "other", "new").reason(), "permission denied");
+        EXPECT_EQ(errorOfWriting(folder / "free/protected", "new").reason(), "permission denied");
+    }
+    ::chmod(folder.path().c_str(), 0755);
+    EXPECT_EQ(slurp(folder / "open"), "old");
+    EXPECT_EQ(slurp(folder / "free/protected"), "old");
+    EXPECT_EQ(folder.entries(), 2U);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "free"), {}), 1);
+}
+
+/// No file of the process grows beyond size while it lives: the way a disk fills up.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{size, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+  private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
+
+Workspace workspaceOf(int samples, std::int32_t value) {
+    Workspace workspace;
+    SArray& axis = workspace.dataFiles.files.GrowTo(0).probes.GrowTo(0).timeAxis;
+    axis.SetSize(samples);
+    axis.SetAt(0, value);
+    axis.SetAt(samples - 1, value);
+    return workspace;
+}
+
+TEST(SavingWorkspaces, AFullDiskLeavesTheOldOne) {
+    const TempFolder folder;
+    const auto path = folder / "site.avp";
+    Workspace small = workspaceOf(100, 1);
+    saveWorkspace(small, path);
+    const std::string old = slurp(path);
+    Workspace large = workspaceOf(100000, 2);
+    for (const rlim_t size : {0, 1000, 50000, 300000}) {
+        const FileSizeLimit limit(size);
+        try {
+            saveWorkspace(large, path);
+            ADD_FAILURE() << size;
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.kind(), FileError::Kind::Unwritable);
+            EXPECT_EQ(error.reason(), "file too large");
+        }
+    }
+    EXPECT_EQ(slurp(path), old);
+    EXPECT_EQ(folder.entries(), 1U);
+}
+
+TEST(SavingWorkspaces, KilledInTheMiddleLeavesOneOfTheTwo) {
+    const TempFolder folder;
+    const auto path = folder / "site.avp";
+    Workspace workspaces[] = {workspaceOf(400000, 1), workspaceOf(300000, 2)};
+    saveWorkspace(workspaces[0], path);
+    for (int round = 0; round < 12; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (int i = 1;; ++i) {
+                saveWorkspace(workspaces[i % 2], path);
+            }
+        }
+        ::usleep(static_cast<useconds_t>(2000 + 3700 * round));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status));
+        const Workspace found = openWorkspace(path);
+        const SArray& axis = found.dataFiles.files.GetAt(0).probes.GetAt(0).timeAxis;
+        const std::int32_t value = axis.GetAt(0);
+        EXPECT_EQ(axis.GetAt(axis.GetSize() - 1), value);
+        EXPECT_EQ(axis.GetSize(), value == 1 ? 400000 : 300000);
+    }
+}
+
+}  // namespace
+}  // namespace vorlan
