@@ -1,28 +1,11 @@
 #include "analysis/EventPatterns.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vorlan {
 
-namespace {
-
-/// Lags that are summed together, each with a sum of its own.
-constexpr std::size_t kLanes = 32;
-
-void sumAround(std::span<const std::size_t> events, const double* x, double* sums) {
-    std::array<double, kLanes> lanes{};
-    for (const std::size_t event : events) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            lanes[lane] += x[event + lane];
-        }
-    }
-    std::copy(lanes.begin(), lanes.end(), sums);
-}
-
-}  // namespace
-
-std::vector<double> averageAround(std::span<const std::size_t> events, std::span<const double> x, int lag) {
+std::vector<double> averageAround(std::span<const std::size_t> events, std::span<const double> x, int lag,
+                                  const KernelSet& kernels) {
     if (lag < 0) {
         return {};
     }
@@ -34,13 +17,14 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     // No event has a neighbour farther away than the record is long.
     const std::size_t reach = std::min(wanted, x.size() - 1);
     const std::size_t lags = 2 * reach + 1;
-    const std::size_t blocks = (lags + kLanes - 1) / kLanes;
+    const std::size_t block = kernels.maxLags;
+    const std::size_t rounded = (lags + block - 1) / block * block;
     // Zeros around the record make its ends regular: adding them changes no sum.
-    std::vector<double> padded(x.size() + reach + blocks * kLanes);
+    std::vector<double> padded(x.size() + reach + rounded);
     std::copy(x.begin(), x.end(), padded.begin() + static_cast<std::ptrdiff_t>(reach));
-    std::vector<double> sums(blocks * kLanes);
-    for (std::size_t block = 0; block < blocks; ++block) {
-        sumAround(events, padded.data() + block * kLanes, sums.data() + block * kLanes);
+    std::vector<double> sums(rounded);
+    for (std::size_t first = 0; first < rounded; first += block) {
+        kernels.eventSums(padded.data() + first, events.data(), events.size(), sums.data() + first);
     }
 
     for (std::size_t i = 0; i < lags; ++i) {

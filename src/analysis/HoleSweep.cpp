@@ -1,7 +1,9 @@
 #include "analysis/HoleSweep.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 #include "model/StoreValue.h"
 
@@ -16,33 +18,25 @@ struct Tally {
     std::uint32_t samples = 0;
 };
 
-/// Number of hole sizes that a sample exceeds. The sizes rise with h, so the estimate is put right by the same
-/// comparison that a loop over the sizes would make.
-std::size_t sizesExceeded(double magnitude, double increment, double perIncrement, std::size_t sizes) {
+/// Number of hole sizes that a magnitude exceeds. bounds holds the rising sizes h * increment from its second element
+/// on, between one that every magnitude exceeds and one that none does: the estimate is put right by the same
+/// comparisons that a loop over the sizes would make.
+std::size_t sizesExceeded(double magnitude, double perIncrement, double sizes, const double* bounds) {
     // Also for not a number, which exceeds nothing.
     if (!(magnitude > 0.0)) {
         return 0;
     }
-    const double estimate = magnitude * perIncrement;
-    std::size_t h = estimate < static_cast<double>(sizes) ? static_cast<std::size_t>(estimate) : sizes;
-    while (h > 0 && !(magnitude > static_cast<double>(h - 1) * increment)) {
+    auto h = static_cast<std::size_t>(static_cast<std::int64_t>(std::min(magnitude * perIncrement, sizes)));
+    while (!(magnitude > bounds[h])) {
         --h;
     }
-    while (h < sizes && magnitude > static_cast<double>(h) * increment) {
+    while (magnitude > bounds[h + 1]) {
         ++h;
     }
     return h;
 }
 
 }  // namespace
-
-int quadrantOf(double a, double b) {
-    // Signs are as good as random from sample to sample: a table costs less than branches.
-    static constexpr std::array<std::int8_t, 16> kBuckets = {kHole, kHole, kHole, kHole, kHole, 0,     1,     kHole,
-                                                             kHole, 3,     2,     kHole, kHole, kHole, kHole, kHole};
-    const unsigned key = (a > 0.0 ? 1U : 0U) | (a < 0.0 ? 2U : 0U) | (b > 0.0 ? 4U : 0U) | (b < 0.0 ? 8U : 0U);
-    return kBuckets[key];
-}
 
 HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::span<const double> b, double increment,
                     int sizes, double unit) {
@@ -56,18 +50,24 @@ HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::s
         return sums;
     }
     const std::size_t rows = count + 1;
-    // One row of tallies per quadrant, by the number of sizes that a sample exceeds; samples of the hole exceed none.
+    // One row of tallies per quadrant, by the number of sizes that a sample exceeds.
     std::vector<Tally> tallies(kQuadrants * rows);
-    Tally all;
+    Tally all{0, static_cast<std::uint32_t>(r.size())};
+    std::vector<double> bounds(count + 2, -1.0);
+    for (std::size_t h = 0; h < count; ++h) {
+        bounds[h + 1] = static_cast<double>(h) * increment;
+    }
+    bounds.back() = std::numeric_limits<double>::infinity();
     const double perIncrement = 1.0 / increment;
     for (std::size_t j = 0; j < r.size(); ++j) {
         const auto units = static_cast<std::uint32_t>(truncateToInt32(r[j] / unit));
         all.units += units;
-        ++all.samples;
         const int quadrant = quadrantOf(a[j], b[j]);
-        const std::size_t row = quadrant == kHole ? 0 : static_cast<std::size_t>(quadrant) * rows;
-        const std::size_t h = quadrant == kHole ? 0 : sizesExceeded(std::fabs(r[j]), increment, perIncrement, count);
-        Tally& tally = tallies[row + h];
+        if (quadrant == kHole) {
+            continue;
+        }
+        const std::size_t exceeded = sizesExceeded(std::fabs(r[j]), perIncrement, sizes, bounds.data());
+        Tally& tally = tallies[static_cast<std::size_t>(quadrant) * rows + exceeded];
         tally.units += units;
         ++tally.samples;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "StressRecord.h"
+#include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
 #include "analysis/QuadrantSettings.h"
 #include "analysis/Quadrants.h"
@@ -344,6 +345,34 @@ TEST(Quadrants, TitleThePatternsByTheirEvents) {
     negative.frameAttributes[5].ElementAt(1).plotTitle = "mine";
     analyseQuadrants(negative, QuadrantSettings(), silent);
     EXPECT_EQ(patternTitles(negative), "mine|Sweep (dimensionless velocities)|");
+}
+
+TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
+    const SAdvProbe probe = correlatedProbe(777, -0.4);
+    const std::vector<double> x = fluctuationsOf(probe)[0];
+    std::vector<std::size_t> events;
+    for (std::size_t j = 0; j < x.size(); j += 1 + j % 5) {
+        events.push_back(j);
+    }
+    for (const InstructionSet set : availableInstructionSets()) {
+        for (const int lag : {0, 1, 100, 776, 900}) {
+            const std::vector<double> pattern = averageAround(events, x, lag, kernelsOf(set));
+            ASSERT_EQ(pattern.size(), static_cast<std::size_t>(2 * lag + 1));
+            for (int tau = -lag; tau <= lag; ++tau) {
+                double sum = 0.0;
+                int count = 0;
+                for (const std::size_t event : events) {
+                    const long j = static_cast<long>(event) + tau;
+                    if (j >= 0 && j < 777) {
+                        sum += x[static_cast<std::size_t>(j)];
+                        ++count;
+                    }
+                }
+                ASSERT_EQ(pattern[static_cast<std::size_t>(tau + lag)], count == 0 ? 0.0 : sum / count);
+            }
+        }
+    }
+    EXPECT_TRUE(averageAround(events, x, -1).empty());
 }
 
 TEST(QuadrantSettings, AreCheckedInOrderAndByTheirBounds) {

@@ -50,6 +50,9 @@ struct KernelSet {
     void (*squaredDifferences)(const double* d, std::size_t size, std::size_t firstLag, std::size_t lags,
                                std::size_t first, std::size_t last, double* sums);
 
+    /// sums[l] += x[events[e] + l] for e = 0..count-1 in order, l = 0..maxLags-1.
+    void (*eventSums)(const double* x, const std::size_t* events, std::size_t count, double* sums);
+
     /// sums[s * kFrequencyBlock + f] = sum over all lags of term of series s * cosine (or sine) of frequency f and the
     /// lag, block by block, for series s = 0..series-1; series is 1..kSharedSeries.
     void (*cosineSums)(const FoldedTerms* const* terms, std::size_t series, std::size_t blocks,
