@@ -5,10 +5,14 @@
 #include <numbers>
 
 #include "model/Angles.h"
+#include "model/Errors.h"
 
 namespace vorlan {
 
 PhaseTable::PhaseTable(std::size_t length) : turn_(2 * length), circle_(turn_) {
+    if (length == 0) {
+        throw InvalidArgument();
+    }
     // What the double nearest to pi lacks itself.
     constexpr double kRest = 1.2246467991473532e-16;
     lack_ = (std::numbers::pi - kPi + kRest) / static_cast<double>(length);
@@ -48,6 +52,12 @@ void PhaseTable::lookUp(const Places& places, std::size_t first, std::size_t lag
         row.cosine[f] = p.cosine + p.sine * lack - p.cosine * loss;
         row.sine[f] = p.sine - p.cosine * lack - p.sine * loss;
     }
+}
+
+double PhaseTable::cosine(std::size_t frequency, std::size_t lag) const {
+    const Point& p = circle_[frequency * lag % turn_];
+    const double lack = static_cast<double>(frequency * lag) * lack_;
+    return p.cosine + p.sine * lack - p.cosine * (0.5 * lack * lack);
 }
 
 void PhaseTable::fill(std::size_t first, std::size_t start, std::size_t stride, std::size_t rows,

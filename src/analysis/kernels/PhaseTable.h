@@ -14,11 +14,13 @@ namespace vorlan {
 /// thousand turns is as accurate as a small one.
 class PhaseTable {
   public:
-    /// length L of at least 1.
+    /// InvalidArgument for length 0.
     explicit PhaseTable(std::size_t length);
 
     /// The phases of frequencies first..first+kFrequencyBlock-1 and lags start, start + stride, ... (rows of them).
     void fill(std::size_t first, std::size_t start, std::size_t stride, std::size_t rows, PhaseRow* table) const;
+
+    double cosine(std::size_t frequency, std::size_t lag) const;
 
   private:
     struct Point {

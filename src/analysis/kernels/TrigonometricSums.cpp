@@ -30,7 +30,7 @@ std::vector<FoldedTerms> folded(std::span<const double> terms) {
     return blocks;
 }
 
-Series trigonometricSums(std::span<const std::vector<double>> terms, std::size_t length, std::size_t frequencies,
+Series trigonometricSums(std::span<const std::vector<double>> terms, const PhaseTable& table, std::size_t frequencies,
                          Progress& progress, BlockSums blockSums) {
     Series result(terms.size(), std::vector<double>(frequencies));
     if (terms.empty()) {
@@ -40,13 +40,12 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, std::size_t
     std::vector<std::vector<FoldedTerms>> series;
     std::vector<const FoldedTerms*> starts;
     for (const std::vector<double>& s : terms) {
-        if (s.size() != count || length == 0) {
+        if (s.size() != count) {
             throw InvalidArgument();
         }
         starts.push_back(series.emplace_back(folded(s)).data());
     }
 
-    const PhaseTable table(length);
     std::vector<PhaseRow> steps(kFoldedSteps);
     std::vector<PhaseRow> middles(series.front().size());
     std::vector<double> sums(kSharedSeries * kFrequencyBlock);
@@ -73,12 +72,23 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, std::size_t
 
 Series cosineSums(std::span<const std::vector<double>> terms, std::size_t length, std::size_t frequencies,
                   Progress& progress, const KernelSet& kernels) {
-    return trigonometricSums(terms, length, frequencies, progress, kernels.cosineSums);
+    const PhaseTable table(length);
+    Series result = trigonometricSums(terms, table, frequencies, progress, kernels.cosineSums);
+    for (const std::size_t i : {std::size_t{0}, length}) {
+        for (std::size_t s = 0; s < terms.size() && i < frequencies; ++s) {
+            double sum = 0.0;
+            for (std::size_t k = 0; k < terms[s].size(); ++k) {
+                sum += terms[s][k] * table.cosine(i, k);
+            }
+            result[s][i] = sum;
+        }
+    }
+    return result;
 }
 
 Series sineSums(std::span<const std::vector<double>> terms, std::size_t length, std::size_t frequencies,
                 Progress& progress, const KernelSet& kernels) {
-    return trigonometricSums(terms, length, frequencies, progress, kernels.sineSums);
+    return trigonometricSums(terms, PhaseTable(length), frequencies, progress, kernels.sineSums);
 }
 
 }  // namespace vorlan

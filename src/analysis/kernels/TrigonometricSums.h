@@ -18,6 +18,9 @@ namespace vorlan {
 ///   cos(m +- t) = cos m cos t -+ sin m sin t.
 /// So two lags cost two products and two sums, and up to three series share the sines and cosines.
 ///
+/// The cosines of indexes 0 and length are 1 and -1: sums of decimal values then end on a step of the stored
+/// resolution, and rounding decides which integer it is. These two go over k in order.
+///
 /// The order of the operations is the same for all instruction sets and whatever series go together: they give the
 /// same bytes. Against a plain loop over k the sums differ by rounding; what differs most is the phase, which is
 /// accurate to 1e-15 here and loses up to a few 1e-12 where kPi * i * k is formed in double precision. Of stored

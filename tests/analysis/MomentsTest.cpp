@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "analysis/AnalysedSeries.h"
+#include "analysis/MomentEstimators.h"
+#include "analysis/ProbeMoments.h"
+#include "analysis/SeriesIntegrals.h"
+#include "analysis/Stresses.h"
+#include "model/Errors.h"
+
+namespace vorlan {
+namespace {
+
+SArray column(double scale, const std::vector<int>& integers) {
+    SArray values(scale);
+    for (const int n : integers) {
+        values.Add(n);
+    }
+    return values;
+}
+
+SAdvProbe probeOf(const std::vector<int>& u, const std::vector<int>& v, const std::vector<int>& w,
+                  const std::vector<int>& marks) {
+    SAdvProbe probe;
+    probe.samplingInterval = 0.5;
+    probe.workTables[SAdvProbe::kVelocities].Add(column(0.5, u));
+    probe.workTables[SAdvProbe::kVelocities].Add(column(0.25, v));
+    probe.workTables[SAdvProbe::kVelocities].Add(column(1.0, w));
+    for (const int mark : marks) {
+        probe.sampleFlags.Add(mark);
+    }
+    return probe;
+}
+
+TEST(Moments, MixedDivisors) {
+    // Deviations -3, -1, 1, 3: squares 20, cubes 0, fourth powers 164.
+    const std::vector<double> even = {1.0, 3.0, 5.0, 7.0};
+    Moments m = momentsOf(even);
+    EXPECT_EQ(m.mean, 4.0);
+    EXPECT_EQ(m.variance, 20.0 / 3.0);
+    EXPECT_EQ(m.skewness, 0.0);
+    EXPECT_DOUBLE_EQ(m.kurtosis, 164.0 / (4.0 * 400.0 / 9.0) - 3.0);
+    // Deviations -1, -1, 2: cubes 6, variance 3.
+    m = momentsOf(std::vector<double>{1.0, 1.0, 4.0});
+    EXPECT_DOUBLE_EQ(m.skewness, 6.0 / (3.0 * 3.0 * std::sqrt(3.0)));
+    EXPECT_DOUBLE_EQ(m.kurtosis, 18.0 / 27.0 - 3.0);
+}
+
+TEST(Moments, NothingGuardsShortOrConstantSeries) {
+    const Moments constant = momentsOf(std::vector<double>{2.0, 2.0, 2.0});
+    EXPECT_EQ(constant.mean, 2.0);
+    EXPECT_EQ(constant.variance, 0.0);
+    EXPECT_TRUE(std::isnan(constant.skewness));
+    EXPECT_TRUE(std::isnan(constant.kurtosis));
+    EXPECT_TRUE(std::isnan(momentsOf(std::vector<double>{2.0}).variance));
+    EXPECT_TRUE(std::isnan(momentsOf({}).mean));
+    const Moments two = momentsOf(std::vector<double>{1.0, 2.0});
+    EXPECT_EQ(two.variance, 0.5);
+    EXPECT_DOUBLE_EQ(two.kurtosis, 0.125 / (2.0 * 0.25) - 3.0);
+}
+
+TEST(Moments, Extremes) {
+    const Extremes extremes = extremesOf(column(0.5, {4, -7, 9, 9, 0}));
+    EXPECT_EQ(extremes.minimum, -3.5);
+    EXPECT_EQ(extremes.maximum, 4.5);
+    EXPECT_THROW(extremesOf(SArray()), InvalidArgument);
+}
+
+TEST(AnalysedSeries, HoldsTheSamplesThatCount) {
+    SAdvProbe probe = probeOf({1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {1, 0, 2});
+    probe.seriesU.values.Add(99);
+    formAnalysedSeries(probe);
+    EXPECT_EQ(probe.seriesU.values, column(0.5, {1, 2, 3, 4}));
+    probe.useAllSamples = 0;
+    formAnalysedSeries(probe);
+    // The fourth sample has no mark.
+    EXPECT_EQ(probe.seriesU.values, column(0.5, {1, 3}));
+    EXPECT_EQ(probe.seriesV.values, column(0.25, {5, 7}));
+    EXPECT_EQ(probe.seriesW.values, column(1.0, {9, 11}));
+    EXPECT_EQ(probe.seriesW.samplingInterval, 0.5);
+    EXPECT_EQ(countedValues(probe, column(0.1, {1, 2})), std::vector<double>{0.1});
+
+    SAdvProbe uneven = probeOf({1, 2}, {1}, {1, 2}, {1, 1});
+    EXPECT_THROW(formAnalysedSeries(uneven), InvalidArgument);
+    SAdvProbe empty;
+    formAnalysedSeries(empty);
+    EXPECT_TRUE(empty.seriesU.values.IsEmpty());
+}
+
+TEST(ProbeMoments, NeedThreeSamplesThatCount) {
+    SAdvProbe probe = probeOf({2, 4, 12, 100}, {4, 8, 24, 0}, {1, 2, 6, 0}, {1, 1, 1, 0});
+    probe.useAllSamples = 0;
+    computeProbeMoments(probe);
+    EXPECT_EQ(probe.VelocityMoments(0), momentsOf(std::vector<double>{1.0, 2.0, 6.0}));
+    EXPECT_EQ(probe.VelocityMoments(2), momentsOf(std::vector<double>{1.0, 2.0, 6.0}));
+    // Means, variances, skewness and kurtosis, each of U, V, W.
+    EXPECT_EQ(probe.scalarResults[13], 3.0);
+    EXPECT_EQ(probe.scalarResults[14], 3.0);
+    EXPECT_EQ(probe.scalarResults[17], 7.0);
+
+    probe.useAllSamples = 1;
+    EXPECT_EQ(probeMoments(probe)[0].mean, 14.75);
+    probe.useAllSamples = 0;
+    probe.sampleFlags.SetAt(2, 0);
+    computeProbeMoments(probe);
+    for (std::size_t i = 13; i < 25; ++i) {
+        EXPECT_EQ(probe.scalarResults[i], 0.0);
+    }
+}
+
+TEST(Stresses, FluctuationsCountEverySampleMomentsOnlyTheMarkedOnes) {
+    // U: 0 1 2 5 (mean 2), V: 1 0 -1 4 (mean 1), W: 3 -1 2 0 (mean 1).
+    SAdvProbe probe = probeOf({0, 2, 4, 10}, {4, 0, -4, 16}, {3, -1, 2, 0}, {1, 1, 1, 0});
+    probe.useAllSamples = 0;
+    formStresses(probe);
+    const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
+    ASSERT_EQ(stresses.GetSize(), 3);
+    EXPECT_EQ(stresses.GetAt(0), column(0.5, {0, 2, 0, 18}));      // 0, 1, 0, 9
+    EXPECT_EQ(stresses.GetAt(1), column(0.25, {-16, 8, 0, -12}));  // -4, 2, 0, -3
+    EXPECT_EQ(stresses.GetAt(2), column(1.0, {0, 2, -2, -3}));
+    EXPECT_EQ(probe.scalarResults[10], 2.0);
+    EXPECT_EQ(probe.scalarResults[11], 1.0);
+    EXPECT_EQ(probe.scalarResults[12], 1.0);
+    EXPECT_EQ(probe.stressesFormed, 1U);
+    EXPECT_EQ(probe.StressMoments(1), momentsOf(std::vector<double>{-4.0, 2.0, 0.0}));
+    EXPECT_EQ(probe.seriesUW.values, column(0.25, {-16, 8, 0}));
+    EXPECT_EQ(probe.seriesUW.moments, probe.StressMoments(1));
+    EXPECT_EQ(probe.seriesVW.values.GetScale(), 1.0);
+
+    computeStressStatistics(probe);
+    EXPECT_DOUBLE_EQ(probe.statistics[12], 14.0 / 3.0);
+    EXPECT_EQ(probe.statistics[15], 2.5);
+    EXPECT_EQ(probe.statistics[16], -1.25);
+    EXPECT_EQ(probe.statistics[17], -0.75);
+
+    formStresses(probe, StressResolution::StreamwiseU);
+    EXPECT_EQ(stresses.GetAt(2), column(0.5, {0, 4, -4, -6}));
+}
+
+TEST(Stresses, ProductsAreTruncatedBeforeTheirMoments) {
+    // Means 0.5 and 0.25; products 0.125 at resolution 0.5.
+    SAdvProbe probe = probeOf({0, 2}, {0, 2}, {0, 0}, {1, 1});
+    formStresses(probe);
+    EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetAt(0), column(0.5, {0, 0}));
+    EXPECT_EQ(probe.StressMoments(0).mean, 0.0);
+}
+
+TEST(Stresses, EmptyRecord) {
+    SAdvProbe probe;
+    formStresses(probe);
+    EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetSize(), 3);
+    EXPECT_TRUE(probe.workTables[SAdvProbe::kStresses].HasNoValues());
+    EXPECT_TRUE(std::isnan(probe.StressMoments(0).mean));
+    EXPECT_EQ(probe.stressesFormed, 1U);
+}
+
+TEST(SeriesIntegrals, EndBeforeTheLastIndex) {
+    STimeSeries series;
+    series.samplingInterval = 0.5;
+    series.moments.variance = 2.0;
+    series.correlation = column(1.0, {8, 6, 4, 2, 100});
+    EXPECT_EQ(correlationIntegral(series, 0, 4), ((4 + 3) + (3 + 2) + (2 + 1)) * 0.5 * 0.5);
+    EXPECT_EQ(correlationIntegral(series, 2, 4), 1.5 * 0.5);
+    EXPECT_EQ(correlationIntegral(series, 3, 4), 0.0);
+    EXPECT_EQ(correlationIntegral(series, 9, 4), 0.0);
+    EXPECT_EQ(correlationIntegral(series, 3, 500), (1 + 50) * 0.5 * 0.5);
+    EXPECT_THROW(correlationIntegral(series, -1, 4), InvalidArgument);
+
+    series.spectrum = column(1.0, {8, 6, 4, 2, 100});
+    const double sum = 7.0 + 5.0 + 3.0;
+    EXPECT_DOUBLE_EQ(spectrumIntegral(series, 0, 5), sum / (2.0 * 5 * 0.5));
+    EXPECT_DOUBLE_EQ(spectrumIntegral(series, 0, 50), sum / (2.0 * 5 * 0.5));
+    EXPECT_EQ(spectrumIntegral(series, 3, 5), 0.0);
+    series.unitSelector = 1;
+    EXPECT_DOUBLE_EQ(spectrumIntegral(series, 0, 5), sum * 3.14 / (5 * 0.5));
+    series.unitSelector = 7;
+    EXPECT_EQ(spectrumIntegral(series, 0, 5), 0.0);
+    EXPECT_EQ(spectrumIntegral(STimeSeries(), 0, 5), 0.0);
+}
+
+}  // namespace
+}  // namespace vorlan
