@@ -26,6 +26,7 @@ struct PlotSeries {
     std::vector<double> vx;
     std::vector<double> vy;
     SeriesAtrType attributes;
+    double legendArrow = 0.0;  ///< length of the sample arrow in the legend, units of the vectors; 0: the usual sample
 };
 
 /// The data of a diagram: its series, drawn in order.

@@ -1,71 +1,141 @@
 #include "plot/PaintPane.h"
 
-#include <QPolygon>
 #include <algorithm>
 #include <cmath>
-#include <limits>
+
+#include "plot/PaintSeries.h"
+#include "plot/QtText.h"
+#include "plot/SPlotFrame.h"
+#include "plot/STable.h"
+#include "plot/SeriesShapes.h"
 
 namespace vorlan {
 
 namespace {
 
-constexpr int kMargin = 40;
+constexpr char kNoData[] = "No data to plot ! Reset series to continue.";
+constexpr char kTooSmall[] = "Increase Size to View Data";
+constexpr int kPanelGap = 8;
+constexpr int kPanelLineGap = 2;
+constexpr int kLegendOpacity = 224;  // of 255: curves behind the legend stay visible
 
-std::optional<CScreenUtils> paintDiagram(QPainter& painter, const QRect& area, const Diagram& diagram) {
-    CScreenUtils geometry;
-    geometry.originX = area.left() + kMargin;
-    geometry.originY = area.bottom() - kMargin;
-    geometry.width = area.width() - 2 * kMargin;
-    geometry.height = area.height() - 2 * kMargin;
-    if (!diagram.plot.hasPoints() || geometry.width < 60 || geometry.height < 40) {
+std::vector<QLine> qtLines(const std::vector<Line>& lines) {
+    std::vector<QLine> result;
+    for (const Line& line : lines) {
+        result.emplace_back(line.from.x, line.from.y, line.to.x, line.to.y);
+    }
+    return result;
+}
+
+class PanePainter {
+  public:
+    PanePainter(QPainter& painter, const QRect& area, const RenderOptions& options)
+        : painter_(painter), area_(area), options_(options), measure_(painter.device(), options.fontScale) {}
+
+    std::optional<CScreenUtils> operator()(std::monostate) { return std::nullopt; }
+
+    std::optional<CScreenUtils> operator()(const PaneMessage& message) {
+        painter_.setFont(qtFont(FontDescription(), options_.fontScale));
+        painter_.drawText(area_, Qt::AlignCenter | Qt::TextWordWrap, QString::fromStdString(message.text));
         return std::nullopt;
     }
-    geometry.xMin = geometry.yMin = std::numeric_limits<double>::infinity();
-    geometry.xMax = geometry.yMax = -geometry.xMin;
-    for (const PlotSeries& series : diagram.plot.series) {
-        for (std::size_t i = 0; i < series.y.size(); ++i) {
-            if (std::isfinite(series.y[i])) {
-                geometry.xMin = std::min(geometry.xMin, series.x.at(i));
-                geometry.xMax = std::max(geometry.xMax, series.x.at(i));
-                geometry.yMin = std::min(geometry.yMin, series.y[i]);
-                geometry.yMax = std::max(geometry.yMax, series.y[i]);
-            }
+
+    std::optional<CScreenUtils> operator()(const TextPanel& panel) {
+        const int gap = scaled(kPanelGap);
+        const int height = measure_.height(panel.font, 1.0);
+        std::vector<PlacedText> texts;
+        int top = area_.top() + gap;
+        for (const std::string& line : panel.lines) {
+            const std::string shown = shortened(line, panel.font, area_.width() - 2 * gap, measure_);
+            const int left = area_.left() + gap;
+            texts.push_back(
+                {shown, {left, top, left + measure_.width(shown, panel.font, 1.0), top + height}, panel.font});
+            top += height + scaled(kPanelLineGap);
+        }
+        drawTexts(painter_, texts, measure_, options_.fontScale);
+        return std::nullopt;
+    }
+
+    std::optional<CScreenUtils> operator()(const TableContent& content) {
+        STable table(content);
+        table.fitInto(paneBox(), measure_);
+        const TableShapes shapes = table.shapes(paneBox(), measure_);
+        drawLines(shapes.rules, linePen(0, 1, 0, options_.lengthScale));
+        drawTexts(painter_, shapes.texts, measure_, options_.fontScale);
+        return std::nullopt;
+    }
+
+    std::optional<CScreenUtils> operator()(const Diagram& diagram) {
+        const FrameLayout layout = SPlotFrame(diagram, measure_, options_.lengthScale).layout(paneBox());
+        if (layout.state == FrameLayout::State::NoData) {
+            return (*this)(PaneMessage{kNoData});
+        }
+        if (layout.state == FrameLayout::State::TooSmall) {
+            return (*this)(PaneMessage{kTooSmall});
+        }
+        drawLines(layout.strokes, linePen(0, 1, 0, options_.lengthScale));
+        drawTexts(painter_, layout.texts, measure_, options_.fontScale);
+        const SAxis& axis = layout.axes.front();
+        drawLines(layout.grid, linePen(axis.gridColour, axis.gridPenWidth, axis.gridPenStyle, options_.lengthScale));
+        for (const PlotSeries& series : diagram.plot.series) {
+            paintSeries(painter_, series, layout.geometry, options_.lengthScale);
+        }
+        painter_.setPen(Qt::black);
+        drawTexts(painter_, pointTexts(diagram, layout.geometry, measure_, options_.lengthScale), measure_,
+                  options_.fontScale);
+        drawLegend(layout.legend);
+        return layout.geometry;
+    }
+
+  private:
+    int scaled(int pixels) const { return static_cast<int>(std::lround(pixels * options_.lengthScale)); }
+    Box paneBox() const { return {area_.left(), area_.top(), area_.right() + 1, area_.bottom() + 1}; }
+
+    void drawLines(const std::vector<Line>& lines, const QPen& pen) {
+        painter_.setPen(pen);
+        const std::vector<QLine> strokes = qtLines(lines);
+        painter_.drawLines(strokes.data(), static_cast<int>(strokes.size()));
+        painter_.setPen(Qt::black);
+    }
+
+    void drawLegend(const SLegend& legend) {
+        if (legend.empty()) {
+            return;
+        }
+        if (legend.inPlotArea) {
+            const Box& box = legend.box;
+            painter_.fillRect(QRect(box.left, box.top, box.width(), box.height()),
+                              QColor(255, 255, 255, kLegendOpacity));
+        }
+        drawTexts(painter_, legend.title, measure_, options_.fontScale);
+        for (const SLegend::Entry& entry : legend.entries) {
+            paintLegendSample(painter_, entry, entry.text.box.height(), options_.lengthScale);
+            painter_.setPen(Qt::black);
+            drawTexts(painter_, std::span(&entry.text, 1), measure_, options_.fontScale);
         }
     }
-    geometry.xMax = std::max(geometry.xMax, geometry.xMin + 1.0);
-    geometry.yMax = std::max(geometry.yMax, geometry.yMin + 1.0);
-    geometry.xScale = (geometry.xMax - geometry.xMin) / geometry.width;
-    geometry.yScale = (geometry.yMax - geometry.yMin) / geometry.height;
-    painter.drawLine(geometry.originX, geometry.originY, geometry.originX + geometry.width, geometry.originY);
-    painter.drawLine(geometry.originX, geometry.originY, geometry.originX, geometry.originY - geometry.height);
-    painter.drawText(QRect(area.left(), area.top(), area.width(), kMargin), Qt::AlignCenter,
-                     QString::fromStdString(diagram.frame.plotTitle));
-    for (const PlotSeries& series : diagram.plot.series) {
-        QPolygon line;
-        for (std::size_t i = 0; i < series.y.size(); ++i) {
-            if (std::isfinite(series.y[i])) {
-                line << QPoint(geometry.xPixel(series.x.at(i)), geometry.yPixel(series.y[i]));
-            }
-        }
-        painter.drawPolyline(line);
-    }
-    return geometry;
-}
+
+    QPainter& painter_;
+    QRect area_;
+    RenderOptions options_;
+    QtTextMeasure measure_;
+};
 
 }  // namespace
 
 std::optional<CScreenUtils> paintPane(QPainter& painter, const QRect& area, const PaneContent& content,
-                                      const RenderOptions&) {
+                                      const RenderOptions& options) {
+    if (area.isEmpty()) {
+        return std::nullopt;
+    }
     painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setRenderHint(QPainter::TextAntialiasing, true);
+    painter.setClipRect(area, Qt::IntersectClip);
     painter.fillRect(area, Qt::white);
     painter.setPen(Qt::black);
-    painter.setClipRect(area);
-    std::optional<CScreenUtils> geometry;
-    if (const auto* diagram = std::get_if<Diagram>(&content)) {
-        geometry = paintDiagram(painter, area, *diagram);
-    } else if (const auto* message = std::get_if<PaneMessage>(&content)) {
-        painter.drawText(area, Qt::AlignCenter, QString::fromStdString(message->text));
-    }
+    painter.setBrush(Qt::NoBrush);
+    const std::optional<CScreenUtils> geometry = std::visit(PanePainter(painter, area, options), content);
     painter.restore();
     return geometry;
 }

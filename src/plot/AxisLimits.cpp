@@ -1,0 +1,128 @@
+#include "plot/AxisLimits.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "plot/NiceNumbers.h"
+
+namespace vorlan {
+
+namespace {
+
+// Sums of steps miss the range by rounding errors; an interval must not be lost to one of them.
+constexpr double kIntervalTolerance = 1e-9;
+constexpr double kLargestLimit = 1e300;
+constexpr int kMostMarks = 1000000;
+// Ends that differ by less than their rounding errors count as equal.
+constexpr double kSmallestRelativeRange = 1e-12;
+
+double usable(double limit) {
+    return std::isfinite(limit) ? std::clamp(limit, -kLargestLimit, kLargestLimit) : 0.0;
+}
+
+int countedMarks(const AxisLimits& limits) {
+    const double n = std::fabs(limits.upper - limits.lower) / std::fabs(limits.step) * (1.0 + kIntervalTolerance);
+    return n >= 1.0 ? static_cast<int>(std::min<double>(n, kMostMarks)) : 1;
+}
+
+double magnitude(const AxisLimits& limits) {
+    return std::max(std::fabs(limits.lower), std::fabs(limits.upper));
+}
+
+// Free ends that meet or pass the other end are moved to where the axis has a length.
+void partEnds(AxisLimits& limits, const AxisRule& rule, double distance) {
+    const double range = limits.upper - limits.lower;
+    const bool bothGiven = !rule.lowerFromData && !rule.upperFromData;
+    if (std::fabs(range) > magnitude(limits) * kSmallestRelativeRange && (range > 0.0 || bothGiven)) {
+        return;
+    }
+    distance = std::max(distance, magnitude(limits) * 1e-3);
+    if (rule.lowerFromData) {
+        limits.lower = limits.upper - distance;
+    } else {
+        limits.upper = limits.lower + distance;
+    }
+}
+
+void roundFreeEnds(AxisLimits& limits, const AxisRule& rule) {
+    if (rule.lowerFromData) {
+        limits.lower = lowerLimit(limits.lower, limits.step);
+    }
+    if (rule.upperFromData) {
+        limits.upper = upperLimit(limits.upper, limits.step);
+    }
+    if (limits.upper <= limits.lower && (rule.lowerFromData || rule.upperFromData)) {
+        if (rule.upperFromData) {
+            limits.upper = limits.lower + limits.step;
+        } else {
+            limits.lower = limits.upper - limits.step;
+        }
+    }
+}
+
+void finish(AxisLimits& limits) {
+    limits.step = std::copysign(limits.step, limits.upper - limits.lower);
+    limits.marks = countedMarks(limits);
+}
+
+}  // namespace
+
+LinearLimits linearLimits(const AxisRule& rule, const DataInterval& data, const AxisManner& manner) {
+    AxisLimits ends;
+    ends.lower = usable(rule.lowerFromData ? data.lowest : rule.lower);
+    ends.upper = usable(rule.upperFromData ? data.highest : rule.upper);
+    if (rule.stepGiven && std::isfinite(rule.step) && rule.step > 0.0) {
+        AxisLimits limits = ends;
+        limits.step = rule.step;
+        roundFreeEnds(limits, rule);
+        const double range = std::fabs(limits.upper - limits.lower);
+        if (range > 0.0 && rule.step <= range * (1.0 + kIntervalTolerance) && range / rule.step < kMostMarks) {
+            finish(limits);
+            return {limits, false};
+        }
+    }
+    partEnds(ends, rule, manner.widening);
+    const bool both = rule.lowerFromData && rule.upperFromData;
+    const double divisor = both ? manner.divisorBothFromData : manner.divisorOtherwise;
+    ends.step = niceStep(std::fabs(ends.upper - ends.lower) / divisor);
+    roundFreeEnds(ends, rule);
+    finish(ends);
+    return {ends, true};
+}
+
+AxisLimits logarithmicLimits(const AxisRule& rule, const DataInterval& data, int mostDecades) {
+    const auto decade = [](bool fromData, double given, double fallback) {
+        return std::log10(fromData || !(given > 0.0) || !std::isfinite(given) ? fallback : given);
+    };
+    double first = decade(rule.lowerFromData, rule.lower, data.lowest);
+    double last = decade(rule.upperFromData, rule.upper, data.highest);
+    if (last < first) {
+        std::swap(first, last);
+    }
+    // The marks stand on whole decades, so limits between decades would be labelled wrongly.
+    first = std::floor(first);
+    last = std::max(std::ceil(last), first + 1.0);
+    first = std::max(first, last - std::max(mostDecades, 1));
+    AxisLimits limits;
+    limits.lower = std::pow(10.0, first);
+    limits.upper = std::pow(10.0, last);
+    limits.marks = static_cast<int>(last - first);
+    limits.step = 1.0;
+    return limits;
+}
+
+int fittedMarks(int n, int room, bool vertical) {
+    while (room < n && n > 1) {
+        n /= 2;
+    }
+    return vertical && n == 3 ? 2 : std::max(n, 1);
+}
+
+AxisLimits withMarks(const AxisLimits& limits, int n) {
+    AxisLimits fitted = limits;
+    fitted.marks = n;
+    fitted.step = (limits.upper - limits.lower) / n;
+    return fitted;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,195 @@
+#include "plot/PaintSeries.h"
+
+#include <QPolygon>
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include "plot/SeriesShapes.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::size_t kRun = 100;
+constexpr int kNarrowBar = 3;
+constexpr double kBarTint = 0.55;  // share of white in the inside of a bar
+constexpr int kLargestPen = 100;
+constexpr int kLargestMarker = 400;
+
+int scaledSize(int stored, int largest, double lengthScale) {
+    return static_cast<int>(std::lround(std::clamp(stored, 1, largest) * lengthScale));
+}
+
+QPen seriesPen(const SeriesAtrType& attributes, int style, double lengthScale) {
+    return linePen(attributes.colour, attributes.penWidth, style, lengthScale);
+}
+
+void drawLine(QPainter& painter, const Line& line) {
+    painter.drawLine(line.from.x, line.from.y, line.to.x, line.to.y);
+}
+
+QRect outline(const Box& box) {
+    return QRect(box.left, box.top, box.width() - 1, box.height() - 1);
+}
+
+void paintMarker(QPainter& painter, MarkerKind kind, const Spot& spot, int size) {
+    if (kind == MarkerKind::Circle) {
+        painter.drawEllipse(outline(markerBox(spot, size)));
+    } else if (kind == MarkerKind::Square) {
+        painter.drawRect(outline(markerBox(spot, size)));
+    } else {
+        for (const Line& line : markerLines(kind, spot, size)) {
+            drawLine(painter, line);
+        }
+    }
+}
+
+void prepareMarkers(QPainter& painter, const SeriesAtrType& attributes, double lengthScale) {
+    painter.setPen(seriesPen(attributes, 0, lengthScale));
+    painter.setBrush(Qt::NoBrush);
+}
+
+void paintMarkers(QPainter& painter, const SeriesAtrType& attributes, const std::vector<Spot>& spots,
+                  double lengthScale) {
+    prepareMarkers(painter, attributes, lengthScale);
+    const int size = scaledSize(attributes.markerSize, kLargestMarker, lengthScale);
+    for (const Spot& spot : spots) {
+        paintMarker(painter, attributes.markerKind, spot, size);
+    }
+}
+
+void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box, double lengthScale) {
+    if (box.width() <= 0 || box.height() <= 0) {
+        return;
+    }
+    const QColor colour = colourOf(attributes.colour);
+    const auto lighter = [](int part) { return static_cast<int>(part + (255 - part) * kBarTint); };
+    const QColor tint(lighter(colour.red()), lighter(colour.green()), lighter(colour.blue()));
+    const int border = scaledSize(attributes.penWidth, kLargestPen, lengthScale);
+    const QRect rect(box.left, box.top, box.width(), box.height());
+    painter.fillRect(rect, colour);
+    if (box.width() >= kNarrowBar * border && box.height() > border) {
+        painter.fillRect(rect.adjusted(border, border, -border, 0), tint);
+    }
+}
+
+void paintArrow(QPainter& painter, const Arrow& arrow) {
+    drawLine(painter, arrow.shaft);
+    for (const Line& stroke : arrow.head) {
+        drawLine(painter, stroke);
+    }
+}
+
+void paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
+    const Polylines lines = polylineEnvelope(series, geometry);
+    painter.setPen(seriesPen(series.attributes, lines.dense ? 0 : series.attributes.penStyle, lengthScale));
+    painter.setBrush(Qt::NoBrush);
+    strokePolylines(painter, lines);
+}
+
+}  // namespace
+
+QColor colourOf(std::int32_t packed) {
+    const auto bits = static_cast<std::uint32_t>(packed);
+    return QColor(static_cast<int>(bits & 255U), static_cast<int>(bits >> 8U & 255U),
+                  static_cast<int>(bits >> 16U & 255U));
+}
+
+QPen linePen(std::int32_t colour, int width, int style, double lengthScale) {
+    constexpr Qt::PenStyle styles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine, Qt::DashDotDotLine};
+    const int pixels = std::max(1, scaledSize(width, kLargestPen, lengthScale));
+    QPen pen(colourOf(colour), pixels, style >= 0 && style < 5 ? styles[style] : Qt::SolidLine);
+    if (pixels > 1 && pen.style() == Qt::SolidLine) {
+        pen.setCapStyle(Qt::RoundCap);
+        pen.setJoinStyle(Qt::RoundJoin);
+    }
+    return pen;
+}
+
+void strokePolylines(QPainter& painter, const Polylines& lines) {
+    QPen pen = painter.pen();
+    const QList<qreal> pattern = pen.style() == Qt::SolidLine ? QList<qreal>() : pen.dashPattern();
+    const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0) * pen.widthF();
+    for (const std::vector<Spot>& part : lines.parts) {
+        double travelled = 0.0;
+        for (std::size_t first = 0; first + 1 < part.size(); first += kRun) {
+            const std::size_t last = std::min(first + kRun, part.size() - 1);
+            QPolygon run;
+            run.reserve(static_cast<int>(last - first) + 1);
+            double length = 0.0;
+            for (std::size_t i = first; i <= last; ++i) {
+                run << QPoint(part[i].x, part[i].y);
+                length += i > first ? std::hypot(part[i].x - part[i - 1].x, part[i].y - part[i - 1].y) : 0.0;
+            }
+            if (period > 0.0) {
+                // The pattern goes on where the run before ended.
+                pen.setDashOffset(std::fmod(travelled, period) / pen.widthF());
+                painter.setPen(pen);
+            }
+            painter.drawPolyline(run);
+            travelled += length;
+        }
+    }
+}
+
+void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
+    painter.save();
+    painter.setClipRect(
+        QRect(geometry.originX, geometry.originY - geometry.height, geometry.width + 1, geometry.height + 1),
+        Qt::IntersectClip);
+    const SeriesAtrType& attributes = series.attributes;
+    switch (attributes.style) {
+        case SeriesStyle::Line:
+            paintLine(painter, series, geometry, lengthScale);
+            break;
+        case SeriesStyle::LineAndMarkers:
+            paintLine(painter, series, geometry, lengthScale);
+            [[fallthrough]];
+        case SeriesStyle::Markers:
+            paintMarkers(painter, attributes, markerSpots(series, geometry), lengthScale);
+            break;
+        case SeriesStyle::Bars:
+            for (const Box& box : barBoxes(series, geometry)) {
+                paintBar(painter, attributes, box, lengthScale);
+            }
+            break;
+        case SeriesStyle::Arrows:
+            painter.setPen(seriesPen(attributes, attributes.penStyle, lengthScale));
+            for (const Arrow& arrow : arrows(series, geometry, lengthScale)) {
+                paintArrow(painter, arrow);
+            }
+            break;
+    }
+    painter.restore();
+}
+
+void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale) {
+    const SeriesAtrType& attributes = entry.attributes;
+    const Spot& start = entry.sampleStart;
+    const Spot end{start.x + entry.sampleLength, start.y};
+    const Spot middle{start.x + entry.sampleLength / 2, start.y};
+    painter.setPen(seriesPen(attributes, attributes.penStyle, lengthScale));
+    switch (attributes.style) {
+        case SeriesStyle::Bars: {
+            const int half = lineHeight / 4;
+            paintBar(painter, attributes, {start.x, start.y - half, end.x, start.y + half}, lengthScale);
+            break;
+        }
+        case SeriesStyle::Arrows:
+            paintArrow(painter,
+                       arrowShape(start, end, attributes.arrowHeadLength * lengthScale, attributes.arrowHeadAngle));
+            break;
+        case SeriesStyle::Line:
+            drawLine(painter, {start, end});
+            break;
+        case SeriesStyle::LineAndMarkers:
+            drawLine(painter, {start, end});
+            [[fallthrough]];
+        case SeriesStyle::Markers:
+            paintMarkers(painter, attributes, {middle}, lengthScale);
+            break;
+    }
+}
+
+}  // namespace vorlan

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPainter>
+
+#include "plot/CScreenUtils.h"
+#include "plot/Diagram.h"
+#include "plot/PolylineEnvelope.h"
+#include "plot/SLegend.h"
+
+namespace vorlan {
+
+/// red + 256 green + 65536 blue
+QColor colourOf(std::int32_t packed);
+
+/// A pen of at least one pixel; style 0 solid, 1 dashed, 2 dotted, 3 dash-dot, 4 dash-dot-dot.
+QPen linePen(std::int32_t colour, int width, int style, double lengthScale);
+
+/// Draws polylines in short runs: a wide pen takes quadratic time over a long one.
+void strokePolylines(QPainter& painter, const Polylines& lines);
+
+/// Draws one series, clipped to the plot area.
+void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale);
+
+/// Draws the sample of a legend entry as its series is drawn.
+void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale);
+
+}  // namespace vorlan

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "plot/CScreenUtils.h"
+#include "plot/Diagram.h"
+#include "plot/Shapes.h"
+
+namespace vorlan {
+
+/// The lines of a series in pixels: one polyline per stretch of points that have a place on the axes.
+///
+/// Neighbouring points of one pixel column are replaced by the first, the lowest, the highest and the last of them.
+/// Pixels are whole numbers, so the line covers the same pixels as one through every point.
+struct Polylines {
+    std::vector<std::vector<Spot>> parts;
+    bool dense = false;  ///< several points fell into a column: a dash pattern would not be recognised
+};
+Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometry);
+
+/// The polylines through every point, for comparison.
+Polylines fullPolyline(const PlotSeries& series, const CScreenUtils& geometry);
+
+}  // namespace vorlan

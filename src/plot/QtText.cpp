@@ -1,0 +1,54 @@
+#include "plot/QtText.h"
+
+#include <QFontMetrics>
+#include <algorithm>
+#include <cmath>
+
+namespace vorlan {
+
+QFont qtFont(const FontDescription& font, double scale) {
+    QFont result(QString::fromStdString(font.face()));
+    result.setStyleHint(QFont::SansSerif);
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale))));
+    const int weight = font.weight();
+    result.setWeight(static_cast<QFont::Weight>(weight > 0 ? std::clamp(weight, 100, 900) : 400));
+    result.setItalic(font.italic());
+    result.setUnderline(font.underline());
+    result.setStrikeOut(font.strikeOut());
+    return result;
+}
+
+QFontMetrics QtTextMeasure::metrics(const FontDescription& font, double share) const {
+    return QFontMetrics(qtFont(font, fontScale_ * share), device_);
+}
+
+int QtTextMeasure::width(const std::string& text, const FontDescription& font, double share) const {
+    return text.empty() ? 0 : metrics(font, share).horizontalAdvance(QString::fromStdString(text));
+}
+
+int QtTextMeasure::height(const FontDescription& font, double share) const {
+    return metrics(font, share).height();
+}
+
+int QtTextMeasure::ascent(const FontDescription& font, double share) const {
+    return metrics(font, share).ascent();
+}
+
+void drawTexts(QPainter& painter, std::span<const PlacedText> texts, const TextMeasure& measure, double fontScale) {
+    for (const PlacedText& placed : texts) {
+        painter.setFont(qtFont(placed.font, fontScale * placed.share));
+        const QString text = QString::fromStdString(placed.text);
+        const int ascent = measure.ascent(placed.font, placed.share);
+        if (placed.upward) {
+            painter.save();
+            painter.translate(placed.box.left + ascent, placed.box.bottom);
+            painter.rotate(-90.0);
+            painter.drawText(QPoint(0, 0), text);
+            painter.restore();
+        } else {
+            painter.drawText(QPoint(placed.box.left, placed.box.top + ascent), text);
+        }
+    }
+}
+
+}  // namespace vorlan

@@ -1,0 +1,126 @@
+#include "plot/SLegend.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vorlan {
+
+namespace {
+
+constexpr int kSampleLength = 24;
+constexpr int kSampleGap = 4;  // between sample and text, and around the legend
+constexpr int kEntryGap = 12;  // between entries of one row
+constexpr int kLineGap = 2;
+
+class Composer {
+  public:
+    Composer(const Diagram& diagram, int maxWidth, const TextMeasure& measure, double lengthScale)
+        : font_(diagram.frame.legendFont),
+          maxWidth_(maxWidth),
+          measure_(measure),
+          scale_(lengthScale),
+          rows_(diagram.frame.legendPosition == static_cast<std::int32_t>(LegendPosition::Bottom)),
+          height_(measure.height(font_)) {
+        legend_.inPlotArea = !rows_;
+        x_ = y_ = scaled(kSampleGap);
+    }
+
+    SLegend compose(const Diagram& diagram) {
+        addTitle(diagram.frame.legendTitle);
+        for (const PlotSeries& series : diagram.plot.series) {
+            if (!series.attributes.legendText.empty()) {
+                addEntry(series);
+            }
+        }
+        legend_.box.right = right_ + scaled(kSampleGap);
+        legend_.box.bottom = y_ + height_ + scaled(kSampleGap);
+        return legend_;
+    }
+
+  private:
+    int scaled(int pixels) const { return static_cast<int>(std::lround(pixels * scale_)); }
+
+    PlacedText placed(const std::string& text, int left) const {
+        const int room = std::max(maxWidth_ - scaled(kSampleGap) - left, 0);
+        const std::string shown = shortened(text, font_, room, measure_);
+        return {shown, {left, y_, left + measure_.width(shown, font_), y_ + height_}, font_};
+    }
+
+    void nextLine() {
+        x_ = scaled(kSampleGap);
+        y_ += height_ + scaled(kLineGap);
+        lineIsEmpty_ = true;
+    }
+
+    void advance(int right) {
+        right_ = std::max(right_, right);
+        x_ = right + scaled(kEntryGap);
+        lineIsEmpty_ = false;
+    }
+
+    void addTitle(const std::string& title) {
+        if (title.find_first_not_of(' ') == std::string::npos) {
+            return;
+        }
+        legend_.title.push_back(placed(title, x_));
+        advance(legend_.title.back().box.right);
+    }
+
+    void addEntry(const PlotSeries& series) {
+        const SeriesAtrType& attributes = series.attributes;
+        double sample = kSampleLength;
+        if (attributes.style == SeriesStyle::Arrows && series.legendArrow > 0.0) {
+            sample = std::min(series.legendArrow * attributes.arrowScale, maxWidth_ / (2.0 * scale_));
+        }
+        const int sampleLength = static_cast<int>(std::lround(sample * scale_));
+        const int wanted = sampleLength + scaled(kSampleGap) + measure_.width(attributes.legendText, font_);
+        if (!lineIsEmpty_ && (!rows_ || x_ + wanted + scaled(kSampleGap) > maxWidth_)) {
+            nextLine();
+        }
+        SLegend::Entry entry;
+        entry.attributes = attributes;
+        entry.sampleStart = {x_, y_ + height_ / 2};
+        entry.sampleLength = sampleLength;
+        entry.text = placed(attributes.legendText, x_ + sampleLength + scaled(kSampleGap));
+        advance(entry.text.box.right);
+        legend_.entries.push_back(entry);
+    }
+
+    const FontDescription& font_;
+    int maxWidth_;
+    const TextMeasure& measure_;
+    double scale_;
+    bool rows_;
+    int height_;
+    SLegend legend_;
+    int x_ = 0;
+    int y_ = 0;
+    int right_ = 0;
+    bool lineIsEmpty_ = true;
+};
+
+}  // namespace
+
+void SLegend::move(int dx, int dy) {
+    box = box.moved(dx, dy);
+    for (PlacedText& text : title) {
+        text.box = text.box.moved(dx, dy);
+    }
+    for (Entry& entry : entries) {
+        entry.sampleStart = {entry.sampleStart.x + dx, entry.sampleStart.y + dy};
+        entry.text.box = entry.text.box.moved(dx, dy);
+    }
+}
+
+SLegend placeLegend(const Diagram& diagram, int maxWidth, const TextMeasure& measure, double lengthScale) {
+    const std::int32_t position = diagram.frame.legendPosition;
+    const bool wanted = position == static_cast<std::int32_t>(LegendPosition::Bottom) ||
+                        position == static_cast<std::int32_t>(LegendPosition::RightTop);
+    const auto hasText = [](const PlotSeries& series) { return !series.attributes.legendText.empty(); };
+    if (!wanted || std::none_of(diagram.plot.series.begin(), diagram.plot.series.end(), hasText)) {
+        return {};
+    }
+    return Composer(diagram, maxWidth, measure, lengthScale).compose(diagram);
+}
+
+}  // namespace vorlan

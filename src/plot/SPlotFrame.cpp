@@ -1,0 +1,378 @@
+#include "plot/SPlotFrame.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "model/Text.h"
+#include "plot/DataExtent.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr int kGap = 4;  // between pane edge, titles and labels
+constexpr int kSmallestWidth = 60;
+constexpr int kSmallestHeight = 40;
+constexpr int kLongestStroke = 200;
+constexpr int kMostTicks = 100;
+constexpr int kSmallestDecade = 4;  // pixels
+
+bool blank(const std::string& text) {
+    return text.find_first_not_of(' ') == std::string::npos;
+}
+
+// One layout in the making.
+class Composer {
+  public:
+    Composer(const Diagram& diagram, const TextMeasure& measure, double scale, const Box& pane)
+        : diagram_(diagram), frame_(diagram.frame), measure_(measure), scale_(scale), pane_(pane) {
+        out_.geometry.scaleType = SPlotFrame::effectiveScale(diagram);
+        logX_ = out_.geometry.logX();
+        logY_ = out_.geometry.logY();
+    }
+
+    FrameLayout compose() {
+        const std::optional<DataExtent> extent = dataExtent(diagram_.plot, logX_, logY_);
+        if (!extent) {
+            return std::move(out_);
+        }
+        out_.state = FrameLayout::State::TooSmall;
+        prepareAxes();
+        chooseLimits(*extent);
+        if (!placeVertically() || !fitY() || !placeHorizontally() || !fitX()) {
+            return std::move(out_);
+        }
+        finishAxes();
+        collectShapes();
+        addTitles();
+        placeLegendInPlotArea();
+        out_.state = FrameLayout::State::Drawn;
+        return std::move(out_);
+    }
+
+  private:
+    int scaled(int pixels) const { return static_cast<int>(std::lround(pixels * scale_)); }
+    int gap() const { return scaled(kGap); }
+    int strokeLength(int stored) const {
+        const int length = scaled(std::clamp(stored, 0, kLongestStroke));
+        return frame_.tickOrientation == 0 ? -length : length;
+    }
+    bool fullFrame() const { return frame_.frameStyle == 1; }
+    int outwardMark() const { return std::max(x_.markLength, 0); }
+
+    void prepareAxes() {
+        for (SAxis* axis : {&x_, &y_}) {
+            axis->tickLength = strokeLength(frame_.tickSize);
+            axis->markLength = strokeLength(frame_.markSize);
+            axis->ticksPerMark = std::clamp(frame_.ticksPerMark, 0, kMostTicks);
+            axis->labelOffset = scaled(std::clamp(frame_.labelOffset, 0, kLongestStroke));
+            axis->labelFont = frame_.labelFont;
+            axis->titleFont = frame_.axisTitleFont;
+            axis->gridMode = frame_.gridMode;
+            axis->gridPenWidth = frame_.gridPenWidth;
+            axis->gridPenStyle = frame_.gridLineStyle;
+            axis->gridColour = frame_.gridColour;
+        }
+        x_.side = static_cast<std::int32_t>(AxisSide::Bottom);
+        x_.decimalDigits = frame_.xDigits;
+        x_.title = frame_.xTitle;
+        y_.side = static_cast<std::int32_t>(AxisSide::Left);
+        y_.decimalDigits = frame_.yDigits;
+        y_.title = frame_.yTitle;
+        labelHeight_ = x_.markLength == 0 ? 0 : measure_.height(frame_.labelFont);
+    }
+
+    void chooseLimits(const DataExtent& extent) {
+        DataInterval times = extent.x;
+        if (diagram_.duration && frame_.xMinMode != 0) {
+            times.highest = frame_.xMin + *diagram_.duration;
+        }
+        const AxisRule xRule = xAxisRule(diagram_);
+        const AxisRule yRule = yAxisRule(frame_);
+        if (logX_) {
+            xLimits_ = logarithmicLimits(xRule, extent.x, (pane_.width()) / scaled(kSmallestDecade));
+            xAutomatic_ = false;
+        } else {
+            const LinearLimits chosen = linearLimits(xRule, times, kXManner);
+            xLimits_ = chosen.limits;
+            xAutomatic_ = chosen.automaticStep;
+        }
+        if (logY_) {
+            yLimits_ = logarithmicLimits(yRule, extent.y, (pane_.height() / 2) / scaled(kSmallestDecade));
+            yAutomatic_ = false;
+        } else {
+            const LinearLimits chosen = linearLimits(yRule, extent.y, kYManner);
+            yLimits_ = chosen.limits;
+            yAutomatic_ = chosen.automaticStep;
+        }
+    }
+
+    // Size of the labels of an axis before its length is known: those of its two ends.
+    int endLabelWidth(const SAxis& axis, const AxisLimits& limits, bool logarithmic) const {
+        SAxis ends = axis;
+        ends.side = static_cast<std::int32_t>(AxisSide::Bottom);
+        ends.minimum = limits.lower;
+        ends.markCount = 1;
+        ends.markStep = limits.upper - limits.lower;
+        ends.pixelsPerMark = pane_.width() + pane_.height();
+        if (logarithmic) {
+            ends.markCount = limits.marks;
+        }
+        int widest = 0;
+        if (logarithmic) {
+            const std::vector<PlacedText> texts = ends.logarithmicLabels(measure_).texts;
+            for (std::size_t i = 0; i + 1 < texts.size(); i += 2) {
+                widest = std::max(widest, texts[i + 1].box.right - texts[i].box.left);
+            }
+        } else {
+            for (const PlacedText& text : ends.linearLabels(measure_).texts) {
+                widest = std::max(widest, text.box.width());
+            }
+        }
+        return widest;
+    }
+
+    bool placeVertically() {
+        int top = pane_.top + gap();
+        if (!blank(frame_.plotTitle)) {
+            titleTop_ = top;
+            top += measure_.height(frame_.plotTitleFont) + gap();
+        }
+        top += std::max(labelHeight_ / 2, fullFrame() ? outwardMark() : 0);
+        int bottom = pane_.bottom - gap();
+        legend_ = placeLegend(diagram_, pane_.width() - 2 * gap(), measure_, scale_);
+        if (!legend_.empty() && !legend_.inPlotArea) {
+            bottom -= legend_.box.height();
+            legend_.move(0, bottom - legend_.box.top);
+        }
+        if (!blank(frame_.xTitle)) {
+            bottom -= measure_.height(frame_.axisTitleFont);
+            xTitleTop_ = bottom;
+            bottom -= gap();
+        }
+        bottom -= x_.labelOffset + outwardMark() + labelHeight_;
+        out_.geometry.originY = bottom;
+        out_.geometry.height = bottom - top;
+        return out_.geometry.height >= scaled(kSmallestHeight);
+    }
+
+    // The axis cut to whole pixels per mark. False when there is no room for one label.
+    bool fit(SAxis& axis, AxisLimits limits, bool automatic, int length, int labelSize) {
+        const int room = labelSize > 0 ? length / labelSize : length;
+        const bool tooFine = limits.marks > length;
+        if (automatic || tooFine) {
+            const int most = std::min(room, length);
+            limits = withMarks(limits, fittedMarks(limits.marks, most, !axis.horizontal()));
+        }
+        axis.minimum = limits.lower;
+        axis.maximum = limits.upper;
+        axis.markStep = limits.step;
+        axis.markCount = limits.marks;
+        axis.pixelsPerMark = length / limits.marks;
+        axis.length = axis.pixelsPerMark * limits.marks;
+        return room >= 1 && axis.pixelsPerMark >= 1;
+    }
+
+    bool fitY() { return fit(y_, yLimits_, yAutomatic_, out_.geometry.height, labelHeight_); }
+
+    bool placeHorizontally() {
+        const int xLabel = endLabelWidth(x_, xLimits_, logX_);
+        y_.originX = y_.originY = 0;
+        const AxisLabels labels = logY_ ? y_.logarithmicLabels(measure_) : y_.linearLabels(measure_);
+        int left = pane_.left + gap();
+        if (!blank(frame_.yTitle)) {
+            yTitleLeft_ = left;
+            left += measure_.height(frame_.axisTitleFont) + gap();
+        }
+        left = std::max(left + std::max(labels.room, outwardMark()), pane_.left + gap() + xLabel / 2);
+        int right = pane_.right - std::max(xLabel - xLabel / 2 + 1, gap());
+        right -= fullFrame() ? std::max(outwardMark() - xLabel / 2, 0) : 0;
+        out_.geometry.originX = left;
+        out_.geometry.width = right - left;
+        xLabelWidth_ = xLabel;
+        return out_.geometry.width >= scaled(kSmallestWidth);
+    }
+
+    bool fitX() { return fit(x_, xLimits_, xAutomatic_, out_.geometry.width, xLabelWidth_); }
+
+    void finishAxes() {
+        CScreenUtils& g = out_.geometry;
+        // Space that whole pixels per mark leave over goes to the sides of the plot area.
+        g.originY -= (g.height - y_.length) / 2;
+        g.width = x_.length;
+        g.height = y_.length;
+        g.xMin = x_.minimum;
+        g.xMax = x_.maximum;
+        g.yMin = y_.minimum;
+        g.yMax = y_.maximum;
+        g.xScale = logX_ ? x_.pixelsPerMark : x_.markStep / x_.pixelsPerMark;
+        g.yScale = logY_ ? y_.pixelsPerMark : y_.markStep / y_.pixelsPerMark;
+        x_.originX = y_.originX = g.originX;
+        x_.originY = y_.originY = g.originY;
+        x_.gridLength = g.height;
+        y_.gridLength = g.width;
+    }
+
+    static SAxis opposite(const SAxis& axis, int dx, int dy, AxisSide side) {
+        SAxis other = axis;
+        other.side = static_cast<std::int32_t>(side);
+        other.originX += dx;
+        other.originY += dy;
+        // Outside lies on the other side there.
+        other.tickLength = -axis.tickLength;
+        other.markLength = -axis.markLength;
+        return other;
+    }
+
+    void addStrokes(const SAxis& axis, bool logarithmic) {
+        const auto append = [this](const std::vector<Line>& lines) {
+            out_.strokes.insert(out_.strokes.end(), lines.begin(), lines.end());
+        };
+        out_.strokes.push_back(axis.axisLine());
+        if (axis.tickLength != 0) {
+            append(logarithmic ? axis.logarithmicTicks() : axis.linearTicks());
+        }
+        if (axis.markLength != 0) {
+            append(axis.marks());
+        }
+    }
+
+    void collectShapes() {
+        out_.axes = {x_, y_};
+        if (fullFrame()) {
+            out_.axes.push_back(opposite(x_, 0, -y_.length, AxisSide::Top));
+            out_.axes.push_back(opposite(y_, x_.length, 0, AxisSide::Right));
+        }
+        for (const SAxis& axis : out_.axes) {
+            const bool logarithmic = axis.horizontal() ? logX_ : logY_;
+            addStrokes(axis, logarithmic);
+            const AxisLabels labels = logarithmic ? axis.logarithmicLabels(measure_) : axis.linearLabels(measure_);
+            out_.texts.insert(out_.texts.end(), labels.texts.begin(), labels.texts.end());
+            const std::vector<Line> grid = logarithmic ? axis.logarithmicGrid() : axis.linearGrid();
+            out_.grid.insert(out_.grid.end(), grid.begin(), grid.end());
+        }
+    }
+
+    // Left edge of a text centred on the plot area, moved where the pane would cut it.
+    int centredLeft(int width) const {
+        const CScreenUtils& g = out_.geometry;
+        const int wanted = g.originX + (g.width - width) / 2;
+        return std::max(std::min(wanted, pane_.right - gap() - width), pane_.left + gap());
+    }
+
+    void addCentred(const std::string& title, const FontDescription& font, int top) {
+        const std::string shown = shortened(title, font, pane_.width() - 2 * gap(), measure_);
+        const int width = measure_.width(shown, font);
+        const int left = centredLeft(width);
+        out_.texts.push_back({shown, {left, top, left + width, top + measure_.height(font)}, font});
+    }
+
+    void addTitles() {
+        if (!blank(frame_.plotTitle)) {
+            addCentred(frame_.plotTitle, frame_.plotTitleFont, titleTop_);
+        }
+        if (!blank(frame_.xTitle)) {
+            addCentred(frame_.xTitle, frame_.axisTitleFont, xTitleTop_);
+        }
+        if (!blank(frame_.yTitle)) {
+            const FontDescription& font = frame_.axisTitleFont;
+            const std::string shown = shortened(frame_.yTitle, font, pane_.height() - 2 * gap(), measure_);
+            const int length = measure_.width(shown, font);
+            const int wanted = out_.geometry.originY - (out_.geometry.height - length) / 2;
+            const int bottom = std::min(std::max(wanted, pane_.top + gap() + length), pane_.bottom - gap());
+            out_.texts.push_back(
+                {shown, {yTitleLeft_, bottom - length, yTitleLeft_ + measure_.height(font), bottom}, font, 1.0, true});
+        }
+    }
+
+    void placeLegendInPlotArea() {
+        if (legend_.empty()) {
+            return;
+        }
+        const CScreenUtils& g = out_.geometry;
+        if (!legend_.inPlotArea) {
+            legend_.move(centredLeft(legend_.box.width()) - legend_.box.left, 0);
+            out_.legend = legend_;
+            return;
+        }
+        legend_ = placeLegend(diagram_, g.width - 2 * gap(), measure_, scale_);
+        const int inset = gap() + std::max(-x_.markLength, 0) * (fullFrame() ? 1 : 0);
+        legend_.move(g.originX + g.width - inset - legend_.box.width(), g.originY - g.height + inset);
+        const Box plotArea{g.originX, g.originY - g.height, g.originX + g.width, g.originY};
+        if (plotArea.encloses(legend_.box)) {
+            out_.legend = legend_;
+        }
+    }
+
+    const Diagram& diagram_;
+    const FrameAttributesType& frame_;
+    const TextMeasure& measure_;
+    double scale_;
+    Box pane_;
+    FrameLayout out_;
+    bool logX_ = false;
+    bool logY_ = false;
+    SAxis x_;
+    SAxis y_;
+    AxisLimits xLimits_;
+    AxisLimits yLimits_;
+    bool xAutomatic_ = true;
+    bool yAutomatic_ = true;
+    SLegend legend_;
+    int labelHeight_ = 0;
+    int xLabelWidth_ = 0;
+    int titleTop_ = 0;
+    int xTitleTop_ = 0;
+    int yTitleLeft_ = 0;
+};
+
+}  // namespace
+
+AxisRule xAxisRule(const Diagram& diagram) {
+    const FrameAttributesType& frame = diagram.frame;
+    AxisRule rule;
+    rule.lowerFromData = frame.xMinMode == 0;
+    // The axis-limit switch of a time series frees both ends of its time axis.
+    rule.upperFromData = frame.xMaxMode == 0 || (diagram.duration && frame.xMinMode == 0);
+    rule.lower = frame.xMin;
+    rule.upper = frame.xMax;
+    rule.stepGiven = frame.xStepMode != 0;
+    rule.step = frame.xStep;
+    return rule;
+}
+
+AxisRule yAxisRule(const FrameAttributesType& frame) {
+    AxisRule rule;
+    rule.lowerFromData = frame.yMinMode == 0;
+    rule.upperFromData = frame.yMaxMode == 0;
+    rule.lower = frame.yMin;
+    rule.upper = frame.yMax;
+    rule.stepGiven = frame.yStepMode != 0;
+    rule.step = frame.yStep;
+    return rule;
+}
+
+SPlotFrame::SPlotFrame(const Diagram& diagram, const TextMeasure& measure, double lengthScale)
+    : diagram_(diagram), measure_(measure), scale_(lengthScale) {}
+
+FrameLayout SPlotFrame::layout(const Box& pane) const {
+    return Composer(diagram_, measure_, scale_, pane).compose();
+}
+
+ScaleType SPlotFrame::effectiveScale(const Diagram& diagram) {
+    const auto needsLinear = [](const PlotSeries& series) {
+        return series.attributes.style == SeriesStyle::Bars || series.attributes.style == SeriesStyle::Arrows;
+    };
+    if (diagram.allowedScales.empty() ||
+        std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), needsLinear)) {
+        return ScaleType::Linear;
+    }
+    for (const ScaleType scale : diagram.allowedScales) {
+        if (static_cast<std::int32_t>(scale) == diagram.frame.scaleType) {
+            return scale;
+        }
+    }
+    return diagram.allowedScales.front();
+}
+
+}  // namespace vorlan

@@ -1,0 +1,175 @@
+#include "plot/STable.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "model/Archive.h"
+#include "model/Errors.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr double kSmallestShare = 0.6;
+constexpr int kTextGap = 6;  // kept free beside a row title
+constexpr char kDefaultFormat[] = "%.2f";
+
+// "%.<digits><f, e or g>": only what takes exactly one double.
+bool formatsOneNumber(const std::string& format) {
+    const std::size_t last = format.size() - 1;
+    return format.size() >= 4 && format.size() <= 5 && format.starts_with("%.") &&
+           format.find_first_not_of("0123456789", 2) == last &&
+           std::string("feg").find(format[last]) != std::string::npos;
+}
+
+void texts(Archive& archive, std::vector<std::string>& values) {
+    values.resize(archive.count(values.size(), 1));
+    for (std::string& value : values) {
+        archive.value(value);
+    }
+}
+
+const std::string& element(const std::vector<std::string>& values, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= values.size()) {
+        throw InvalidArgument();
+    }
+    return values[static_cast<std::size_t>(index)];
+}
+
+// The end of a row title names the probe, so a title that is too wide loses its middle.
+std::string shortenedInside(const std::string& text, const FontDescription& font, int width, const TextMeasure& measure,
+                            double share) {
+    if (measure.width(text, font, share) <= width) {
+        return text;
+    }
+    const std::size_t comma = text.rfind(", ");
+    if (comma == std::string::npos) {
+        return shortened(text, font, width, measure, share);
+    }
+    const std::string tail = text.substr(comma);
+    const std::string head =
+        shortened(text.substr(0, comma), font, width - measure.width(tail, font, share), measure, share);
+    return head.empty() ? shortened(text, font, width, measure, share) : head + tail;
+}
+
+}  // namespace
+
+STable::STable(const TableContent& content)
+    : title(content.title),
+      headers(content.headers),
+      formats(content.headers.empty() ? 0 : content.headers.size() - 1, content.numberFormat),
+      font(content.font) {
+    for (const TableContent::Row& row : content.rows) {
+        rowTitles.push_back(row.title);
+        rows.push_back(row.values);
+    }
+}
+
+void STable::Serialize(Archive& archive) {
+    archive.value(title);
+    texts(archive, headers);
+    texts(archive, rowTitles);
+    texts(archive, formats);
+    rows.resize(archive.count(rows.size(), sizeof(std::int32_t)));
+    for (std::vector<double>& row : rows) {
+        row.resize(archive.count(row.size(), sizeof(double)));
+        for (double& value : row) {
+            archive.value(value);
+        }
+    }
+    for (std::int32_t* v : {&left, &top, &tableWidth, &columnWidth, &rowHeight}) {
+        archive.value(*v);
+    }
+    archive.raw(font.bytes().data(), FontDescription::kSize);
+}
+
+const std::string& STable::header(int column) const {
+    return element(headers, column);
+}
+
+const std::string& STable::rowTitle(int row) const {
+    return element(rowTitles, row);
+}
+
+std::string STable::cell(int row, int column) const {
+    if (row < 0 || static_cast<std::size_t>(row) >= rows.size() || column < 0 ||
+        static_cast<std::size_t>(column) + 1 >= std::max<std::size_t>(headers.size(), 1)) {
+        throw InvalidArgument();
+    }
+    const std::size_t index = static_cast<std::size_t>(column);
+    const std::vector<double>& values = rows[static_cast<std::size_t>(row)];
+    if (index >= values.size()) {
+        return {};
+    }
+    const bool usable = index < formats.size() && formatsOneNumber(formats[index]);
+    const char* format = usable ? formats[index].c_str() : kDefaultFormat;
+    char buffer[420];  // the longest double with two-digit precision has 410 characters
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+    std::snprintf(buffer, sizeof buffer, format, values[index]);
+#pragma GCC diagnostic pop
+    return buffer;
+}
+
+int STable::firstColumnWidth(const TextMeasure& measure, double share) const {
+    int widest = 0;
+    for (const std::string& text : rowTitles) {
+        widest = std::max(widest, measure.width(text, font, share));
+    }
+    return std::clamp(widest + 2 * kTextGap, columnWidth, std::max(columnWidth, tableWidth / 2));
+}
+
+void STable::fitInto(const Box& box, const TextMeasure& measure) {
+    left = box.left;
+    top = box.top;
+    tableWidth = box.width();
+    columnWidth = tableWidth / static_cast<int>(std::max<std::size_t>(headers.size(), 1));
+    rowHeight = measure.height(font, fittingShare(box, measure));
+}
+
+double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
+    const int lines = 3 + 2 * static_cast<int>(rows.size());
+    const int needed = lines * measure.height(font);
+    return needed <= box.height() ? 1.0 : std::max(kSmallestShare, static_cast<double>(box.height()) / needed);
+}
+
+TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
+    TableShapes result;
+    const double share = fittingShare(box, measure);
+    const int height = measure.height(font, share);
+    const int firstWidth = firstColumnWidth(measure, share);
+    const int columns = static_cast<int>(headers.size());
+    const int otherWidth = columns > 1 ? (tableWidth - firstWidth) / (columns - 1) : tableWidth;
+    const auto add = [&](const std::string& text, int columnLeft, int width, int y) {
+        const std::string shown = shortenedInside(text, font, width, measure, share);
+        const int textWidth = measure.width(shown, font, share);
+        const int x = columnLeft + width / 2 - textWidth / 2;
+        if (!shown.empty()) {
+            result.texts.push_back({shown, {x, y, x + textWidth, y + height}, font, share});
+        }
+    };
+    const auto columnLeft = [&](int column) {
+        return column == 0 ? left : left + firstWidth + (column - 1) * otherWidth;
+    };
+    const auto columnSpan = [&](int column) { return column == 0 ? firstWidth : otherWidth; };
+
+    int y = top + rowHeight / 2;
+    add(title, left, tableWidth, y);
+    y += rowHeight + rowHeight / 2;
+    for (int column = 0; column < columns; ++column) {
+        add(header(column), columnLeft(column), columnSpan(column), y);
+    }
+    y += rowHeight;
+    for (int row = 0; row < static_cast<int>(rows.size()) && y + 2 * rowHeight <= box.bottom; ++row) {
+        y += rowHeight;
+        add(rowTitle(row), columnLeft(0), columnSpan(0), y - rowHeight / 2);
+        for (int column = 1; column < columns; ++column) {
+            add(cell(row, column - 1), columnLeft(column), columnSpan(column), y - rowHeight / 2);
+        }
+        y += rowHeight;
+        result.rules.push_back({{left, y}, {left + tableWidth, y}});
+    }
+    return result;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,157 @@
+#include "plot/SeriesShapes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "plot/DataExtent.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr double kSmallestHeadedShaft = 2.0;
+constexpr int kTextDistance = 6;
+
+bool placed(const PlotSeries& series, std::size_t i, const CScreenUtils& geometry, Spot& spot) {
+    const double x = series.x.at(i);
+    const double y = series.y[i];
+    if (!geometry.xPixels().places(x) || !geometry.yPixels().places(y)) {
+        return false;
+    }
+    spot = {geometry.xPixel(x), geometry.yPixel(y)};
+    return geometry.contains(spot.x, spot.y);
+}
+
+int rounded(double pixels) {
+    return static_cast<int>(std::lround(std::clamp(pixels, -kFarthestPixel, kFarthestPixel)));
+}
+
+}  // namespace
+
+std::vector<Spot> markerSpots(const PlotSeries& series, const CScreenUtils& geometry) {
+    std::vector<Spot> spots;
+    const std::size_t columns = static_cast<std::size_t>(geometry.width) + 1;
+    std::vector<bool> taken(columns * (static_cast<std::size_t>(geometry.height) + 1));
+    for (std::size_t i = 0; i < pointCount(series); ++i) {
+        Spot spot;
+        if (!placed(series, i, geometry, spot)) {
+            continue;
+        }
+        const std::size_t cell = static_cast<std::size_t>(geometry.originY - spot.y) * columns +
+                                 static_cast<std::size_t>(spot.x - geometry.originX);
+        if (!taken[cell]) {
+            taken[cell] = true;
+            spots.push_back(spot);
+        }
+    }
+    return spots;
+}
+
+std::vector<Line> markerLines(MarkerKind kind, const Spot& centre, int size) {
+    const int h = size / 2;
+    const int x = centre.x;
+    const int y = centre.y;
+    if (kind == MarkerKind::Plus) {
+        return {{{x - h, y}, {x + h, y}}, {{x, y + h}, {x, y - h}}};
+    }
+    if (kind == MarkerKind::Triangle) {
+        return {{{x - h, y + h}, {x + h, y + h}}, {{x - h, y + h}, {x, y - h}}, {{x, y - h}, {x + h, y + h}}};
+    }
+    return {};
+}
+
+Box markerBox(const Spot& centre, int size) {
+    const int h = size / 2;
+    return {centre.x - h, centre.y - h, centre.x + h + 1, centre.y + h + 1};
+}
+
+std::vector<Box> barBoxes(const PlotSeries& series, const CScreenUtils& geometry) {
+    std::vector<Box> boxes;
+    const double gap = series.attributes.barGapPercent;
+    const std::size_t edges = series.x.values.empty() ? series.y.size() : series.x.values.size();
+    if (gap > 100.0 || edges < 2 || geometry.logX() || geometry.logY()) {
+        return boxes;
+    }
+    const double grade = std::trunc((series.x.at(1) - series.x.at(0)) / geometry.xScale);
+    const int halfGap = rounded(std::trunc(grade * std::max(gap, 0.0) / 200.0));
+    const std::size_t bars = std::min(series.y.size(), edges - 1);
+    for (std::size_t i = 0; i < bars; ++i) {
+        if (std::isfinite(series.y[i])) {
+            boxes.push_back({geometry.xPixel(series.x.at(i)) + halfGap, geometry.yPixel(series.y[i]),
+                             geometry.xPixel(series.x.at(i + 1)) - halfGap, geometry.originY});
+        }
+    }
+    return boxes;
+}
+
+Arrow arrowShape(const Spot& start, const Spot& end, double headLength, double headAngle) {
+    Arrow arrow{{start, end}, {}};
+    const double dx = end.x - start.x;
+    const double dy = end.y - start.y;
+    const double shaft = std::hypot(dx, dy);
+    if (shaft < kSmallestHeadedShaft) {
+        return arrow;
+    }
+    const double stroke = std::min(headLength, shaft / 2.0);
+    const double direction = std::atan2(dy, dx);
+    for (const double side : {-1.0, 1.0}) {
+        const double angle = direction + std::numbers::pi + side * headAngle * std::numbers::pi / 180.0;
+        arrow.head.push_back(
+            {end, {end.x + rounded(stroke * std::cos(angle)), end.y + rounded(stroke * std::sin(angle))}});
+    }
+    return arrow;
+}
+
+std::vector<Arrow> arrows(const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
+    std::vector<Arrow> result;
+    const SeriesAtrType& attributes = series.attributes;
+    const double scale = attributes.arrowScale * lengthScale;
+    const std::size_t n = std::min({pointCount(series), series.vx.size(), series.vy.size()});
+    for (std::size_t i = 0; i < n; ++i) {
+        const double dx = series.vx[i] * scale;
+        const double dy = series.vy[i] * scale;
+        Spot start;
+        if (!std::isfinite(dx) || !std::isfinite(dy) || !placed(series, i, geometry, start)) {
+            continue;
+        }
+        result.push_back(arrowShape(start, {start.x + rounded(dx), start.y - rounded(dy)},
+                                    attributes.arrowHeadLength * lengthScale, attributes.arrowHeadAngle));
+    }
+    return result;
+}
+
+std::vector<PlacedText> pointTexts(const Diagram& diagram, const CScreenUtils& geometry, const TextMeasure& measure,
+                                   double lengthScale) {
+    std::vector<PlacedText> texts;
+    const FontDescription& font = diagram.frame.labelFont;
+    const int distance = rounded(kTextDistance * lengthScale);
+    const int height = measure.height(font);
+    const Box plotArea{geometry.originX, geometry.originY - geometry.height, geometry.originX + geometry.width,
+                       geometry.originY};
+    for (const Diagram::PointLabel& label : diagram.labels) {
+        if (!geometry.xPixels().places(label.x) || !geometry.yPixels().places(label.y)) {
+            continue;
+        }
+        const int x = geometry.xPixel(label.x);
+        const int y = geometry.yPixel(label.y);
+        if (!geometry.contains(x, y)) {
+            continue;
+        }
+        const int width = measure.width(label.text, font);
+        const Box atPoint{x, y - height / 2, x + width, y - height / 2 + height};
+        const Box sides[] = {atPoint.moved(distance, 0), atPoint.moved(-distance - width, 0),
+                             atPoint.moved(-width / 2, -height / 2 - distance),
+                             atPoint.moved(-width / 2, height / 2 + distance)};
+        const auto free = [&](const Box& box) {
+            return plotArea.encloses(box) && std::none_of(texts.begin(), texts.end(), [&](const PlacedText& text) {
+                       return text.box.overlaps(box);
+                   });
+        };
+        const auto* chosen = std::find_if(std::begin(sides), std::end(sides), free);
+        texts.push_back({label.text, chosen == std::end(sides) ? sides[0] : *chosen, font});
+    }
+    return texts;
+}
+
+}  // namespace vorlan
