@@ -1,0 +1,112 @@
+#include "ui/CVorl_ADVApp.h"
+
+#include <QPainter>
+#include <QStandardPaths>
+#include <QTimer>
+#include <clocale>
+
+#include "model/Workspace.h"
+#include "ui/DocumentTypeRegistration.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr int kSplashMilliseconds = 900;
+
+const QString kHelp = QStringLiteral(
+    "Usage: vorlan [WORKSPACE.avp]\n"
+    "\n"
+    "Turbulence analysis of velocity records measured by acoustic Doppler velocimeters.\n"
+    "Without a workspace the program starts with an empty one.\n"
+    "\n"
+    "  -h, --help       print this help and leave\n"
+    "  -v, --version    print the version and leave\n"
+    "\n"
+    "vorlan-batch runs the same commands without a window.\n");
+
+QPixmap splashPicture() {
+    QPixmap picture(420, 180);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setPen(QColor(0, 0, 192));
+    painter.drawRect(0, 0, picture.width() - 1, picture.height() - 1);
+    QFont font = painter.font();
+    font.setPixelSize(48);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.drawText(QRect(0, 30, picture.width(), 70), Qt::AlignCenter, QStringLiteral("Vorlan"));
+    font.setPixelSize(15);
+    font.setBold(false);
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(0, 105, picture.width(), 24), Qt::AlignCenter,
+                     QStringLiteral("Turbulence analysis of velocity records"));
+    painter.setPen(Qt::darkGray);
+    painter.drawText(QRect(0, 140, picture.width(), 24), Qt::AlignCenter, QString::fromLatin1(kVersionText));
+    return picture;
+}
+
+}  // namespace
+
+CommandLine readCommandLine(const QStringList& arguments) {
+    CommandLine line;
+    bool options = true;
+    for (const QString& argument : arguments.mid(1)) {
+        if (options && argument == QLatin1String("--")) {
+            options = false;
+        } else if (options && (argument == QLatin1String("--help") || argument == QLatin1String("-h"))) {
+            line.message = kHelp;
+            return line;
+        } else if (options && (argument == QLatin1String("--version") || argument == QLatin1String("-v"))) {
+            line.message =
+                QStringLiteral("Vorlan %1\n").arg(QString::fromLatin1(kVersionText).section(QLatin1Char(' '), 1));
+            return line;
+        } else if (options && argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
+            line.message = QStringLiteral("vorlan: unknown option %1\n").arg(argument) + kHelp;
+            line.status = 2;
+            return line;
+        } else if (line.workspace.has_value()) {
+            line.message = QStringLiteral("vorlan: one workspace only\n") + kHelp;
+            line.status = 2;
+            return line;
+        } else {
+            line.workspace = argument;
+        }
+    }
+    return line;
+}
+
+CVorl_ADVApp::CVorl_ADVApp(int& argc, char** argv) : QApplication(argc, argv) {
+    // Numbers are read and written with a point, whatever the desktop's language.
+    std::setlocale(LC_NUMERIC, "C");
+    setOrganizationName(QStringLiteral("Brimsel"));
+    setApplicationName(QStringLiteral("Vorlan"));
+    setDesktopFileName(QStringLiteral("vorlan"));
+}
+
+void CVorl_ADVApp::start(const std::optional<QString>& workspace) {
+    const bool onScreen = platformName() != QLatin1String("offscreen");
+    if (onScreen) {
+        showSplash();
+        registerDocumentType(applicationFilePath(),
+                             QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    }
+    frame_ = std::make_unique<CMainFrame>();
+    frame_->show();
+    if (splash_) {
+        splash_->raise();
+    }
+    if (workspace.has_value()) {
+        frame_->files().openPath(*workspace);
+    }
+}
+
+void CVorl_ADVApp::showSplash() {
+    splash_ = std::make_unique<QSplashScreen>(splashPicture());
+    splash_->show();
+    processEvents();
+    QTimer::singleShot(kSplashMilliseconds, this, [this] { splash_.reset(); });
+}
+
+}  // namespace vorlan

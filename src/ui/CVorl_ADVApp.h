@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QApplication>
+#include <QSplashScreen>
+#include <memory>
+#include <optional>
+
+#include "ui/frame/CMainFrame.h"
+
+namespace vorlan {
+
+/// What the program was started with.
+struct CommandLine {
+    std::optional<QString> workspace;
+    /// Set when the program has nothing to start: the text to print and the exit status.
+    std::optional<QString> message;
+    int status = 0;
+};
+
+/// Reads the command line: an optional workspace, --help, --version. Needs no display.
+CommandLine readCommandLine(const QStringList& arguments);
+
+/// The application: starts the program, registers the workspace type, shows the window.
+class CVorl_ADVApp : public QApplication {
+    Q_OBJECT
+
+  public:
+    CVorl_ADVApp(int& argc, char** argv);
+
+    CMainFrame& frame() { return *frame_; }
+    /// Shows the window and, when one is named, opens the workspace in it.
+    void start(const std::optional<QString>& workspace);
+
+  private:
+    void showSplash();
+
+    std::unique_ptr<CMainFrame> frame_;
+    std::unique_ptr<QSplashScreen> splash_;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,9 @@
+#pragma once
+
+class QWidget;
+
+namespace vorlan {
+
+void showAboutBox(QWidget& parent);
+
+}  // namespace vorlan

@@ -1,0 +1,270 @@
+#include "ui/frame/CMainFrame.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "stages/PaneDescription.h"
+#include "ui/frame/MenuTable.h"
+
+namespace vorlan {
+
+namespace {
+
+// The first workspace among dropped files; others are ignored.
+QString droppedWorkspace(const QMimeData& data) {
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile() && url.fileName().endsWith(QLatin1String(".avp"), Qt::CaseInsensitive)) {
+            return url.toLocalFile();
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+CMainFrame::CMainFrame(QWidget* parent)
+    : QMainWindow(parent),
+      port_(*this, platformBoxes_),
+      document_(port_),
+      files_(document_, *this),
+      actions_(new CommandActions(*menuBar(), this)),
+      selectionBar_(new SelectionBar(this)),
+      tabs_(new StageTabs(this)),
+      panes_(new PaneGrid(this)),
+      statusPane_(new StatusPane(this)),
+      commands_(document_, files_, *panes_, *this) {
+    setAcceptDrops(true);
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 2, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(tabs_);
+    layout->addWidget(panes_, 1);
+    setCentralWidget(centre);
+    buildBars();
+    buildShortcuts();
+    connectWidgets();
+    setBoxes(platformBoxes_);
+    resize(1200, 800);
+    documentChanged(Change::Workspace);
+    actions_->setRecentFiles(files_.recentPaths());
+}
+
+void CMainFrame::setBoxes(UserBoxes& boxes) {
+    port_.setBoxes(boxes);
+    files_.setBoxes(boxes);
+    commands_.setBoxes(boxes);
+}
+
+void CMainFrame::buildBars() {
+    addToolBar(selectionBar_);
+    addToolBarBreak();
+    spectralBar_ = addToolBar(QStringLiteral("Spectral Analysis"));
+    spectralBar_->setObjectName(QStringLiteral("SpectralBar"));
+    spectralBar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const Command command : spectralToolbarCommands()) {
+        spectralBar_->addAction(actions_->of(command));
+    }
+    statusBar()->addWidget(statusPane_, 1);
+    port_.setStatusPane(statusPane_);
+
+    const auto bindSwitch = [this](Command command, QWidget* bar) {
+        QAction* action = actions_->of(command);
+        action->setChecked(true);
+        connect(action, &QAction::toggled, bar, &QWidget::setVisible);
+    };
+    bindSwitch(Command::SelectionToolbar, selectionBar_);
+    bindSwitch(Command::SpectralToolbar, spectralBar_);
+    bindSwitch(Command::StatusBar, statusBar());
+    // The bars' own context menu and close handles would bypass the View menu.
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+void CMainFrame::buildShortcuts() {
+    const auto bind = [this](const char* keys, auto handler) {
+        connect(new QShortcut(QKeySequence(QString::fromLatin1(keys)), this), &QShortcut::activated, this, handler);
+    };
+    const auto stepTab = [this](int step) {
+        if (tabs_->count() > 0 && !document_.IsRunning()) {
+            tabs_->setCurrentIndex((tabs_->currentIndex() + step + tabs_->count()) % tabs_->count());
+        }
+    };
+    bind("Ctrl+Tab", [stepTab] { stepTab(1); });
+    bind("Ctrl+Shift+Tab", [stepTab] { stepTab(-1); });
+    bind("F6", [this] { cyclePane(1); });
+    bind("Shift+F6", [this] { cyclePane(-1); });
+}
+
+void CMainFrame::connectWidgets() {
+    commands_.setStatusFunction([this](const QString& text) { statusPane_->setText(text); });
+    document_.SetListener([this](Change change) { documentChanged(change); });
+    port_.setRunListener([this](bool running) { runStateChanged(running); });
+    connect(actions_, &CommandActions::triggered, this, &CMainFrame::runCommand);
+    connect(actions_, &CommandActions::recentChosen, &files_, &WorkspaceFiles::openRecent);
+    connect(&files_, &WorkspaceFiles::recentListChanged, this,
+            [this] { actions_->setRecentFiles(files_.recentPaths()); });
+    connect(selectionBar_, &SelectionBar::fileChosen, this, [this](int index) { document_.SelectFile(index); });
+    connect(selectionBar_, &SelectionBar::probeChosen, this, [this](int index) { document_.SelectProbe(index); });
+    connect(selectionBar_, &SelectionBar::valueChosen, this,
+            [this](PhysicalValue value) { document_.SelectPhysicalValue(value); });
+    connect(selectionBar_, &SelectionBar::paneChosen, this, [this](Pane pane) { document_.SelectActivePane(pane); });
+    connect(tabs_, &StageTabs::stageChosen, this, [this](int index) { document_.SelectStage(index); });
+    for (CVorl_ADVView* view : panes_->views()) {
+        connect(view, &CVorl_ADVView::activated, this, [this](Pane pane) {
+            if (!document_.IsRunning() && document_.ActivePane() != pane) {
+                document_.SelectActivePane(pane);
+            }
+        });
+        connect(view, &CVorl_ADVView::cursorMoved, this, &CMainFrame::showCursorValues);
+        connect(view, &CVorl_ADVView::cursorLeft, this, [this] {
+            if (!document_.IsRunning()) {
+                statusPane_->setText(QStringLiteral("Ready"));
+            }
+        });
+        connect(view, &CVorl_ADVView::menuRequested, this, &CMainFrame::showPaneMenu);
+        connect(view, &CVorl_ADVView::intervalDragged, this, &CMainFrame::showDraggedInterval);
+        connect(view, &CVorl_ADVView::intervalChosen, this, &CMainFrame::clipToInterval);
+    }
+}
+
+void CMainFrame::runCommand(Command command) {
+    if (commandState(document_, command).enabled) {
+        commands_.run(command);
+    }
+    refreshCommands();
+}
+
+void CMainFrame::documentChanged(Change change) {
+    if (change != Change::View) {
+        panes_->describe(document_);
+    }
+    selectionBar_->refresh(document_);
+    tabs_->refresh(document_);
+    panes_->setActivePane(document_.ActivePane());
+    panes_->view(Pane::LeftTop)
+        .setIntervalSelection(document_.HasProbe() && document_.Probe().zoomMode != 0 &&
+                              document_.CurrentStage() == Stage::PreProcessing);
+    refreshCommands();
+    refreshTitle();
+}
+
+void CMainFrame::refreshCommands() {
+    actions_->update(document_);
+}
+
+void CMainFrame::refreshTitle() {
+    setWindowTitle(QStringLiteral("%1[*] - Vorlan").arg(files_.documentName()));
+    setWindowModified(document_.IsModified());
+}
+
+void CMainFrame::runStateChanged(bool running) {
+    selectionBar_->refresh(document_);
+    tabs_->refresh(document_);
+    refreshCommands();
+    if (running) {
+        return;
+    }
+    // What the user asked for while nothing could be done, once the command has ended.
+    QTimer::singleShot(0, this, [this] {
+        if (document_.IsRunning()) {
+            return;
+        }
+        if (!dropWhenDone_.isEmpty()) {
+            files_.openPath(std::exchange(dropWhenDone_, QString()));
+        }
+        if (std::exchange(closeWhenDone_, false)) {
+            close();
+        }
+    });
+}
+
+void CMainFrame::showCursorValues(Pane pane, QPoint position) {
+    const CVorl_ADVView& view = panes_->view(pane);
+    if (document_.IsRunning() || !view.geometry().has_value()) {
+        return;
+    }
+    const std::string text =
+        readOut(document_.CurrentStage(), pane, document_.CurrentValue(), *view.geometry(), position.x(), position.y());
+    statusPane_->setText(text.empty() ? QStringLiteral("Ready") : QString::fromStdString(text));
+}
+
+void CMainFrame::showDraggedInterval(Pane pane, int fromX, int toX) {
+    const CVorl_ADVView& view = panes_->view(pane);
+    if (view.geometry().has_value()) {
+        statusPane_->setText(
+            QString::fromStdString(dragReadOut(document_.CurrentStage(), pane, *view.geometry(), fromX, toX)));
+    }
+}
+
+void CMainFrame::clipToInterval(Pane pane, int fromX, int toX) {
+    const CVorl_ADVView& view = panes_->view(pane);
+    if (!document_.IsRunning() && view.geometry().has_value()) {
+        const CScreenUtils geometry = *view.geometry();
+        document_.Clip(geometry.xValue(fromX), geometry.xValue(toX));
+    }
+}
+
+void CMainFrame::showPaneMenu(Pane pane, QPoint globalPosition) {
+    QMenu menu(this);
+    for (const Command command : {Command::BitmapCopy, Command::Print, Command::PlotFrameOptions}) {
+        menu.addAction(actions_->of(command));
+    }
+    if (document_.CurrentStage() == Stage::Spectral && pane != Pane::RightBottom) {
+        menu.addSeparator();
+        for (const Command command : {Command::ExtractDissipationRate, Command::ExtractScales,
+                                      Command::TriangleSpectrum, Command::TriangleStructure}) {
+            if (actions_->of(command)->isEnabled()) {
+                menu.addAction(actions_->of(command));
+            }
+        }
+    }
+    menu.exec(globalPosition);
+}
+
+void CMainFrame::cyclePane(int step) {
+    if (document_.IsRunning()) {
+        return;
+    }
+    // Clockwise, as the panes stand on the screen.
+    constexpr std::array<Pane, kPaneCount> order = {Pane::LeftTop, Pane::RightTop, Pane::RightBottom, Pane::LeftBottom};
+    const auto here = std::find(order.begin(), order.end(), document_.ActivePane()) - order.begin();
+    panes_->view(order[static_cast<std::size_t>((here + step + kPaneCount) % kPaneCount)]).setFocus();
+}
+
+void CMainFrame::closeEvent(QCloseEvent* event) {
+    if (document_.IsRunning()) {
+        closeWhenDone_ = true;
+        event->ignore();
+        return;
+    }
+    event->setAccepted(files_.mayLeave());
+}
+
+void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedWorkspace(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void CMainFrame::dropEvent(QDropEvent* event) {
+    const QString path = droppedWorkspace(*event->mimeData());
+    if (path.isEmpty()) {
+        return;
+    }
+    event->acceptProposedAction();
+    if (document_.IsRunning()) {
+        dropWhenDone_ = path;
+        return;
+    }
+    files_.openPath(path);
+}
+
+}  // namespace vorlan

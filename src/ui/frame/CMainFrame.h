@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "app/CVorl_ADVDoc.h"
+#include "ui/frame/CommandActions.h"
+#include "ui/frame/PaneGrid.h"
+#include "ui/frame/SelectionBar.h"
+#include "ui/frame/StageTabs.h"
+#include "ui/frame/StatusPane.h"
+#include "ui/frame/UserBoxes.h"
+#include "ui/frame/UserCommands.h"
+#include "ui/frame/WindowPort.h"
+#include "ui/frame/WorkspaceFiles.h"
+
+namespace vorlan {
+
+/// The main window: menus, selectors, stage tabs, four panes, status bar, and the document they show.
+class CMainFrame : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit CMainFrame(QWidget* parent = nullptr);
+
+    CVorl_ADVDoc& document() { return document_; }
+    CommandActions& actions() { return *actions_; }
+    UserCommands& commands() { return commands_; }
+    WorkspaceFiles& files() { return files_; }
+    PaneGrid& panes() { return *panes_; }
+    StatusPane& statusPane() { return *statusPane_; }
+    /// Puts other boxes in the place of the platform's.
+    void setBoxes(UserBoxes& boxes);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void buildBars();
+    void buildShortcuts();
+    void connectWidgets();
+    void runCommand(Command command);
+    void documentChanged(Change change);
+    void runStateChanged(bool running);
+    void refreshCommands();
+    void refreshTitle();
+    void showCursorValues(Pane pane, QPoint position);
+    void showDraggedInterval(Pane pane, int fromX, int toX);
+    void clipToInterval(Pane pane, int fromX, int toX);
+    void showPaneMenu(Pane pane, QPoint globalPosition);
+    void cyclePane(int step);
+
+    UserBoxes platformBoxes_;
+    WindowPort port_;
+    CVorl_ADVDoc document_;
+    WorkspaceFiles files_;
+    CommandActions* actions_;
+    SelectionBar* selectionBar_;
+    QToolBar* spectralBar_ = nullptr;
+    StageTabs* tabs_;
+    PaneGrid* panes_;
+    StatusPane* statusPane_;
+    UserCommands commands_;
+    bool closeWhenDone_ = false;
+    QString dropWhenDone_;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAction>
+#include <QMenuBar>
+#include <QObject>
+#include <array>
+
+#include "app/CommandState.h"
+
+namespace vorlan {
+
+/// The actions of all commands, built from the menu table, and the menu bar that shows them.
+class CommandActions : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Fills menuBar. The recent workspaces stand where the menu table places them.
+    CommandActions(QMenuBar& menuBar, QObject* parent);
+
+    QAction* of(Command command) const { return actions_[static_cast<std::size_t>(command)]; }
+    /// Enables and checks every action as the document says. The window's own switches keep their check marks.
+    void update(const CVorl_ADVDoc& document);
+    void setRecentFiles(const QStringList& paths);
+
+  Q_SIGNALS:
+    void triggered(vorlan::Command command);
+    void recentChosen(const QString& path);
+
+  private:
+    QAction* makeAction(const struct MenuItem& item);
+
+    std::array<QAction*, kCommandCount> actions_{};
+    QMenu* recentMenuOwner_ = nullptr;
+    QAction* recentPlace_ = nullptr;
+    QList<QAction*> recent_;
+};
+
+}  // namespace vorlan

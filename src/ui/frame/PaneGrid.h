@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "app/CVorl_ADVDoc.h"
+#include "ui/views/CVorl_ADVView.h"
+
+class QSplitter;
+
+namespace vorlan {
+
+/// The four panes, one per quarter, with movable borders between them.
+class PaneGrid : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PaneGrid(QWidget* parent = nullptr);
+
+    CVorl_ADVView& view(Pane pane) const { return *views_[static_cast<std::size_t>(pane)]; }
+    const std::array<CVorl_ADVView*, kPaneCount>& views() const { return views_; }
+    /// Gives every pane what it shows now.
+    void describe(const CVorl_ADVDoc& document);
+    void setActivePane(Pane pane);
+
+  private:
+    std::array<CVorl_ADVView*, kPaneCount> views_{};
+};
+
+}  // namespace vorlan

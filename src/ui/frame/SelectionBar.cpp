@@ -1,0 +1,87 @@
+#include "ui/frame/SelectionBar.h"
+
+#include <QLabel>
+#include <QSignalBlocker>
+
+#include "model/ProbeInformation.h"
+#include "model/Text.h"
+
+namespace vorlan {
+
+namespace {
+
+void fill(QComboBox& selector, const QStringList& texts, int index) {
+    const QSignalBlocker quiet(selector);
+    QStringList shown;
+    for (int i = 0; i < selector.count(); ++i) {
+        shown.append(selector.itemText(i));
+    }
+    if (shown != texts) {
+        selector.clear();
+        selector.addItems(texts);
+    }
+    selector.setCurrentIndex(index);
+}
+
+}  // namespace
+
+SelectionBar::SelectionBar(QWidget* parent) : QToolBar(QStringLiteral("Data Selection"), parent) {
+    setObjectName(QStringLiteral("SelectionBar"));
+    files_ = addSelector(QStringLiteral("Data &files:"), QStringLiteral("Data files"), 22);
+    probes_ = addSelector(QStringLiteral("Pro&bes:"), QStringLiteral("Probes"), 10);
+    values_ = addSelector(QStringLiteral("Physical &values:"), QStringLiteral("Physical values"), 10);
+    panes_ = addSelector(QStringLiteral("A&ctive view:"), QStringLiteral("Active view"), 12);
+    values_->addItems({QStringLiteral("Velocities"), QStringLiteral("Stresses")});
+    for (const char* text : kPaneTexts) {
+        panes_->addItem(QString::fromUtf8(text));
+    }
+    // "activated" speaks only of the user's choices.
+    connect(files_, &QComboBox::activated, this, &SelectionBar::fileChosen);
+    connect(probes_, &QComboBox::activated, this, &SelectionBar::probeChosen);
+    connect(values_, &QComboBox::activated, this,
+            [this](int index) { Q_EMIT valueChosen(static_cast<PhysicalValue>(index)); });
+    connect(panes_, &QComboBox::activated, this, [this](int index) { Q_EMIT paneChosen(static_cast<Pane>(index)); });
+}
+
+QComboBox* SelectionBar::addSelector(const QString& label, const QString& toolTip, int characters) {
+    auto* selector = new QComboBox(this);
+    selector->setObjectName(toolTip);
+    selector->setToolTip(toolTip);
+    selector->setAccessibleName(toolTip);
+    selector->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    selector->setMinimumContentsLength(characters);
+    auto* caption = new QLabel(label, this);
+    caption->setBuddy(selector);
+    caption->setContentsMargins(6, 0, 3, 0);
+    addWidget(caption);
+    addWidget(selector);
+    return selector;
+}
+
+void SelectionBar::refresh(const CVorl_ADVDoc& document) {
+    QStringList fileTexts;
+    for (const SAdvFile& file : document.GetWorkspace().dataFiles.files) {
+        fileTexts.append(QString::fromStdString(utf8Text(file.fileName)));
+    }
+    QStringList probeTexts;
+    if (document.HasFile()) {
+        for (const SAdvProbe& probe : document.File().probes) {
+            probeTexts.append(QString::fromStdString(probeListText(probe)));
+        }
+    }
+    fill(*files_, fileTexts, document.ActiveFile());
+    fill(*probes_, probeTexts, document.ActiveProbe());
+    {
+        const QSignalBlocker quietValues(values_);
+        const QSignalBlocker quietPanes(panes_);
+        values_->setCurrentIndex(static_cast<int>(document.CurrentValue()));
+        panes_->setCurrentIndex(static_cast<int>(document.ActivePane()));
+    }
+    const bool free = !document.IsRunning();
+    files_->setEnabled(free);
+    probes_->setEnabled(free && document.HasFile());
+    values_->setEnabled(free);
+    panes_->setEnabled(free);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTabBar>
+
+#include "app/CVorl_ADVDoc.h"
+
+namespace vorlan {
+
+/// The stage tabs of the active probe.
+class StageTabs : public QTabBar {
+    Q_OBJECT
+
+  public:
+    explicit StageTabs(QWidget* parent = nullptr);
+
+    void refresh(const CVorl_ADVDoc& document);
+
+  Q_SIGNALS:
+    /// The user picked a tab.
+    void stageChosen(int tabIndex);
+
+  private:
+    bool refreshing_ = false;
+};
+
+}  // namespace vorlan

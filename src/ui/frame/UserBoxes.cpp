@@ -1,0 +1,71 @@
+#include "ui/frame/UserBoxes.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace vorlan {
+
+namespace {
+
+const QString kCaption = QStringLiteral("Vorlan");
+const QString kWorkspaceFilter = QStringLiteral("Vorlan Files (*.avp)");
+
+QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& text,
+                                 QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, kCaption, text, buttons, parent);
+    // Paths and numbers in the text are no markup.
+    box.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+QString chooseToSave(QWidget* parent, const QString& title, const QString& proposed, const QString& filters,
+                     const QString& suffix, QFileDialog::Options options) {
+    QFileDialog dialog(parent, title, QFileInfo(proposed).path(), filters);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.setOptions(options);
+    dialog.selectFile(QFileInfo(proposed).fileName());
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return dialog.selectedFiles().value(0);
+}
+
+}  // namespace
+
+bool UserBoxes::confirm(QWidget* parent, const QString& text) {
+    return show(parent, QMessageBox::Question, text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+void UserBoxes::refuse(QWidget* parent, const QString& text) {
+    show(parent, QMessageBox::Critical, text, QMessageBox::Ok);
+}
+
+UserBoxes::SaveAnswer UserBoxes::askToSave(QWidget* parent, const QString& name) {
+    switch (show(parent, QMessageBox::Warning, QStringLiteral("Save changes to %1?").arg(name),
+                 QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
+        case QMessageBox::Yes:
+            return SaveAnswer::Save;
+        case QMessageBox::No:
+            return SaveAnswer::Discard;
+        default:
+            return SaveAnswer::Cancel;
+    }
+}
+
+QString UserBoxes::chooseWorkspaceToOpen(QWidget* parent, const QString& folder) {
+    return QFileDialog::getOpenFileName(parent, QStringLiteral("Open"), folder, kWorkspaceFilter);
+}
+
+QString UserBoxes::chooseWorkspaceToSave(QWidget* parent, const QString& proposed) {
+    return chooseToSave(parent, QStringLiteral("Save As"), proposed, kWorkspaceFilter, QStringLiteral("avp"), {});
+}
+
+QString UserBoxes::chooseExport(QWidget* parent, const QString& proposed) {
+    return chooseToSave(parent, QStringLiteral("Export Data"), proposed,
+                        QStringLiteral("Export Files (*.dat);;All Files (*.*)"), QStringLiteral("dat"),
+                        QFileDialog::DontConfirmOverwrite);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace vorlan {
+
+/// The boxes that the window asks its user with. Tests put answers in their place.
+class UserBoxes {
+  public:
+    enum class SaveAnswer { Save, Discard, Cancel };
+
+    virtual ~UserBoxes() = default;
+    /// Question icon, OK and Cancel.
+    virtual bool confirm(QWidget* parent, const QString& text);
+    /// Stop icon, OK.
+    virtual void refuse(QWidget* parent, const QString& text);
+    /// "Save changes to %1?" with Yes, No and Cancel.
+    virtual SaveAnswer askToSave(QWidget* parent, const QString& name);
+    /// Chosen path, empty when cancelled.
+    virtual QString chooseWorkspaceToOpen(QWidget* parent, const QString& folder);
+    virtual QString chooseWorkspaceToSave(QWidget* parent, const QString& proposed);
+    /// No prompt before an existing file is overwritten.
+    virtual QString chooseExport(QWidget* parent, const QString& proposed);
+};
+
+}  // namespace vorlan

@@ -1,0 +1,244 @@
+#include "ui/frame/UserCommands.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <ctime>
+#include <ostream>
+
+#include "export/WriteExport.h"
+#include "io/AtomicFile.h"
+#include "io/FileError.h"
+#include "model/Text.h"
+#include "stages/PaneDescription.h"
+#include "ui/dialogs/CCoordSysDlg.h"
+#include "ui/dialogs/CEditTSDlg.h"
+#include "ui/dialogs/CExportDlg.h"
+#include "ui/dialogs/CExportScopeDlg.h"
+#include "ui/dialogs/CFilterDlg.h"
+#include "ui/dialogs/CHistDlg.h"
+#include "ui/dialogs/CMeanVelDlg.h"
+#include "ui/dialogs/CPlotOptDlg.h"
+#include "ui/dialogs/CQuadrDlg.h"
+#include "ui/dialogs/CSimulateDlg.h"
+#include "ui/dialogs/CSpAnalDlg.h"
+#include "ui/dialogs/CStatDlg.h"
+#include "ui/frame/AboutBox.h"
+
+namespace vorlan {
+
+namespace {
+
+// "Correlation: 95.7 % kept   Spikes: 99.9 % kept": one entry per criterion that was on.
+QString keptShares(const EditingResult& result) {
+    QStringList shares;
+    const auto add = [&](const char* name, const CriterionResult& criterion) {
+        if (criterion.tested > 0) {
+            shares.append(QString::fromStdString(formatted("%s: %.2f %% kept", name, 100.0 * criterion.keptShare())));
+        }
+    };
+    add("Correlation", result.correlation);
+    add("SNR", result.signalToNoise);
+    add("Spike filter", result.spikes);
+    add("Velocity", result.velocity);
+    return shares.join(QStringLiteral("   "));
+}
+
+}  // namespace
+
+void UserCommands::run(Command command) {
+    switch (command) {
+        case Command::BitmapCopy:
+            return copyBitmap();
+        case Command::ResultsTable:
+            return document_.ShowTable(!document_.ShowsTable());
+        case Command::PlotFrameOptions:
+            return plotFrameOptions();
+        case Command::ZoomAndClipping:
+            document_.EnterZoomMode();
+            return;
+        case Command::ResetTimeSeries:
+            document_.ResetTimeSeries();
+            return;
+        case Command::CoordinateSystem:
+            return changeCoordinateSystem();
+        case Command::EditingTimeSeries:
+            return editTimeSeries();
+        case Command::DigitalFiltration:
+            return filterTimeSeries();
+        case Command::StationarityAnalysis:
+            return stationarityAnalysis();
+        case Command::Histograms:
+            return distributions();
+        case Command::SpectralAnalysis:
+            return spectralAnalysis();
+        case Command::CrossSpectralAnalysis:
+            document_.CrossSpectralAnalysis();
+            return;
+        case Command::QuadrantsAnalysis:
+            return quadrantsAnalysis();
+        case Command::MeanVelocity:
+            return meanVelocity();
+        case Command::SimulateTimeSeries:
+            return simulate();
+        case Command::About:
+            return showAboutBox(window_);
+        default:
+            break;
+    }
+    for (const ExportKindInfo& info : exportKinds()) {
+        if (exportCommand(info.kind) == command) {
+            return exportData(info.kind);
+        }
+    }
+    runFileCommand(command);
+}
+
+void UserCommands::runFileCommand(Command command) {
+    switch (command) {
+        case Command::NewWorkspace:
+            return files_.newWorkspace();
+        case Command::OpenWorkspace:
+            return files_.open();
+        case Command::SaveWorkspace:
+            files_.save();
+            return;
+        case Command::SaveWorkspaceAs:
+            files_.saveAs();
+            return;
+        case Command::CloseFile:
+            document_.CloseFile();
+            return;
+        case Command::Exit:
+            window_.close();
+            return;
+        default:
+            return;
+    }
+}
+
+void UserCommands::simulate() {
+    CSimulateDlg dialog(SimulationParameters{}, &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.SimulateTimeSeries(dialog.values(), seed_ ? seed_() : static_cast<std::uint64_t>(std::time(nullptr)));
+    }
+}
+
+void UserCommands::changeCoordinateSystem() {
+    const SAdvProbe& probe = document_.Probe();
+    CCoordSysDlg dialog(rotationSettingsOf(probe), QString::fromLatin1(coordinateSystemText(probe)), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.ChangeCoordinateSystem(dialog.values());
+    }
+}
+
+void UserCommands::editTimeSeries() {
+    CEditTSDlg dialog(editingSettingsOf(document_.Settings()), &window_);
+    if (dialog.exec() == QDialog::Accepted && document_.EditTimeSeries(dialog.values()) == Outcome::Done) {
+        const QString shares = keptShares(document_.LastEditing());
+        if (!shares.isEmpty()) {
+            showStatus_(shares);
+        }
+    }
+}
+
+void UserCommands::filterTimeSeries() {
+    CFilterDlg dialog(filterSettingsOf(document_.Settings()), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.FilterTimeSeries(dialog.values());
+    }
+}
+
+void UserCommands::stationarityAnalysis() {
+    CStatDlg dialog(stationaritySettingsOf(document_.Settings()), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.StationarityAnalysis(dialog.values());
+    }
+}
+
+void UserCommands::distributions() {
+    CHistDlg dialog(histogramSettingsOf(document_.Settings()), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.Distributions(dialog.values());
+    }
+}
+
+void UserCommands::spectralAnalysis() {
+    CSpAnalDlg dialog(spectralSettingsOf(document_.Settings()), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.SpectralAnalysis(dialog.values());
+    }
+}
+
+void UserCommands::quadrantsAnalysis() {
+    CQuadrDlg dialog(quadrantSettingsOf(document_.Settings()), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.QuadrantsAnalysis(dialog.values());
+    }
+}
+
+void UserCommands::meanVelocity() {
+    CMeanVelDlg dialog(document_.GetMeanVelocity(), document_.AveragedVelocity(), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        document_.SetMeanVelocity(dialog.values());
+    }
+}
+
+void UserCommands::plotFrameOptions() {
+    const Pane pane = document_.ActivePane();
+    const std::optional<FrameSlot> slot =
+        frameSlotOf(document_.CurrentStage(), pane, document_.CurrentValue(), document_.ShowsTable());
+    const auto* diagram = std::get_if<Diagram>(&panes_.view(pane).content());
+    if (!slot.has_value()) {
+        return;
+    }
+    const std::vector<ScaleType> scales =
+        diagram != nullptr ? diagram->allowedScales : std::vector<ScaleType>{ScaleType::Linear};
+    CPlotOptDlg dialog(frameInSlot(document_.GetWorkspace().dataFiles, &document_.Probe(), *slot), scales, &window_);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    if (slot->inSet) {
+        document_.SetPlanFrame(slot->record, dialog.values());
+    } else {
+        document_.SetFrame(slot->group, slot->record, dialog.values());
+    }
+}
+
+void UserCommands::copyBitmap() {
+    QApplication::clipboard()->setImage(panes_.view(document_.ActivePane()).bitmap());
+}
+
+void UserCommands::exportData(ExportKind kind) {
+    const ExportKindInfo& info = exportKindInfo(kind);
+    ExportJob job{document_.GetWorkspace().dataFiles, document_.ActiveFile(), document_.ActiveProbe(), {}, false};
+    if (info.dialog == ExportDialog::Options) {
+        CExportDlg dialog({}, &window_);
+        if (dialog.exec() != QDialog::Accepted) {
+            return;
+        }
+        job.options = dialog.values();
+    } else if (info.dialog == ExportDialog::Scope) {
+        CExportScopeDlg dialog(false, &window_);
+        if (dialog.exec() != QDialog::Accepted) {
+            return;
+        }
+        job.all = dialog.allProbes();
+    }
+    const QString path =
+        boxes_->chooseExport(&window_, QDir(files_.folder()).filePath(QString::fromLatin1(info.defaultFile)));
+    if (path.isEmpty()) {
+        return;
+    }
+    files_.setFolderOf(path);
+    try {
+        writeFileAtomically(QFile::encodeName(path).toStdString(),
+                            [&](std::ostream& stream) { writeExport(stream, kind, job); });
+    } catch (const FileError&) {
+        // An export ends without a box; the line is all that is said.
+        showStatus_(QStringLiteral("Cannot write %1").arg(path));
+    }
+}
+
+}  // namespace vorlan

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+
+#include "app/CommandState.h"
+#include "ui/frame/PaneGrid.h"
+#include "ui/frame/UserBoxes.h"
+#include "ui/frame/WorkspaceFiles.h"
+
+namespace vorlan {
+
+/// From a menu command to the document: opens the command's dialog, hands over what the user accepted.
+class UserCommands {
+  public:
+    UserCommands(CVorl_ADVDoc& document, WorkspaceFiles& files, PaneGrid& panes, QWidget& window)
+        : document_(document), files_(files), panes_(panes), window_(window) {}
+
+    void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
+    /// Seed of the generator; the calendar time unless replaced.
+    void setSeedSource(std::function<std::uint64_t()> source) { seed_ = std::move(source); }
+    /// Shows a line in the status bar.
+    void setStatusFunction(std::function<void(const QString&)> show) { showStatus_ = std::move(show); }
+
+    /// Runs a command that commandState() enables.
+    void run(Command command);
+
+  private:
+    void runFileCommand(Command command);
+    void simulate();
+    void changeCoordinateSystem();
+    void editTimeSeries();
+    void filterTimeSeries();
+    void stationarityAnalysis();
+    void distributions();
+    void spectralAnalysis();
+    void quadrantsAnalysis();
+    void meanVelocity();
+    void plotFrameOptions();
+    void copyBitmap();
+    void exportData(ExportKind kind);
+
+    CVorl_ADVDoc& document_;
+    WorkspaceFiles& files_;
+    PaneGrid& panes_;
+    QWidget& window_;
+    UserBoxes* boxes_ = nullptr;
+    std::function<std::uint64_t()> seed_;
+    std::function<void(const QString&)> showStatus_;
+};
+
+}  // namespace vorlan

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <functional>
+
+#include "app/DocumentPort.h"
+#include "ui/frame/StatusPane.h"
+#include "ui/frame/UserBoxes.h"
+
+namespace vorlan {
+
+/// The document's port in the window: boxes, status bar, progress bar, wait cursor. While a calculation runs it keeps
+/// the window painting; Esc cancels the run.
+class WindowPort : public QObject, public DocumentPort {
+    Q_OBJECT
+
+  public:
+    WindowPort(QWidget& window, UserBoxes& boxes) : window_(window), boxes_(&boxes) {}
+
+    void setStatusPane(StatusPane* pane) { pane_ = pane; }
+    void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
+    /// Told when a calculation begins (true) and has ended (false).
+    void setRunListener(std::function<void(bool)> listener) { runListener_ = std::move(listener); }
+
+    bool confirm(const std::string& text) override;
+    void refuse(const std::string& text) override;
+    void beginRun(int progressOffset) override;
+    void endRun() override;
+    void status(const std::string& text) override;
+    void progress(int percent) override;
+    bool pump() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QWidget& window_;
+    UserBoxes* boxes_;
+    QPointer<StatusPane> pane_;
+    std::function<void(bool)> runListener_;
+    QElapsedTimer sinceEvents_;
+    bool running_ = false;
+    bool cancelled_ = false;
+};
+
+}  // namespace vorlan

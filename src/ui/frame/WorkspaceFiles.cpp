@@ -1,0 +1,114 @@
+#include "ui/frame/WorkspaceFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "io/FileError.h"
+
+namespace vorlan {
+
+namespace {
+
+std::filesystem::path toPath(const QString& path) {
+    return std::filesystem::path(QFile::encodeName(path).toStdString());
+}
+
+QString toText(const std::filesystem::path& path) {
+    return QFile::decodeName(QByteArray::fromStdString(path.string()));
+}
+
+}  // namespace
+
+QString WorkspaceFiles::documentName() const {
+    return document_.GetPath().empty() ? QStringLiteral("Untitled") : toText(document_.GetPath().filename());
+}
+
+void WorkspaceFiles::setFolderOf(const QString& path) {
+    folder_ = QFileInfo(path).absolutePath();
+}
+
+void WorkspaceFiles::remember(const QString& path) {
+    setFolderOf(path);
+    recent_.add(path);
+    Q_EMIT recentListChanged();
+}
+
+void WorkspaceFiles::newWorkspace() {
+    if (mayLeave()) {
+        document_.NewWorkspace();
+    }
+}
+
+void WorkspaceFiles::open() {
+    if (!mayLeave()) {
+        return;
+    }
+    const QString path = boxes_->chooseWorkspaceToOpen(&window_, folder_);
+    if (!path.isEmpty()) {
+        load(path);
+    }
+}
+
+bool WorkspaceFiles::openPath(const QString& path) {
+    return mayLeave() && load(path);
+}
+
+void WorkspaceFiles::openRecent(const QString& path) {
+    if (!openPath(path) && !QFileInfo::exists(path)) {
+        recent_.remove(path);
+        Q_EMIT recentListChanged();
+    }
+}
+
+bool WorkspaceFiles::load(const QString& path) {
+    try {
+        document_.OpenWorkspace(toPath(path));
+    } catch (const FileError& error) {
+        boxes_->refuse(&window_, QString::fromUtf8(error.what()));
+        return false;
+    }
+    remember(path);
+    return true;
+}
+
+bool WorkspaceFiles::save() {
+    return document_.GetPath().empty() ? saveAs() : saveTo(toText(document_.GetPath()));
+}
+
+bool WorkspaceFiles::saveAs() {
+    QString proposed = toText(document_.GetPath());
+    if (proposed.isEmpty()) {
+        proposed = QDir(folder_).filePath(QStringLiteral("Untitled.avp"));
+    }
+    const QString path = boxes_->chooseWorkspaceToSave(&window_, proposed);
+    return !path.isEmpty() && saveTo(path);
+}
+
+bool WorkspaceFiles::saveTo(const QString& path) {
+    try {
+        document_.SaveWorkspace(toPath(path));
+    } catch (const FileError& error) {
+        boxes_->refuse(&window_, QString::fromUtf8(error.what()));
+        return false;
+    }
+    remember(path);
+    return true;
+}
+
+bool WorkspaceFiles::mayLeave() {
+    if (!document_.IsModified()) {
+        return true;
+    }
+    switch (boxes_->askToSave(&window_, documentName())) {
+        case UserBoxes::SaveAnswer::Save:
+            return save();
+        case UserBoxes::SaveAnswer::Discard:
+            return true;
+        case UserBoxes::SaveAnswer::Cancel:
+            break;
+    }
+    return false;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,142 @@
+#include "ui/views/CVorl_ADVView.h"
+
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRubberBand>
+#include <algorithm>
+#include <cstdlib>
+
+#include "plot/PaintPane.h"
+
+namespace vorlan {
+
+namespace {
+constexpr int kFrameWidth = 2;
+// A drag below this many pixels is a click.
+constexpr int kSmallestDrag = 3;
+}  // namespace
+
+CVorl_ADVView::CVorl_ADVView(Pane pane, QWidget* parent) : QWidget(parent), pane_(pane) {
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(QString::fromUtf8(kPaneTexts[static_cast<std::size_t>(pane)]));
+}
+
+void CVorl_ADVView::setContent(PaneContent content) {
+    content_ = std::move(content);
+    geometry_.reset();
+    update();
+}
+
+void CVorl_ADVView::setActive(bool active) {
+    if (active_ != active) {
+        active_ = active;
+        update();
+    }
+}
+
+QRect CVorl_ADVView::pageArea() const {
+    return rect().adjusted(kFrameWidth, kFrameWidth, -kFrameWidth, -kFrameWidth);
+}
+
+QImage CVorl_ADVView::bitmap() const {
+    const double ratio = devicePixelRatioF();
+    QImage image(pageArea().size() * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintPane(painter, QRect(QPoint(0, 0), pageArea().size()), content_);
+    return image;
+}
+
+void CVorl_ADVView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), active_ ? palette().highlight() : palette().mid());
+    painter.save();
+    painter.setClipRect(pageArea());
+    geometry_ = paintPane(painter, pageArea(), content_);
+    painter.restore();
+}
+
+void CVorl_ADVView::setIntervalSelection(bool on) {
+    intervalSelection_ = on;
+    if (!on) {
+        endDrag();
+    }
+}
+
+void CVorl_ADVView::showBand(int toX) {
+    if (band_ == nullptr) {
+        band_ = new QRubberBand(QRubberBand::Rectangle, this);
+    }
+    const int left = std::min(*dragFrom_, toX);
+    const int right = std::max(*dragFrom_, toX);
+    band_->setGeometry(left, geometry_->originY - geometry_->height, right - left + 1, geometry_->height);
+    band_->show();
+}
+
+void CVorl_ADVView::endDrag() {
+    dragFrom_.reset();
+    if (band_ != nullptr) {
+        band_->hide();
+    }
+}
+
+void CVorl_ADVView::mousePressEvent(QMouseEvent* event) {
+    Q_EMIT activated(pane_);
+    const QPoint position = event->position().toPoint();
+    if (intervalSelection_ && event->button() == Qt::LeftButton && geometry_.has_value() &&
+        geometry_->contains(position.x(), position.y())) {
+        dragFrom_ = position.x();
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void CVorl_ADVView::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint position = event->position().toPoint();
+    if (dragFrom_.has_value() && geometry_.has_value()) {
+        showBand(position.x());
+        Q_EMIT intervalDragged(pane_, *dragFrom_, position.x());
+        return;
+    }
+    Q_EMIT cursorMoved(pane_, position);
+}
+
+void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && dragFrom_.has_value()) {
+        const int from = *dragFrom_;
+        const int to = event->position().toPoint().x();
+        endDrag();
+        if (std::abs(to - from) >= kSmallestDrag) {
+            Q_EMIT intervalChosen(pane_, std::min(from, to), std::max(from, to));
+        }
+    }
+    QWidget::mouseReleaseEvent(event);
+}
+
+void CVorl_ADVView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && dragFrom_.has_value()) {
+        endDrag();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void CVorl_ADVView::leaveEvent(QEvent* event) {
+    Q_EMIT cursorLeft(pane_);
+    QWidget::leaveEvent(event);
+}
+
+void CVorl_ADVView::focusInEvent(QFocusEvent* event) {
+    Q_EMIT activated(pane_);
+    QWidget::focusInEvent(event);
+}
+
+void CVorl_ADVView::contextMenuEvent(QContextMenuEvent* event) {
+    Q_EMIT activated(pane_);
+    Q_EMIT menuRequested(pane_, event->globalPos());
+}
+
+}  // namespace vorlan

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QWidget>
+#include <optional>
+
+#include "model/Stages.h"
+#include "plot/CScreenUtils.h"
+#include "plot/PaneContent.h"
+
+class QRubberBand;
+
+namespace vorlan {
+
+/// One of the four panes: paints what it was given and reports the mouse. It knows no document and computes nothing.
+class CVorl_ADVView : public QWidget {
+    Q_OBJECT
+
+  public:
+    CVorl_ADVView(Pane pane, QWidget* parent);
+
+    Pane pane() const { return pane_; }
+    void setContent(PaneContent content);
+    const PaneContent& content() const { return content_; }
+    /// The active view is framed in the desktop's highlight colour.
+    void setActive(bool active);
+    bool isActive() const { return active_; }
+    /// While on, dragging with the left button over the diagram chooses an interval of the X axis.
+    void setIntervalSelection(bool on);
+    /// Geometry of the diagram as it was painted last; empty without a diagram.
+    const std::optional<CScreenUtils>& geometry() const { return geometry_; }
+    /// The pane as a picture of its size on a white page.
+    QImage bitmap() const;
+
+    QSize sizeHint() const override { return {480, 300}; }
+    QSize minimumSizeHint() const override { return {40, 30}; }
+
+  Q_SIGNALS:
+    /// The pane was clicked or took the focus.
+    void activated(vorlan::Pane pane);
+    void cursorMoved(vorlan::Pane pane, QPoint position);
+    void cursorLeft(vorlan::Pane pane);
+    /// The interval between two pixel columns is being chosen, and was chosen. A click is no interval.
+    void intervalDragged(vorlan::Pane pane, int fromX, int toX);
+    void intervalChosen(vorlan::Pane pane, int fromX, int toX);
+    void menuRequested(vorlan::Pane pane, QPoint globalPosition);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    QRect pageArea() const;
+    void showBand(int toX);
+    void endDrag();
+
+    Pane pane_;
+    PaneContent content_;
+    std::optional<CScreenUtils> geometry_;
+    bool active_ = false;
+    bool intervalSelection_ = false;
+    std::optional<int> dragFrom_;
+    QRubberBand* band_ = nullptr;
+};
+
+/// Left top: records over time, means, correlation functions.
+class CLTopView : public CVorl_ADVView {
+    Q_OBJECT
+  public:
+    explicit CLTopView(QWidget* parent) : CVorl_ADVView(Pane::LeftTop, parent) {}
+};
+
+/// Left bottom: scores, variances, spectra.
+class CLBotView : public CVorl_ADVView {
+    Q_OBJECT
+  public:
+    explicit CLBotView(QWidget* parent) : CVorl_ADVView(Pane::LeftBottom, parent) {}
+};
+
+/// Right top: auxiliary data, skewness, structure functions.
+class RTopView : public CVorl_ADVView {
+    Q_OBJECT
+  public:
+    explicit RTopView(QWidget* parent) : CVorl_ADVView(Pane::RightTop, parent) {}
+};
+
+/// Right bottom: tables, pressure, kurtosis.
+class CRBotView : public CVorl_ADVView {
+    Q_OBJECT
+  public:
+    explicit CRBotView(QWidget* parent) : CVorl_ADVView(Pane::RightBottom, parent) {}
+};
+
+}  // namespace vorlan
