@@ -1,0 +1,74 @@
+#include "stages/PaneDescription.h"
+
+#include "model/DefaultFrames.h"
+#include "stages/StagePanes.h"
+
+namespace vorlan {
+
+namespace {
+
+/// By stage number; null for a stage that shows nothing.
+constexpr std::array<StageDescriber, kStageCount> kDescribers = {
+    describePreProcessing, nullptr, nullptr, describeSpectra, nullptr, nullptr, nullptr,
+};
+
+bool isStage(Stage stage) {
+    return static_cast<int>(stage) >= 0 && static_cast<int>(stage) < kStageCount;
+}
+
+}  // namespace
+
+PaneContent describePane(const PaneRequest& request) {
+    const StageDescriber describe =
+        isStage(request.stage) ? kDescribers[static_cast<std::size_t>(request.stage)] : nullptr;
+    if (describe == nullptr) {
+        return {};
+    }
+    return describe(request, probeAt(request.workspace.dataFiles, request.file, request.probe));
+}
+
+const SAdvProbe* probeAt(const SAdvSet& set, int file, int probe) {
+    if (file < 0 || file >= set.files.GetSize()) {
+        return nullptr;
+    }
+    const SAdvProbesArray& probes = set.files.GetAt(file).probes;
+    return probe >= 0 && probe < probes.GetSize() ? &probes.GetAt(probe) : nullptr;
+}
+
+std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value, bool showTable) {
+    const int group = static_cast<int>(stage);
+    const int record = static_cast<int>(pane);
+    const FrameSlot own{false, group, record};
+    switch (stage) {
+        case Stage::PreProcessing:
+            if (pane == Pane::LeftTop && value == PhysicalValue::Stresses) {
+                return FrameSlot{false, kStressFrameGroup, 0};
+            }
+            [[fallthrough]];
+        case Stage::Histograms:
+            return pane == Pane::RightBottom && showTable ? std::nullopt : std::optional(own);
+        case Stage::Spectral:
+            return pane == Pane::RightBottom ? std::nullopt : std::optional(own);
+        case Stage::MeanVelocityVectors:
+            return pane == Pane::LeftTop || pane == Pane::LeftBottom ? std::optional(FrameSlot{true, 0, record})
+                                                                     : std::nullopt;
+        case Stage::Stationarity:
+        case Stage::Quadrants:
+        case Stage::CrossSpectral:
+            return own;
+    }
+    return std::nullopt;
+}
+
+FrameAttributesType frameInSlot(const SAdvSet& set, const SAdvProbe* probe, const FrameSlot& slot) {
+    if (!slot.inSet) {
+        return probe != nullptr ? frameOrDefault(*probe, slot.group, slot.record)
+                                : defaultFrame(slot.group, slot.record);
+    }
+    // The set is made with one plain record, which stands for no choice of the user.
+    const bool chosen = slot.record < set.frameAttributes.GetSize() &&
+                        !(set.frameAttributes.GetAt(slot.record) == FrameAttributesType{});
+    return chosen ? set.frameAttributes.GetAt(slot.record) : defaultPlanFrame(slot.record);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,147 @@
+// The record before and after pre-processing: velocities or stresses, quality scores, auxiliary data, statistics.
+#include <algorithm>
+#include <limits>
+
+#include "stages/DiagramParts.h"
+#include "stages/StagePanes.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr const char* kNoAuxiliaryText = "Auxiliary data are not available";
+constexpr const char* kNoQualityText = "The data quality scores for all samples are lower than thresholds !";
+
+/// Samples that do not count become gaps; the others keep their times.
+void leaveOutUncounted(const SAdvProbe& probe, std::vector<double>& values) {
+    if (probe.UsesAllSamples()) {
+        return;
+    }
+    const auto marks = probe.sampleFlags.view();
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (i >= marks.size() || marks[i] < 1) {
+            values[i] = std::numeric_limits<double>::quiet_NaN();
+        }
+    }
+}
+
+void addRecord(Diagram& diagram, const SAdvProbe& probe, std::vector<double> values, const char* legend) {
+    if (values.empty()) {
+        return;
+    }
+    leaveOutUncounted(probe, values);
+    const double duration = static_cast<double>(values.size()) * probe.samplingInterval;
+    diagram.duration = std::max(diagram.duration.value_or(0.0), duration);
+    const int index = static_cast<int>(diagram.plot.series.size());
+    diagram.plot.series.push_back(
+        recordLine(std::move(values), SeriesX{0.0, probe.samplingInterval, {}}, index, legend));
+}
+
+template <std::size_t N>
+PaneContent recordDiagram(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table,
+                          const std::array<const char*, N>& legends) {
+    Diagram diagram = newDiagram(request, &probe);
+    for (std::size_t c = 0; c < N; ++c) {
+        addRecord(diagram, probe, plotColumn(table, static_cast<int>(c)), legends[c]);
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+PaneContent velocities(const PaneRequest& request, const SAdvProbe& probe) {
+    PaneContent content = recordDiagram(request, probe, probe.workTables[SAdvProbe::kVelocities], kVelocityLabels);
+    if (auto* diagram = std::get_if<Diagram>(&content)) {
+        // The probe's caption tells more than the title it begins with (how many spikes were removed).
+        std::string& title = diagram->frame.plotTitle;
+        if (!title.empty() && probe.title.starts_with(title)) {
+            title = probe.title;
+        }
+    }
+    return content;
+}
+
+std::vector<double> beamAverages(const SMultiArray& scores) {
+    std::vector<double> averages = plotColumn(scores, 0);
+    for (int beam = 1; beam < scores.GetSize(); ++beam) {
+        const SArray& column = scores.GetAt(beam);
+        averages.resize(std::min(averages.size(), static_cast<std::size_t>(column.GetSize())));
+        const auto units = column.view();
+        for (std::size_t i = 0; i < averages.size(); ++i) {
+            averages[i] += units[i] * column.GetScale();
+        }
+    }
+    for (double& average : averages) {
+        average /= scores.GetSize();
+    }
+    return averages;
+}
+
+bool noSampleCounts(const SAdvProbe& probe) {
+    return !probe.UsesAllSamples() &&
+           std::none_of(probe.sampleFlags.begin(), probe.sampleFlags.end(), [](std::int32_t m) { return m >= 1; });
+}
+
+PaneContent qualityScores(const PaneRequest& request, const SAdvProbe& probe) {
+    if (probe.WorkingSamples() > 0 && noSampleCounts(probe)) {
+        return PaneMessage{kNoQualityText};
+    }
+    Diagram diagram = newDiagram(request, &probe);
+    addRecord(diagram, probe, beamAverages(probe.workTables[SAdvProbe::kCorrelation]), "Correlation");
+    addRecord(diagram, probe, beamAverages(probe.workTables[SAdvProbe::kSignalToNoise]), "SNR");
+    return diagramOrMessage(std::move(diagram));
+}
+
+template <std::size_t N>
+PaneContent auxiliary(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table,
+                      const std::array<const char*, N>& legends) {
+    // Columns that a clipping emptied can be brought back; columns that were never there cannot.
+    if (table.IsEmpty() || (table.HasNoValues() && probe.WorkingSamples() > 0)) {
+        return PaneMessage{kNoAuxiliaryText};
+    }
+    return recordDiagram(request, probe, table, legends);
+}
+
+TableContent statisticsTable(const SAdvProbe& probe) {
+    TableContent table;
+    table.title = "    Main Statistical Characteristics (sampled and transformed)";
+    table.headers = {"  ", "Mean", "Variance", "Skewness", "Kurtosis"};
+    constexpr std::array<const char*, 3> sampled = {"Sampled U", "Sampled V", "Sampled W"};
+    constexpr std::array<const char*, 3> modified = {"Modified U", "Modified V", "Modified W"};
+    for (std::size_t c = 0; c < sampled.size(); ++c) {
+        const auto stored = [&](std::size_t group) {
+            return probe.scalarResults[SAdvProbe::kSampledMoments + 3 * group + c];
+        };
+        table.rows.push_back({sampled[c], {stored(0), stored(1), stored(2)}});
+    }
+    for (std::size_t c = 0; c < modified.size(); ++c) {
+        const Moments m = probe.VelocityMoments(static_cast<int>(c));
+        table.rows.push_back({modified[c], {m.mean, m.variance, m.skewness, m.kurtosis}});
+    }
+    return table;
+}
+
+}  // namespace
+
+PaneContent describePreProcessing(const PaneRequest& request, const SAdvProbe* probe) {
+    if (probe == nullptr) {
+        return {};
+    }
+    switch (request.pane) {
+        case Pane::LeftTop:
+            return request.value == PhysicalValue::Stresses
+                       ? recordDiagram(request, *probe, probe->workTables[SAdvProbe::kStresses], kStressLabels)
+                       : velocities(request, *probe);
+        case Pane::LeftBottom:
+            return qualityScores(request, *probe);
+        case Pane::RightTop:
+            return auxiliary(request, *probe, probe->workTables[SAdvProbe::kWorkCompass],
+                             std::array{"Heading", "Pitch", "Roll"});
+        case Pane::RightBottom:
+            if (request.showTable) {
+                return statisticsTable(*probe);
+            }
+            return auxiliary(request, *probe, probe->workTables[SAdvProbe::kWorkPressure], std::array{"Pressure"});
+    }
+    return {};
+}
+
+}  // namespace vorlan
