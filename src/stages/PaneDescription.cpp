@@ -7,9 +7,10 @@ namespace vorlan {
 
 namespace {
 
-/// By stage number; null for a stage that shows nothing.
+/// By stage number.
 constexpr std::array<StageDescriber, kStageCount> kDescribers = {
-    describePreProcessing, nullptr, nullptr, describeSpectra, nullptr, nullptr, nullptr,
+    describePreProcessing, describeStationarity, describeHistograms,   describeSpectra,
+    describeVectors,       describeQuadrants,    describeCrossSpectra,
 };
 
 bool isStage(Stage stage) {
@@ -19,12 +20,11 @@ bool isStage(Stage stage) {
 }  // namespace
 
 PaneContent describePane(const PaneRequest& request) {
-    const StageDescriber describe =
-        isStage(request.stage) ? kDescribers[static_cast<std::size_t>(request.stage)] : nullptr;
-    if (describe == nullptr) {
+    if (!isStage(request.stage)) {
         return {};
     }
-    return describe(request, probeAt(request.workspace.dataFiles, request.file, request.probe));
+    return kDescribers[static_cast<std::size_t>(request.stage)](
+        request, probeAt(request.workspace.dataFiles, request.file, request.probe));
 }
 
 const SAdvProbe* probeAt(const SAdvSet& set, int file, int probe) {

@@ -1,0 +1,105 @@
+// Cross-correlation, cross spectra, coherence and phase of the velocity pairs; with stresses, correlation and
+// co-spectrum of the Reynolds stresses, which carry the opposite sign.
+#include <algorithm>
+#include <cmath>
+
+#include "analysis/SpectralScale.h"
+#include "analysis/StressPairs.h"
+#include "stages/DiagramParts.h"
+#include "stages/StagePanes.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::array<const char*, kStressPairs> kPairLabels = {"u'-v'", "u'-w'", "v'-w'"};
+constexpr std::array<const char*, kStressPairs> kReynoldsLabels = {"-u'v'", "-u'w'", "-v'w'"};
+
+const char* labelOf(int pair, PhysicalValue value) {
+    const auto index = static_cast<std::size_t>(pair);
+    return value == PhysicalValue::Stresses ? kReynoldsLabels[index] : kPairLabels[index];
+}
+
+/// What a cross-covariance is multiplied with: 1 / sqrt(variance variance) for the correlation of the velocities.
+double correlationFactor(const SAdvProbe& probe, int pair, PhysicalValue value) {
+    if (value == PhysicalValue::Stresses) {
+        return -1.0;
+    }
+    const StressPair components = kStressPairComponents[static_cast<std::size_t>(pair)];
+    const auto variance = [&](int c) {
+        return probe.statistics[SAdvProbe::kVelocityVariances + static_cast<std::size_t>(c)];
+    };
+    return 1.0 / std::sqrt(variance(components.first) * variance(components.second));
+}
+
+/// Lags -(M-1) .. M-1: the backward function on the negative side, the forward one from lag 0 on.
+PaneContent correlations(const PaneRequest& request, const SAdvProbe& probe) {
+    Diagram diagram = newDiagram(request, &probe);
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        const double factor = correlationFactor(probe, pair, request.value);
+        std::vector<double> values = plotColumn(probe.workTables[SAdvProbe::kCrossBackward], pair, factor);
+        std::reverse(values.begin(), values.end());
+        if (!values.empty()) {
+            values.pop_back();
+        }
+        const double start = -static_cast<double>(values.size()) * probe.samplingInterval;
+        const std::vector<double> forward = plotColumn(probe.workTables[SAdvProbe::kCrossForward], pair, factor);
+        values.insert(values.end(), forward.begin(), forward.end());
+        diagram.plot.series.push_back(
+            curve(std::move(values), SeriesX{start, probe.samplingInterval, {}}, pair, labelOf(pair, request.value)));
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+std::vector<double> crossSpectrum(const SAdvProbe& probe, int pair, PhysicalValue value) {
+    const SMultiArray& coSpectra = probe.workTables[SAdvProbe::kCoSpectra];
+    if (value == PhysicalValue::Stresses) {
+        return plotColumn(coSpectra, pair, -1.0);
+    }
+    std::vector<double> amplitudes = plotColumn(coSpectra, pair);
+    const std::vector<double> quadrature = plotColumn(probe.workTables[SAdvProbe::kQuadratureSpectra], pair);
+    amplitudes.resize(std::min(amplitudes.size(), quadrature.size()));
+    for (std::size_t i = 0; i < amplitudes.size(); ++i) {
+        amplitudes[i] = std::sqrt(amplitudes[i] * amplitudes[i] + quadrature[i] * quadrature[i]);
+    }
+    return amplitudes;
+}
+
+template <class ValuesOfPair>
+PaneContent overFrequency(const PaneRequest& request, const SAdvProbe& probe, PhysicalValue labels,
+                          ValuesOfPair valuesOfPair) {
+    Diagram diagram = newDiagram(request, &probe);
+    nameFrequencyUnit(diagram.frame, probe.spectralUnit);
+    // Quadrature, phase and coherence are shorter than the covariance that sets the frequencies.
+    const int length = SAdvProbe::ColumnLength(probe.workTables[SAdvProbe::kCoSpectra]);
+    const double step = frequencyStep(length, probe.samplingInterval, static_cast<int>(probe.spectralUnit));
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        diagram.plot.series.push_back(curve(valuesOfPair(pair), SeriesX{0.0, step, {}}, pair, labelOf(pair, labels)));
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+}  // namespace
+
+PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* probe) {
+    if (probe == nullptr) {
+        return {};
+    }
+    const auto table = [&](std::size_t index) {
+        return [probe, index](int pair) { return plotColumn(probe->stageTables[index], pair); };
+    };
+    switch (request.pane) {
+        case Pane::LeftTop:
+            return correlations(request, *probe);
+        case Pane::LeftBottom:
+            return overFrequency(request, *probe, request.value,
+                                 [&](int pair) { return crossSpectrum(*probe, pair, request.value); });
+        case Pane::RightTop:
+            return overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kCoherence));
+        case Pane::RightBottom:
+            return overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kPhase));
+    }
+    return {};
+}
+
+}  // namespace vorlan

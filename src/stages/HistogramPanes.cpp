@@ -1,0 +1,119 @@
+// Distributions of the velocity components and their moments.
+#include <algorithm>
+
+#include "analysis/AnalysedSeries.h"
+#include "analysis/Histogram.h"
+#include "analysis/MomentEstimators.h"
+#include "stages/DiagramParts.h"
+#include "stages/StagePanes.h"
+
+namespace vorlan {
+
+namespace {
+
+// The colour of what is compared with the bars.
+constexpr int kNormalColour = 2;
+constexpr int kNormalPenWidth = 2;
+
+/// The n + 1 ends of n grades over the range of the samples.
+std::vector<double> gradeEnds(const STimeSeries& series) {
+    const Extremes range = extremesOf(series.values);
+    const int grades = series.histogram.GetSize();
+    const double width = (range.maximum - range.minimum) / grades;
+    std::vector<double> ends(static_cast<std::size_t>(grades) + 1);
+    for (int k = 0; k <= grades; ++k) {
+        ends[static_cast<std::size_t>(k)] = width * k + range.minimum;
+    }
+    return ends;
+}
+
+bool hasHistogram(const STimeSeries& series) {
+    return !series.histogram.IsEmpty() && !series.values.IsEmpty();
+}
+
+PaneContent componentHistogram(const PaneRequest& request, const SAdvProbe& probe, int component) {
+    Diagram diagram = newDiagram(request, &probe);
+    const STimeSeries& series = probe.Series(component);
+    const HistogramSettings settings = histogramSettingsOf(request.workspace.settings);
+    if (hasHistogram(series)) {
+        PlotSeries bars = recordLine(plotValues(series.histogram), SeriesX{0.0, 1.0, gradeEnds(series)}, 0,
+                                     kVelocityLabels[static_cast<std::size_t>(component)]);
+        bars.attributes.style = SeriesStyle::Bars;
+        bars.attributes.barGapPercent = 100.0 - settings.barWidth;
+        diagram.plot.series.push_back(std::move(bars));
+        if (settings.normalApproximation) {
+            NormalCurve normal = normalApproximation(series);
+            PlotSeries line =
+                recordLine(plotValues(normal.y), SeriesX{0.0, 1.0, std::move(normal.x)}, kNormalColour, "Normal");
+            line.attributes.penWidth = kNormalPenWidth;
+            diagram.plot.series.push_back(std::move(line));
+        }
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+PaneContent allComponents(const PaneRequest& request, const SAdvProbe& probe) {
+    Diagram diagram = newDiagram(request, &probe);
+    for (int c = 0; c < SAdvProbe::kComponents; ++c) {
+        const STimeSeries& series = probe.Series(c);
+        if (!hasHistogram(series)) {
+            continue;
+        }
+        const std::vector<double> ends = gradeEnds(series);
+        const double width = ends[1] - ends[0];
+        diagram.plot.series.push_back(curve(plotValues(series.histogram), SeriesX{ends[0] + 0.5 * width, width, {}}, c,
+                                            kVelocityLabels[static_cast<std::size_t>(c)]));
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+TableContent::Row momentsRow(const char* title, const Moments& m) {
+    return {title, {m.mean, m.variance, m.skewness, m.kurtosis}};
+}
+
+TableContent momentsTable(const SAdvProbe& probe, PhysicalValue value) {
+    TableContent table;
+    table.headers = {"  ", "Mean", "Variance", "Skewness", "Kurtosis"};
+    if (value == PhysicalValue::Velocities) {
+        constexpr std::array<const char*, 3> titles = {"U", "V", "W"};
+        table.title = "    Statistical moments of velocity distributions";
+        for (std::size_t c = 0; c < titles.size(); ++c) {
+            table.rows.push_back(momentsRow(titles[c], probe.Series(static_cast<int>(c)).moments));
+        }
+        return table;
+    }
+    table.title = "    Statistical moments of stresses distributions";
+    const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
+    for (int pair = 0; pair < static_cast<int>(kStressLabels.size()); ++pair) {
+        // The stored block may be older than the marks; it is all there is when the series are not.
+        const Moments moments = pair < stresses.GetSize() && !stresses.GetAt(pair).IsEmpty()
+                                    ? momentsOf(countedValues(probe, stresses.GetAt(pair)))
+                                    : probe.StressMoments(pair);
+        table.rows.push_back(momentsRow(kStressLabels[static_cast<std::size_t>(pair)], moments));
+    }
+    return table;
+}
+
+}  // namespace
+
+PaneContent describeHistograms(const PaneRequest& request, const SAdvProbe* probe) {
+    if (probe == nullptr) {
+        return {};
+    }
+    switch (request.pane) {
+        case Pane::LeftTop:
+            return componentHistogram(request, *probe, STimeSeries::U);
+        case Pane::LeftBottom:
+            return componentHistogram(request, *probe, STimeSeries::V);
+        case Pane::RightTop:
+            return componentHistogram(request, *probe, STimeSeries::W);
+        case Pane::RightBottom:
+            if (request.showTable) {
+                return momentsTable(*probe, request.value);
+            }
+            return allComponents(request, *probe);
+    }
+    return {};
+}
+
+}  // namespace vorlan

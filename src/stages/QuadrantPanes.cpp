@@ -1,0 +1,66 @@
+// Contribution of the quadrants to a stress by hole size, and the velocities around its events.
+#include <algorithm>
+#include <cmath>
+
+#include "analysis/StressPairs.h"
+#include "stages/DiagramParts.h"
+#include "stages/StagePanes.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::array<const char*, 5> kBucketLabels = {"1", "2", "3", "4", "Hole"};
+
+/// Step between hole sizes: that of the probe's last run, the workspace's while none is recorded.
+double holeStep(const PaneRequest& request, const SAdvProbe& probe) {
+    const double step = probe.statistics[SAdvProbe::kQuadrantRun];
+    return std::isfinite(step) && step != 0.0 ? step : request.workspace.settings.holeIncrement;
+}
+
+PaneContent byHoleSize(const PaneRequest& request, const SAdvProbe& probe, std::size_t table) {
+    Diagram diagram = newDiagram(request, &probe);
+    const SeriesX sizes{0.0, holeStep(request, probe), {}};
+    for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
+        diagram.plot.series.push_back(
+            curve(plotColumn(probe.stageTables[table], q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+PaneContent pattern(const PaneRequest& request, const SAdvProbe& probe, std::size_t table) {
+    Diagram diagram = newDiagram(request, &probe);
+    const auto type = std::min<std::size_t>(probe.quadrantStress, kStressPairComponents.size() - 1);
+    const StressPair pair = kStressPairComponents[type];
+    int column = 0;
+    for (const int component : {pair.first, pair.second}) {
+        std::vector<double> values = plotColumn(probe.stageTables[table], column);
+        const auto reach = static_cast<double>(values.size() / 2);
+        const SeriesX times{-reach * probe.samplingInterval, probe.samplingInterval, {}};
+        diagram.plot.series.push_back(
+            curve(std::move(values), times, component, kVelocityLabels[static_cast<std::size_t>(component)]));
+        ++column;
+    }
+    return diagramOrMessage(std::move(diagram));
+}
+
+}  // namespace
+
+PaneContent describeQuadrants(const PaneRequest& request, const SAdvProbe* probe) {
+    if (probe == nullptr) {
+        return {};
+    }
+    switch (request.pane) {
+        case Pane::LeftTop:
+            return byHoleSize(request, *probe, SAdvProbe::kContributions);
+        case Pane::LeftBottom:
+            return pattern(request, *probe, SAdvProbe::kEjectionPattern);
+        case Pane::RightTop:
+            return byHoleSize(request, *probe, SAdvProbe::kTimes);
+        case Pane::RightBottom:
+            return pattern(request, *probe, SAdvProbe::kSweepPattern);
+    }
+    return {};
+}
+
+}  // namespace vorlan
