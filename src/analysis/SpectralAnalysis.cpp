@@ -49,6 +49,7 @@ void analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress
         series.moments = momentsOf(samples);
         const std::vector<double> deviations = deviationsFrom(samples, series.moments.mean);
         advance(5);
+        progress.breathe();
 
         storeColumn(series.correlation, kCovarianceResolution, autocovariance(deviations, run.lags, progress));
         advance(10);

@@ -1,18 +1,17 @@
 #include "analysis/Stresses.h"
 
+#include <algorithm>
 #include <array>
-#include <utility>
+#include <functional>
 #include <vector>
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
+#include "analysis/StressPairs.h"
 
 namespace vorlan {
 
 namespace {
-
-constexpr int kPairs = 3;
-constexpr std::array<std::pair<std::size_t, std::size_t>, kPairs> kPairComponents = {{{0, 1}, {0, 2}, {1, 2}}};
 
 /// The working velocities as values, all of the first column's length.
 std::array<std::vector<double>, SAdvProbe::kComponents> workingVelocities(const SAdvProbe& probe) {
@@ -41,13 +40,13 @@ void formStresses(SAdvProbe& probe, StressResolution resolution) {
 
     const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
     SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
-    stresses.Reshape(kPairs, 1.0);
+    stresses.Reshape(kStressPairs, 1.0);
     std::vector<double> products(fluctuations[0].size());
-    for (int pair = 0; pair < kPairs; ++pair) {
-        const auto [first, second] = kPairComponents[static_cast<std::size_t>(pair)];
-        for (std::size_t i = 0; i < products.size(); ++i) {
-            products[i] = fluctuations[first][i] * fluctuations[second][i];
-        }
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        const StressPair components = kStressPairComponents[static_cast<std::size_t>(pair)];
+        const std::vector<double>& first = fluctuations[static_cast<std::size_t>(components.first)];
+        const std::vector<double>& second = fluctuations[static_cast<std::size_t>(components.second)];
+        std::transform(first.begin(), first.end(), second.begin(), products.begin(), std::multiplies<>());
         SArray& column = stresses.ElementAt(pair);
         if (!velocities.IsEmpty()) {
             const int lender = resolution == StressResolution::SamePosition ? pair : 0;
@@ -71,7 +70,7 @@ void computeStressStatistics(SAdvProbe& probe) {
     for (std::size_t c = 0; c < velocities.size(); ++c) {
         probe.statistics[SAdvProbe::kVelocityVariances + c] = momentsOf(velocities[c]).variance;
     }
-    for (int pair = 0; pair < kPairs; ++pair) {
+    for (int pair = 0; pair < kStressPairs; ++pair) {
         probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(pair)] =
             momentsOf(stresses.GetAt(pair).Values()).mean;
     }
