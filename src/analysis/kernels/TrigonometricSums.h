@@ -23,8 +23,8 @@ namespace vorlan {
 ///
 /// The order of the operations is the same for all instruction sets and whatever series go together: they give the
 /// same bytes. Against a plain loop over k the sums differ by rounding; what differs most is the phase, which is
-/// accurate to 1e-15 here and loses up to a few 1e-12 where kPi * i * k is formed in double precision. Of stored
-/// spectra about one integer in a hundred thousand differs, by one unit.
+/// accurate to 1e-15 here and loses up to a few 1e-12 where kPi * i * k is formed in double precision. Stored
+/// spectra seldom differ, and by one unit.
 std::vector<std::vector<double>> cosineSums(std::span<const std::vector<double>> terms, std::size_t length,
                                             std::size_t frequencies, Progress& progress,
                                             const KernelSet& kernels = kernelsInUse());
