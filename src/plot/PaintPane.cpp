@@ -17,7 +17,7 @@ constexpr char kNoData[] = "No data to plot ! Reset series to continue.";
 constexpr char kTooSmall[] = "Increase Size to View Data";
 constexpr int kPanelGap = 8;
 constexpr int kPanelLineGap = 2;
-constexpr int kLegendOpacity = 224;  // of 255: curves behind the legend stay visible
+constexpr int kLegendOpacity = 200;  // of 255: curves behind the legend stay visible
 
 std::vector<QLine> qtLines(const std::vector<Line>& lines) {
     std::vector<QLine> result;

@@ -1,5 +1,6 @@
 #include "plot/PaintSeries.h"
 
+#include <QPaintEngine>
 #include <QPolygon>
 #include <algorithm>
 #include <cmath>
@@ -33,29 +34,43 @@ QRect outline(const Box& box) {
     return QRect(box.left, box.top, box.width() - 1, box.height() - 1);
 }
 
-void paintMarker(QPainter& painter, MarkerKind kind, const Spot& spot, int size) {
+Box plotArea(const CScreenUtils& geometry) {
+    return {geometry.originX, geometry.originY - geometry.height, geometry.originX + geometry.width, geometry.originY};
+}
+
+// Scalable vector graphics are written without clipping.
+bool clipsByItself(const QPainter& painter) {
+    return painter.paintEngine() == nullptr || painter.paintEngine()->type() != QPaintEngine::SVG;
+}
+
+void paintMarker(QPainter& painter, MarkerKind kind, const Spot& spot, int size, const QPen& pen) {
     if (kind == MarkerKind::Circle) {
         painter.drawEllipse(outline(markerBox(spot, size)));
     } else if (kind == MarkerKind::Square) {
         painter.drawRect(outline(markerBox(spot, size)));
     } else {
+        if (kind == MarkerKind::Triangle) {
+            const int h = size / 2;
+            painter.setPen(Qt::NoPen);
+            painter.drawPolygon(
+                QPolygon({QPoint(spot.x - h, spot.y + h), QPoint(spot.x, spot.y - h), QPoint(spot.x + h, spot.y + h)}));
+            painter.setPen(pen);
+        }
         for (const Line& line : markerLines(kind, spot, size)) {
             drawLine(painter, line);
         }
     }
 }
 
-void prepareMarkers(QPainter& painter, const SeriesAtrType& attributes, double lengthScale) {
-    painter.setPen(seriesPen(attributes, 0, lengthScale));
-    painter.setBrush(Qt::NoBrush);
-}
-
 void paintMarkers(QPainter& painter, const SeriesAtrType& attributes, const std::vector<Spot>& spots,
                   double lengthScale) {
-    prepareMarkers(painter, attributes, lengthScale);
+    // Markers are small: a thin pen keeps their shapes apart, a white inside keeps lines out of them.
+    const QPen pen = linePen(attributes.colour, 1, 0, lengthScale);
+    painter.setPen(pen);
+    painter.setBrush(Qt::white);
     const int size = scaledSize(attributes.markerSize, kLargestMarker, lengthScale);
     for (const Spot& spot : spots) {
-        paintMarker(painter, attributes.markerKind, spot, size);
+        paintMarker(painter, attributes.markerKind, spot, size, pen);
     }
 }
 
@@ -81,11 +96,22 @@ void paintArrow(QPainter& painter, const Arrow& arrow) {
     }
 }
 
+Arrow clipped(const Arrow& arrow, const Box& area) {
+    Arrow result;
+    result.shaft = clippedLine(arrow.shaft, area).value_or(Line{arrow.shaft.from, arrow.shaft.from});
+    for (const Line& stroke : arrow.head) {
+        if (const std::optional<Line> line = clippedLine(stroke, area)) {
+            result.head.push_back(*line);
+        }
+    }
+    return result;
+}
+
 void paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
     const Polylines lines = polylineEnvelope(series, geometry);
     painter.setPen(seriesPen(series.attributes, lines.dense ? 0 : series.attributes.penStyle, lengthScale));
     painter.setBrush(Qt::NoBrush);
-    strokePolylines(painter, lines);
+    strokePolylines(painter, clipsByItself(painter) ? lines : clipped(lines, plotArea(geometry)));
 }
 
 }  // namespace
@@ -151,13 +177,13 @@ void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils
             break;
         case SeriesStyle::Bars:
             for (const Box& box : barBoxes(series, geometry)) {
-                paintBar(painter, attributes, box, lengthScale);
+                paintBar(painter, attributes, box.common(plotArea(geometry)), lengthScale);
             }
             break;
         case SeriesStyle::Arrows:
             painter.setPen(seriesPen(attributes, attributes.penStyle, lengthScale));
             for (const Arrow& arrow : arrows(series, geometry, lengthScale)) {
-                paintArrow(painter, arrow);
+                paintArrow(painter, clipsByItself(painter) ? arrow : clipped(arrow, plotArea(geometry)));
             }
             break;
     }

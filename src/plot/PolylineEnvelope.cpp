@@ -10,7 +10,7 @@ namespace vorlan {
 namespace {
 
 // Points per column above which a line counts as dense.
-constexpr std::size_t kDensePoints = 3;
+constexpr std::size_t kDensePoints = 16;
 
 class Column {
   public:
@@ -112,6 +112,52 @@ Polylines fullPolyline(const PlotSeries& series, const CScreenUtils& geometry) {
         lines.parts.back().push_back({geometry.originX + xPixels.offset(x), geometry.originY - yPixels.offset(y)});
     }
     return lines;
+}
+
+std::optional<Line> clippedLine(const Line& line, const Box& area) {
+    const double dx = line.to.x - line.from.x;
+    const double dy = line.to.y - line.from.y;
+    double enter = 0.0;
+    double leave = 1.0;
+    // One side of the area after another: inside is distance <= room along the line.
+    const auto cut = [&](double distance, double room) {
+        if (distance == 0.0) {
+            return room >= 0.0;
+        }
+        const double at = room / distance;
+        (distance < 0.0 ? enter : leave) = distance < 0.0 ? std::max(enter, at) : std::min(leave, at);
+        return enter <= leave;
+    };
+    if (!cut(-dx, line.from.x - area.left) || !cut(dx, area.right - line.from.x) || !cut(-dy, line.from.y - area.top) ||
+        !cut(dy, area.bottom - line.from.y)) {
+        return std::nullopt;
+    }
+    const auto at = [&](double share) {
+        return Spot{static_cast<int>(std::lround(line.from.x + share * dx)),
+                    static_cast<int>(std::lround(line.from.y + share * dy))};
+    };
+    return Line{at(enter), at(leave)};
+}
+
+Polylines clipped(const Polylines& lines, const Box& area) {
+    Polylines result;
+    result.dense = lines.dense;
+    for (const std::vector<Spot>& part : lines.parts) {
+        bool joined = false;
+        for (std::size_t i = 1; i < part.size(); ++i) {
+            const std::optional<Line> line = clippedLine({part[i - 1], part[i]}, area);
+            if (!line) {
+                joined = false;
+                continue;
+            }
+            if (!joined || result.parts.back().back() != line->from) {
+                result.parts.push_back({line->from});
+            }
+            result.parts.back().push_back(line->to);
+            joined = true;
+        }
+    }
+    return result;
 }
 
 }  // namespace vorlan

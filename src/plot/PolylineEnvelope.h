@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "plot/CScreenUtils.h"
@@ -20,5 +21,11 @@ Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometr
 
 /// The polylines through every point, for comparison.
 Polylines fullPolyline(const PlotSeries& series, const CScreenUtils& geometry);
+
+/// The part of a line inside area, edges included.
+std::optional<Line> clippedLine(const Line& line, const Box& area);
+
+/// lines cut at the edges of area, for devices that cannot clip.
+Polylines clipped(const Polylines& lines, const Box& area);
 
 }  // namespace vorlan

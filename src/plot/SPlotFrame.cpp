@@ -15,7 +15,8 @@ constexpr int kSmallestWidth = 60;
 constexpr int kSmallestHeight = 40;
 constexpr int kLongestStroke = 200;
 constexpr int kMostTicks = 100;
-constexpr int kSmallestDecade = 4;  // pixels
+constexpr double kLargestLegend = 0.25;  // share of the plot area that a legend may cover
+constexpr int kSmallestDecade = 4;       // pixels
 
 bool blank(const std::string& text) {
     return text.find_first_not_of(' ') == std::string::npos;
@@ -299,7 +300,8 @@ class Composer {
         const int inset = gap() + std::max(-x_.markLength, 0) * (fullFrame() ? 1 : 0);
         legend_.move(g.originX + g.width - inset - legend_.box.width(), g.originY - g.height + inset);
         const Box plotArea{g.originX, g.originY - g.height, g.originX + g.width, g.originY};
-        if (plotArea.encloses(legend_.box)) {
+        const double share = static_cast<double>(legend_.box.width()) * legend_.box.height() / g.width / g.height;
+        if (plotArea.encloses(legend_.box) && share <= kLargestLegend) {
             out_.legend = legend_;
         }
     }

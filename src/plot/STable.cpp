@@ -141,7 +141,7 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
     const int columns = static_cast<int>(headers.size());
     const int otherWidth = columns > 1 ? (tableWidth - firstWidth) / (columns - 1) : tableWidth;
     const auto add = [&](const std::string& text, int columnLeft, int width, int y) {
-        const std::string shown = shortenedInside(text, font, width, measure, share);
+        const std::string shown = shortenedInside(text, font, width - kTextGap, measure, share);
         const int textWidth = measure.width(shown, font, share);
         const int x = columnLeft + width / 2 - textWidth / 2;
         if (!shown.empty()) {

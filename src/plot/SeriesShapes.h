@@ -34,7 +34,8 @@ Arrow arrowShape(const Spot& start, const Spot& end, double headLength, double h
 /// One arrow per point on the plot area, arrowScale * lengthScale pixels per unit of the vector.
 std::vector<Arrow> arrows(const PlotSeries& series, const CScreenUtils& geometry, double lengthScale);
 
-/// Texts beside points of the data, right of them where there is room and no other text, else on another side.
+/// Texts beside points of the data, right of them where there is room and neither a text nor an arrow, else on
+/// another side.
 std::vector<PlacedText> pointTexts(const Diagram& diagram, const CScreenUtils& geometry, const TextMeasure& measure,
                                    double lengthScale);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include "model/FontDescription.h"
@@ -33,6 +34,10 @@ struct Box {
     }
     bool encloses(const Box& other) const {
         return left <= other.left && other.right <= right && top <= other.top && other.bottom <= bottom;
+    }
+    Box common(const Box& other) const {
+        return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+                std::min(bottom, other.bottom)};
     }
     Box moved(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
     friend bool operator==(const Box&, const Box&) = default;
