@@ -1,0 +1,24 @@
+#include "ui/dialogs/CExportScopeDlg.h"
+
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+#include "ui/dialogs/FieldLayout.h"
+
+namespace vorlan {
+
+CExportScopeDlg::CExportScopeDlg(bool allProbes, QWidget* parent)
+    : CParameterDialog(QStringLiteral("Export Data"), parent), allProbes_(allProbes) {
+    scope_ = radioButtons({QStringLiteral("for &current probe only"), QStringLiteral("for &all files and probes")},
+                          allProbes ? 1 : 0, this);
+    body()->addWidget(radioBox(QStringLiteral("Table"), scope_));
+    finish(firstStop(scope_));
+}
+
+bool CExportScopeDlg::takeFields(FieldReader&) {
+    allProbes_ = scope_->checkedId() == 1;
+    return true;
+}
+
+}  // namespace vorlan

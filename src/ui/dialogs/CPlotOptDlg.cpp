@@ -1,0 +1,163 @@
+#include "ui/dialogs/CPlotOptDlg.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "model/FrameLimits.h"
+#include "ui/dialogs/FieldLayout.h"
+#include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FontConversion.h"
+#include "ui/dialogs/RawText.h"
+
+namespace vorlan {
+
+namespace {
+
+constexpr int kLargestCount = 32767;
+constexpr int kLargestDigits = 9;
+
+enum FontRow { kPlotTitleFont, kAxisTitleFont, kLabelFont, kLegendFont };
+
+FontDescription& fontOfRow(FrameAttributesType& frame, int row) {
+    switch (row) {
+        case kPlotTitleFont:
+            return frame.plotTitleFont;
+        case kAxisTitleFont:
+            return frame.axisTitleFont;
+        case kLabelFont:
+            return frame.labelFont;
+        default:
+            return frame.legendFont;
+    }
+}
+
+std::int32_t gridModeOf(bool onMarks, bool onTicks) {
+    return static_cast<std::int32_t>(onMarks ? GridMode::Marks : GridMode::None) |
+           static_cast<std::int32_t>(onTicks ? GridMode::Ticks : GridMode::None);
+}
+
+}  // namespace
+
+CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales, QWidget* parent)
+    : CParameterDialog(QStringLiteral("Plot Frame Options"), parent), values_(frame), chosen_(frame) {
+    auto* left = new QVBoxLayout;
+    left->addWidget(typeBox(allowedScales));
+    left->addWidget(limitsBox());
+    left->addWidget(stepBox());
+    left->addWidget(titlesBox());
+    auto* right = new QVBoxLayout;
+    right->addWidget(ticksBox());
+    right->addWidget(digitsBox());
+    right->addWidget(fontsBox());
+    right->addWidget(gridBox());
+    right->addWidget(legendBox());
+    right->addStretch();
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(left);
+    columns->addLayout(right);
+    body()->addLayout(columns);
+    showFonts();
+    showColour();
+    finish(scale_);
+}
+
+IntegerField* CPlotOptDlg::newCount(int value) {
+    auto* field = new IntegerField(this);
+    field->setInteger(value);
+    return field;
+}
+
+QLineEdit* CPlotOptDlg::newTitle(const std::string& text) {
+    auto* edit = new QLineEdit(displayText(text), this);
+    edit->setCursorPosition(0);
+    return edit;
+}
+
+void CPlotOptDlg::showFonts() {
+    plotTitle_->setFont(platformFont(chosen_.plotTitleFont));
+    xTitle_->setFont(platformFont(chosen_.axisTitleFont));
+    yTitle_->setFont(platformFont(chosen_.axisTitleFont));
+    legendTitle_->setFont(platformFont(chosen_.legendFont));
+}
+
+void CPlotOptDlg::showColour() {
+    QPixmap swatch(16, 16);
+    swatch.fill(platformColour(chosen_.gridColour));
+    colour_->setIcon(swatch);
+}
+
+void CPlotOptDlg::chooseFont() {
+    FontDescription& font = fontOfRow(chosen_, fonts_->currentRow());
+    if (const std::optional<FontDescription> picked = pickFont_(this, font)) {
+        font = *picked;
+        showFonts();
+    }
+}
+
+void CPlotOptDlg::chooseColour() {
+    if (const std::optional<std::int32_t> picked = pickColour_(this, chosen_.gridColour)) {
+        chosen_.gridColour = *picked;
+        showColour();
+    }
+}
+
+void CPlotOptDlg::AutomaticValue::read(FieldReader& reader, double& into, std::int32_t& mode) const {
+    const bool wasAutomatic = mode == 0;
+    if (automatic->isChecked() != wasAutomatic) {
+        mode = automatic->isChecked() ? 0 : 1;
+    }
+    reader.number(value, into);
+}
+
+void CPlotOptDlg::readChoices(FrameAttributesType& read) const {
+    if (const QListWidgetItem* scale = scale_->currentItem()) {
+        read.scaleType = scale->data(Qt::UserRole).toInt();
+    }
+    read.frameStyle = chosen(style_, values_.frameStyle);
+    read.plotTitle = editedText(plotTitle_->text(), values_.plotTitle);
+    read.xTitle = editedText(xTitle_->text(), values_.xTitle);
+    read.yTitle = editedText(yTitle_->text(), values_.yTitle);
+    read.legendTitle = editedText(legendTitle_->text(), values_.legendTitle);
+    read.tickOrientation = chosenCode(orientation_, values_.tickOrientation);
+    const std::int32_t shownGrid =
+        gridModeOf(gridDrawnOn(values_.gridMode, GridMode::Marks), gridDrawnOn(values_.gridMode, GridMode::Ticks));
+    const std::int32_t grid = gridModeOf(gridOnMarks_->isChecked(), gridOnTicks_->isChecked());
+    read.gridMode = grid == shownGrid ? values_.gridMode : grid;
+    read.gridLineStyle = chosenCode(lineStyle_, values_.gridLineStyle);
+    read.legendPosition = chosenCode(legendPosition_, values_.legendPosition);
+}
+
+bool CPlotOptDlg::takeFields(FieldReader& reader) {
+    FrameAttributesType read = chosen_;
+    readChoices(read);
+    xMin_.read(reader, read.xMin, read.xMinMode);
+    yMin_.read(reader, read.yMin, read.yMinMode);
+    xMax_.read(reader, read.xMax, read.xMaxMode);
+    yMax_.read(reader, read.yMax, read.yMaxMode);
+    xStep_.read(reader, read.xStep, read.xStepMode);
+    yStep_.read(reader, read.yStep, read.yStepMode);
+    const auto count = [&reader](IntegerField* field, std::int32_t& into, int largest) {
+        if (!field->untouched()) {
+            reader.integer(field, into, 0, largest);
+        }
+    };
+    count(tickSize_, read.tickSize, kLargestCount);
+    count(markSize_, read.markSize, kLargestCount);
+    count(ticksPerMark_, read.ticksPerMark, kLargestCount);
+    count(xDigits_, read.xDigits, kLargestDigits);
+    count(yDigits_, read.yDigits, kLargestDigits);
+    const std::string refusal = limitsRefusal(read);
+    QWidget* field = fieldNamedIn(refusal, {{"Xmin", xMin_.value}, {"Ymin", yMin_.value}});
+    if (!reader.require(refusal, field, QMessageBox::Ok).good()) {
+        return false;
+    }
+    values_ = read;
+    return true;
+}
+
+}  // namespace vorlan

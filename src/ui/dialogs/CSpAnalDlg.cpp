@@ -1,0 +1,121 @@
+#include "ui/dialogs/CSpAnalDlg.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QSlider>
+
+#include "ui/dialogs/CUpDown.h"
+#include "ui/dialogs/FieldLayout.h"
+#include "ui/dialogs/FieldReader.h"
+
+namespace vorlan {
+
+namespace {
+constexpr int kPercentMode = 0;
+constexpr int kLagsMode = 1;
+constexpr int kLargestPercent = 50;
+constexpr int kLargestSpin = 10000;
+}  // namespace
+
+CSpAnalDlg::CSpAnalDlg(const SpectralSettings& settings, QWidget* parent)
+    : CParameterDialog(QStringLiteral("Spectral Analysis | Parameters"), parent), values_(settings) {
+    window_ = radioButtons({QStringLiteral("&Rectangle"), QStringLiteral("&Bartlett"), QStringLiteral("&Tukey"),
+                            QStringLiteral("P&arzen")},
+                           settings.windowButton, this);
+    unit_ = radioButtons({QStringLiteral("Ra&d/s"), QStringLiteral("&Hz")}, settings.unitButton, this);
+    auto* top = new QHBoxLayout;
+    top->addWidget(radioBox(QStringLiteral("Lag Window"), window_), 1);
+    top->addWidget(radioBox(QStringLiteral("Frequency Units"), unit_), 1);
+    body()->addLayout(top);
+    body()->addWidget(truncationBox());
+    finish(firstStop(window_));
+}
+
+QWidget* CSpAnalDlg::truncationBox() {
+    auto* box = new QGroupBox(QStringLiteral("Truncation Point"), this);
+    mode_ = new QButtonGroup(this);
+    auto* percentButton = new QRadioButton(QStringLiteral("&Percent of Time Series Length"), box);
+    percent_ = new QSlider(Qt::Horizontal, box);
+    percentText_ = new QLabel(box);
+    auto* lagsButton = new QRadioButton(QStringLiteral("&Number of Lags"), box);
+    lags_ = new IntegerField(box);
+    lagsUpDown_ = new CUpDown(0, kLargestSpin, lags_, box);
+    mode_->addButton(percentButton, kPercentMode);
+    mode_->addButton(lagsButton, kLagsMode);
+    (values_.truncationMode == kLagsMode ? lagsButton : percentButton)->setChecked(true);
+
+    percent_->setRange(0, kLargestPercent);
+    percent_->setPageStep(5);
+    percent_->setTickInterval(10);
+    percent_->setTickPosition(QSlider::TicksBelow);
+    percent_->setMinimumWidth(180);
+    percent_->setValue(values_.percent);
+    percentText_->setMinimumWidth(percentText_->fontMetrics().horizontalAdvance(QStringLiteral("100%")));
+    percentText_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    showPercent(percent_->value());
+    lags_->setInteger(values_.lags);
+    lagsUpDown_->setPosition(values_.lags);
+    enableLags(values_.truncationMode == kLagsMode);
+
+    auto* slider = new QHBoxLayout;
+    slider->addWidget(new QLabel(QStringLiteral("0"), box));
+    slider->addWidget(percent_, 1);
+    slider->addWidget(new QLabel(QStringLiteral("50"), box));
+    slider->addSpacing(8);
+    slider->addWidget(percentText_);
+    auto* lags = new QHBoxLayout;
+    lags->addWidget(lagsButton);
+    lags->addStretch();
+    lags->addLayout(withUpDown(lags_, lagsUpDown_));
+    auto* rows = new QVBoxLayout(box);
+    rows->addWidget(percentButton);
+    rows->addLayout(slider);
+    rows->addSpacing(6);
+    rows->addLayout(lags);
+
+    connect(percent_, &QSlider::valueChanged, this, &CSpAnalDlg::showPercent);
+    connect(mode_, &QButtonGroup::idClicked, this, &CSpAnalDlg::chooseMode);
+    connect(lagsUpDown_, &CUpDown::aboutToMove, this, [this] {
+        if (const std::optional<int> shown = lags_->integer()) {
+            lagsUpDown_->setPosition(*shown);
+        }
+    });
+    connect(lagsUpDown_, &CUpDown::moved, this,
+            [this](int lags_shown) { lags_->setText(QString::number(lags_shown)); });
+    return box;
+}
+
+void CSpAnalDlg::chooseMode(int mode) {
+    percentFlag_ = mode == kPercentMode;
+    enableLags(mode == kLagsMode);
+    percent_->setEnabled(mode == kPercentMode);
+}
+
+void CSpAnalDlg::enableLags(bool on) {
+    lags_->setEnabled(on);
+    lagsUpDown_->setEnabled(on);
+}
+
+void CSpAnalDlg::showPercent(int percent) {
+    percentText_->setText(QString::number(percent) + QLatin1Char('%'));
+}
+
+bool CSpAnalDlg::takeFields(FieldReader& reader) {
+    SpectralSettings read = values_;
+    read.windowButton = chosen(window_, values_.windowButton);
+    read.unitButton = chosen(unit_, values_.unitButton);
+    read.truncationMode = chosen(mode_, values_.truncationMode);
+    read.percent = percent_->value();
+    read.percentFlag = percentFlag_;
+    QWidget* field = read.truncationMode == kPercentMode ? static_cast<QWidget*>(percent_) : lags_;
+    if (!reader.integer(lags_, read.lags).require(refusalOf(read), field).good()) {
+        return false;
+    }
+    values_ = read;
+    return true;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,37 @@
+#include "ui/dialogs/CStatDlg.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+#include "ui/dialogs/FieldLayout.h"
+#include "ui/dialogs/FieldReader.h"
+
+namespace vorlan {
+
+CStatDlg::CStatDlg(const StationaritySettings& settings, QWidget* parent)
+    : CParameterDialog(QStringLiteral("Stationarity Analysis | Parameters"), parent), values_(settings) {
+    mode_ =
+        radioButtons({QStringLiteral("&fixed"), QStringLiteral("&cumulative")}, static_cast<int>(settings.mode), this);
+    bands_ = new IntegerField(this);
+    bands_->setInteger(settings.bands);
+    auto* grid = new QGridLayout;
+    addField(grid, 0, 0, QStringLiteral("&Number of Bands"), bands_);
+    grid->setColumnStretch(0, 1);
+    body()->addWidget(radioBox(QStringLiteral("Band Width"), mode_));
+    body()->addLayout(grid);
+    finish(firstStop(mode_));
+}
+
+bool CStatDlg::takeFields(FieldReader& reader) {
+    StationaritySettings read = values_;
+    read.mode = static_cast<BandMode>(chosen(mode_, static_cast<int>(values_.mode)));
+    if (!reader.integer(bands_, read.bands).require(refusalOf(read), bands_).good()) {
+        return false;
+    }
+    values_ = read;
+    return true;
+}
+
+}  // namespace vorlan

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QFont>
+
+#include "model/FontDescription.h"
+
+namespace vorlan {
+
+/// The platform's font for a stored description.
+QFont platformFont(const FontDescription& description);
+
+/// The description after the user has picked a font in a dialog that opened on another one. Only what the user
+/// changed is encoded again: family, letter height (stored negative, in pixels), weight, italic, underline and
+/// strike-out; every other byte stays.
+FontDescription pickedFont(const FontDescription& before, const QFont& opened, const QFont& picked);
+
+}  // namespace vorlan
