@@ -1,9 +1,8 @@
 // Distributions of the velocity components and their moments.
-#include <algorithm>
-
 #include "analysis/AnalysedSeries.h"
 #include "analysis/Histogram.h"
 #include "analysis/MomentEstimators.h"
+#include "analysis/ResultAxes.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
@@ -59,9 +58,7 @@ PaneContent allComponents(const PaneRequest& request, const SAdvProbe& probe) {
         if (!hasHistogram(series)) {
             continue;
         }
-        const std::vector<double> ends = gradeEnds(series);
-        const double width = ends[1] - ends[0];
-        diagram.plot.series.push_back(curve(plotValues(series.histogram), SeriesX{ends[0] + 0.5 * width, width, {}}, c,
+        diagram.plot.series.push_back(curve(plotValues(series.histogram), SeriesX{0.0, 1.0, gradeCentres(series)}, c,
                                             kVelocityLabels[static_cast<std::size_t>(c)]));
     }
     return diagramOrMessage(std::move(diagram));

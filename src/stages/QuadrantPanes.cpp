@@ -1,7 +1,7 @@
 // Contribution of the quadrants to a stress by hole size, and the velocities around its events.
 #include <algorithm>
-#include <cmath>
 
+#include "analysis/ResultAxes.h"
 #include "analysis/StressPairs.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
@@ -12,15 +12,9 @@ namespace {
 
 constexpr std::array<const char*, 5> kBucketLabels = {"1", "2", "3", "4", "Hole"};
 
-/// Step between hole sizes: that of the probe's last run, the workspace's while none is recorded.
-double holeStep(const PaneRequest& request, const SAdvProbe& probe) {
-    const double step = probe.statistics[SAdvProbe::kQuadrantRun];
-    return std::isfinite(step) && step != 0.0 ? step : request.workspace.settings.holeIncrement;
-}
-
 PaneContent byHoleSize(const PaneRequest& request, const SAdvProbe& probe, std::size_t table) {
     Diagram diagram = newDiagram(request, &probe);
-    const SeriesX sizes{0.0, holeStep(request, probe), {}};
+    const SeriesX sizes{0.0, holeIncrementOf(probe, request.workspace.settings.holeIncrement), {}};
     for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
         diagram.plot.series.push_back(
             curve(plotColumn(probe.stageTables[table], q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));
@@ -35,8 +29,8 @@ PaneContent pattern(const PaneRequest& request, const SAdvProbe& probe, std::siz
     int column = 0;
     for (const int component : {pair.first, pair.second}) {
         std::vector<double> values = plotColumn(probe.stageTables[table], column);
-        const auto reach = static_cast<double>(values.size() / 2);
-        const SeriesX times{-reach * probe.samplingInterval, probe.samplingInterval, {}};
+        const double first = patternLag(0, static_cast<int>(values.size()), probe.samplingInterval);
+        const SeriesX times{first, probe.samplingInterval, {}};
         diagram.plot.series.push_back(
             curve(std::move(values), times, component, kVelocityLabels[static_cast<std::size_t>(component)]));
         ++column;

@@ -49,7 +49,7 @@ struct VelocityExtremes {
     std::array<double, 3> highest{kNaN, kNaN, kNaN};
 };
 
-VelocityExtremes extremesOf(const SAdvProbe& probe) {
+VelocityExtremes velocityExtremes(const SAdvProbe& probe) {
     VelocityExtremes extremes;
     if (!hasWholeRecord(probe)) {
         return extremes;
@@ -100,6 +100,7 @@ PlotSeries arrows(std::int32_t colour, double length, double speed, const std::s
     series.attributes.colour = colour;
     series.attributes.arrowScale = length / speed;
     series.attributes.legendText = legend;
+    series.legendArrow = speed;
     return series;
 }
 
@@ -165,7 +166,7 @@ PaneContent extremesPlan(const PaneRequest& request) {
                                formatted("%.0f cm/s [red arrows are maximum and blue are minimum values]", speed));
     PlotSeries minima = arrows(kBlue, settings.planPixels, speed, {});
     forEachProbe(request.workspace.dataFiles, plane, diagram, [&](const SAdvProbe& probe, double x, double y) {
-        const VelocityExtremes extremes = extremesOf(probe);
+        const VelocityExtremes extremes = velocityExtremes(probe);
         addArrow(maxima, x, y, extremes.highest, plane);
         addArrow(minima, x, y, extremes.lowest, plane);
     });
