@@ -226,6 +226,7 @@ void UserCommands::exportData(ExportKind kind) {
         }
         job.all = dialog.allProbes();
     }
+    job.options.holeIncrement = document_.Settings().holeIncrement;
     const QString path =
         boxes_->chooseExport(&window_, QDir(files_.folder()).filePath(QString::fromLatin1(info.defaultFile)));
     if (path.isEmpty()) {
