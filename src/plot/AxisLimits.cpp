@@ -15,6 +15,7 @@ constexpr double kLargestLimit = 1e300;
 constexpr int kMostMarks = 1000000;
 // Ends that differ by less than their rounding errors count as equal.
 constexpr double kSmallestRelativeRange = 1e-12;
+constexpr double kSmallestRange = 1e-290;
 
 double usable(double limit) {
     return std::isfinite(limit) ? std::clamp(limit, -kLargestLimit, kLargestLimit) : 0.0;
@@ -33,7 +34,8 @@ double magnitude(const AxisLimits& limits) {
 void partEnds(AxisLimits& limits, const AxisRule& rule, double distance) {
     const double range = limits.upper - limits.lower;
     const bool bothGiven = !rule.lowerFromData && !rule.upperFromData;
-    if (std::fabs(range) > magnitude(limits) * kSmallestRelativeRange && (range > 0.0 || bothGiven)) {
+    const double smallest = std::max(magnitude(limits) * kSmallestRelativeRange, kSmallestRange);
+    if (std::fabs(range) > smallest && (range > 0.0 || bothGiven)) {
         return;
     }
     distance = std::max(distance, magnitude(limits) * 1e-3);

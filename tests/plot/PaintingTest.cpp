@@ -1,0 +1,238 @@
+#include <QBuffer>
+#include <QImage>
+#include <QSvgRenderer>
+#include <QTest>
+#include <array>
+#include <cmath>
+#include <random>
+
+#include "plot/PaintPane.h"
+#include "plot/PaintSeries.h"
+#include "plot/QtText.h"
+#include "plot/RenderFile.h"
+
+using namespace vorlan;
+
+namespace {
+
+constexpr QRgb kWhite = 0xFFFFFFFF;
+
+struct Painted {
+    QImage image;
+    std::optional<CScreenUtils> geometry;
+};
+
+Painted paint(const PaneContent& content, QSize size = QSize(500, 330)) {
+    Painted result;
+    result.image = QImage(size, QImage::Format_RGB32);
+    result.image.fill(Qt::darkGray);
+    QPainter painter(&result.image);
+    result.geometry = paintPane(painter, QRect(QPoint(0, 0), size), content);
+    return result;
+}
+
+qint64 inked(const QImage& image) {
+    qint64 count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += image.pixel(x, y) != kWhite ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+qint64 differing(const QImage& a, const QImage& b) {
+    qint64 count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+PlotSeries noise(std::size_t n, double step, unsigned seed) {
+    std::mt19937 random(seed);
+    std::normal_distribution<double> normal;
+    PlotSeries series;
+    series.x.step = step;
+    double value = 0.0;
+    for (std::size_t i = 0; i < n; ++i) {
+        value = 0.98 * value + normal(random);
+        series.y.push_back(value);
+    }
+    return series;
+}
+
+Diagram diagramOf(PlotSeries series) {
+    Diagram diagram;
+    diagram.frame.plotTitle = "Sampled Velocities";
+    diagram.plot.series.push_back(std::move(series));
+    return diagram;
+}
+
+QImage drawn(const Polylines& lines, const QPen& pen) {
+    QImage image(1600, 900, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setPen(pen);
+    strokePolylines(painter, lines);
+    return image;
+}
+
+CScreenUtils wideGeometry(double duration) {
+    CScreenUtils g;
+    g.originX = 50;
+    g.originY = 850;
+    g.width = 1500;
+    g.height = 800;
+    g.xMax = duration;
+    g.xScale = duration / g.width;
+    g.yMin = -25.0;
+    g.yMax = 25.0;
+    g.yScale = 50.0 / g.height;
+    return g;
+}
+
+}  // namespace
+
+class PaintingTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void envelopeCoversThePixelsOfTheFullLine() {
+        for (const int width : {1, 2, 3}) {
+            const PlotSeries series = noise(60000, 0.01, static_cast<unsigned>(width));
+            const CScreenUtils g = wideGeometry(600.0);
+            const QPen pen = linePen(0, width, 0, 1.0);
+            const QImage full = drawn(fullPolyline(series, g), pen);
+            const QImage thin = drawn(polylineEnvelope(series, g), pen);
+            const qint64 ink = inked(full);
+            QVERIFY(ink > 100000);
+            const qint64 differences = differing(full, thin);
+            QVERIFY2(differences * 10000 <= ink, qPrintable(QString::number(differences)));
+        }
+    }
+
+    void aMillionPointsAreDrawnInATime() {
+        Diagram diagram = diagramOf(noise(1000000, 0.01, 5));
+        diagram.plot.series[0].attributes.penWidth = 2;
+        QElapsedTimer timer;
+        timer.start();
+        const Painted painted = paint(diagram, QSize(1600, 900));
+        QVERIFY(painted.geometry.has_value());
+        // Slack for instrumented builds; a quadratic line would take minutes.
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void diagramsGiveTheirGeometry() {
+        const Painted painted = paint(diagramOf(noise(1000, 0.1, 1)));
+        QVERIFY(painted.geometry.has_value());
+        const CScreenUtils& g = *painted.geometry;
+        QCOMPARE(painted.image.pixel(g.originX, g.originY), QRgb(0xFF000000));
+        QCOMPARE(painted.image.pixel(g.originX + g.width, g.originY), QRgb(0xFF000000));
+        QCOMPARE(painted.image.pixel(0, 0), kWhite);
+        QCOMPARE(painted.image.pixel(499, 329), kWhite);
+    }
+
+    void seriesStayInsideThePlotArea() {
+        for (const SeriesStyle style : {SeriesStyle::Line, SeriesStyle::Bars, SeriesStyle::Arrows}) {
+            Diagram diagram = diagramOf(noise(300, 0.1, 1));
+            FrameAttributesType& frame = diagram.frame;
+            frame.yMinMode = frame.yMaxMode = frame.xMinMode = frame.xMaxMode = 1;
+            frame.yMin = -1.0;
+            frame.yMax = 1.0;
+            frame.xMin = 5.0;
+            frame.xMax = 10.0;
+            PlotSeries& series = diagram.plot.series[0];
+            series.attributes.style = style;
+            series.attributes.colour = 255;
+            series.attributes.arrowScale = 300.0;
+            series.vx.assign(series.y.size(), 1.0);
+            series.vy.assign(series.y.size(), 1.0);
+            const Painted painted = paint(diagram);
+            const CScreenUtils g = painted.geometry.value();
+            bool inside = false;
+            for (int y = 0; y < painted.image.height(); ++y) {
+                for (int x = 0; x < painted.image.width(); ++x) {
+                    if (painted.image.pixel(x, y) == QRgb(0xFFFF0000)) {
+                        inside = true;
+                        QVERIFY(g.contains(x, y));
+                    }
+                }
+            }
+            QVERIFY(inside);
+        }
+    }
+
+    void messagesReplaceDiagrams() {
+        // A message is painted as a pane message of the same text is.
+        const auto sameAs = [](const Painted& painted, const char* text) {
+            return painted.image == paint(PaneMessage{text}, painted.image.size()).image && !painted.geometry;
+        };
+        QVERIFY(sameAs(paint(diagramOf(PlotSeries())), "No data to plot ! Reset series to continue."));
+        QVERIFY(sameAs(paint(diagramOf(noise(10, 1.0, 1)), QSize(110, 70)), "Increase Size to View Data"));
+        QVERIFY(inked(paint(PaneMessage{"text"}).image) > 10);
+        QCOMPARE(inked(paint(std::monostate()).image), 0);
+    }
+
+    void tablesAndPanelsArePainted() {
+        TableContent table;
+        table.headers = {"  ", "Mean"};
+        table.rows = {{"U", {1.0}}, {"V", {2.0}}};
+        const Painted painted = paint(table);
+        QVERIFY(!painted.geometry);
+        QCOMPARE(painted.image.pixel(250, 0), kWhite);
+        int rules = 0;
+        for (int y = 0; y < painted.image.height(); ++y) {
+            rules += painted.image.pixel(1, y) == QRgb(0xFF000000) && painted.image.pixel(498, y) == QRgb(0xFF000000);
+        }
+        QCOMPARE(rules, 2);
+        QVERIFY(inked(paint(TextPanel{{"one", "two"}, {}}).image) > 2 * inked(paint(TextPanel{{"o"}, {}}).image));
+    }
+
+    void painterComesBackAsItWas() {
+        QImage image(300, 200, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.setPen(Qt::red);
+        painter.setClipRect(0, 0, 50, 50);
+        paintPane(painter, QRect(0, 0, 300, 200), diagramOf(noise(10, 1.0, 1)));
+        QCOMPARE(painter.pen().color(), QColor(Qt::red));
+        QCOMPARE(painter.clipBoundingRect().toRect(), QRect(0, 0, 50, 50));
+    }
+
+    void fontsFollowTheirDescription() {
+        const QFont font = qtFont(FontDescription("ARIAL", -20, 700, true), 2.0);
+        QCOMPARE(font.pixelSize(), 40);
+        QCOMPARE(font.weight(), QFont::Bold);
+        QVERIFY(font.italic());
+    }
+
+    void filesHoldThePanes() {
+        const std::array<PaneContent, 4> panes{diagramOf(noise(500, 0.1, 1)), PaneMessage{"left bottom"},
+                                               std::monostate(), diagramOf(noise(500, 0.1, 2))};
+        const QByteArray png = renderPanes(panes, QSize(800, 600), RenderFormat::Png);
+        const QImage image = QImage::fromData(png, "PNG");
+        QCOMPARE(image.size(), QSize(800, 600));
+        QVERIFY(inked(image.copy(0, 0, 397, 297)) > 500);
+        QVERIFY(inked(image.copy(0, 303, 397, 297)) > 50);
+        QCOMPARE(inked(image.copy(403, 0, 397, 297)), 0);
+        QVERIFY(inked(image.copy(403, 303, 397, 297)) > 500);
+
+        QSvgRenderer svg(renderPanes(panes, QSize(800, 600), RenderFormat::Svg));
+        QVERIFY(svg.isValid());
+        QCOMPARE(svg.viewBox().width() * 3, svg.viewBox().height() * 4);
+        QImage fromSvg(800, 600, QImage::Format_RGB32);
+        fromSvg.fill(Qt::white);
+        QPainter painter(&fromSvg);
+        svg.render(&painter);
+        QVERIFY(inked(fromSvg) > 1000);
+        QVERIFY(renderPanes(panes, QSize(800, 600), RenderFormat::Pdf).startsWith("%PDF-"));
+        QVERIFY(renderPanes({}, QSize(800, 600), RenderFormat::Png).isEmpty());
+        QVERIFY(renderPanes(panes, QSize(0, 600), RenderFormat::Pdf).isEmpty());
+        QVERIFY(!renderPanes(panes, QSize(1, 1), RenderFormat::Png).isEmpty());
+    }
+};
+
+QTEST_MAIN(PaintingTest)
+#include "PaintingTest.moc"

@@ -1,0 +1,213 @@
+#include "plot/SPlotFrame.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "plot/FixedMeasure.h"
+
+using namespace vorlan;
+
+namespace {
+
+constexpr Box kPane{0, 0, 500, 330};
+
+Diagram diagramOf(std::vector<double> y, double step = 1.0) {
+    Diagram diagram;
+    diagram.frame.plotTitle = "Title";
+    diagram.frame.xTitle = "Time, s";
+    diagram.frame.yTitle = "Velocity,cm/s";
+    PlotSeries series;
+    series.x.step = step;
+    series.y = std::move(y);
+    series.attributes.legendText = "Ux";
+    diagram.plot.series.push_back(series);
+    return diagram;
+}
+
+FrameLayout layoutOf(const Diagram& diagram, const Box& pane = kPane, double scale = 1.0) {
+    const FixedMeasure measure(static_cast<int>(6 * scale), static_cast<int>(12 * scale));
+    return SPlotFrame(diagram, measure, scale).layout(pane);
+}
+
+// Nothing outside the pane, no text over another or over the plot area.
+void expectTidy(const FrameLayout& layout, const Box& pane) {
+    const CScreenUtils& g = layout.geometry;
+    const Box plotArea{g.originX + 1, g.originY - g.height + 1, g.originX + g.width, g.originY};
+    for (std::size_t i = 0; i < layout.texts.size(); ++i) {
+        const PlacedText& text = layout.texts[i];
+        EXPECT_TRUE(pane.encloses(text.box)) << text.text;
+        EXPECT_FALSE(plotArea.overlaps(text.box)) << text.text;
+        for (std::size_t k = 0; k < i; ++k) {
+            // An exponent belongs to the ten beside it.
+            const bool sameLabel = text.share != 1.0 || layout.texts[k].share != 1.0;
+            EXPECT_TRUE(sameLabel || !text.box.overlaps(layout.texts[k].box)) << text.text << layout.texts[k].text;
+        }
+    }
+    for (const Line& line : layout.strokes) {
+        for (const Spot& end : {line.from, line.to}) {
+            EXPECT_TRUE(end.x >= pane.left && end.x < pane.right && end.y >= pane.top && end.y < pane.bottom);
+        }
+    }
+}
+
+}  // namespace
+
+TEST(SPlotFrame, KeepsEverythingApartInEveryStyle) {
+    for (const ScaleType scale :
+         {ScaleType::Linear, ScaleType::Logarithmic, ScaleType::LogXLinearY, ScaleType::LinearXLogY}) {
+        for (const int frameStyle : {0, 1}) {
+            for (const int legend : {0, 1, 2}) {
+                for (const Box& pane : {kPane, Box{20, 400, 1020, 700}, Box{0, 0, 260, 200}}) {
+                    Diagram diagram = diagramOf({1.0, 2000.0, 0.03, 7.0, 300.0}, 0.5);
+                    diagram.allowedScales = {scale};
+                    diagram.frame.frameStyle = frameStyle;
+                    diagram.frame.legendPosition = legend;
+                    const FrameLayout layout = layoutOf(diagram, pane);
+                    ASSERT_EQ(layout.state, FrameLayout::State::Drawn);
+                    expectTidy(layout, pane);
+                    EXPECT_EQ(layout.legend.empty(), legend == 2);
+                    if (legend != 2) {
+                        EXPECT_TRUE(pane.encloses(layout.legend.box));
+                    }
+                    EXPECT_EQ(layout.axes.size(), frameStyle == 1 ? 4U : 2U);
+                }
+            }
+        }
+    }
+}
+
+TEST(SPlotFrame, MarksFallOnWholePixelsAndScaleFactorsFollow) {
+    const FrameLayout layout = layoutOf(diagramOf({0.0, 5.0, 10.0}, 18.65));
+    const SAxis& x = layout.axes[0];
+    const CScreenUtils& g = layout.geometry;
+    EXPECT_EQ(g.width, x.markCount * x.pixelsPerMark);
+    EXPECT_DOUBLE_EQ(g.xScale, x.markStep / x.pixelsPerMark);
+    EXPECT_EQ(g.xPixel(x.minimum + x.markStep), x.originX + x.pixelsPerMark);
+    EXPECT_NEAR(g.xValue(g.originX + g.width), g.xMax, 1e-9);
+    EXPECT_NEAR(g.yValue(g.originY - g.height), g.yMax, 1e-9);
+    // No label is left out where the step was thinned to fit.
+    for (const SAxis& axis : layout.axes) {
+        EXPECT_EQ(axis.linearLabels(FixedMeasure()).texts.size(), static_cast<std::size_t>(axis.markCount) + 1);
+    }
+}
+
+TEST(SPlotFrame, LogarithmicAxesSpanDecades) {
+    Diagram diagram = diagramOf({0.0, 40.0, 2.0, -1.0}, 0.5);
+    diagram.allowedScales = {ScaleType::Linear, ScaleType::Logarithmic};
+    diagram.frame.scaleType = 1;
+    const CScreenUtils g = layoutOf(diagram).geometry;
+    EXPECT_EQ(g.scaleType, ScaleType::Logarithmic);
+    EXPECT_DOUBLE_EQ(g.xMin, 0.1);
+    EXPECT_DOUBLE_EQ(g.xMax, 1.0) << "only the points with both values above 0 count";
+    EXPECT_DOUBLE_EQ(g.yMin, 1.0);
+    EXPECT_DOUBLE_EQ(g.yMax, 100.0);
+    EXPECT_DOUBLE_EQ(g.xScale, g.width);
+    EXPECT_DOUBLE_EQ(g.yScale, g.height / 2.0);
+    diagram.plot.series[0].y = {1.0, 0.0, -4.0};
+    EXPECT_EQ(layoutOf(diagram).state, FrameLayout::State::NoData);
+}
+
+TEST(SPlotFrame, TimeSeriesLimits) {
+    Diagram diagram = diagramOf(std::vector<double>(1000, 3.0), 0.0373);
+    diagram.duration = 37.3;
+    const struct {
+        const char* name;
+        int xMinMode;
+        int xMaxMode;
+        double lower;
+        double upper;
+    } rows[] = {{"from the start time", 1, 0, 0.0, 40.0},
+                {"both ends from the data", 0, 0, -5.0, 40.0},
+                {"the switch frees the upper end too", 0, 1, -5.0, 40.0},
+                {"both ends given", 1, 1, 0.0, 20.0}};
+    for (const auto& row : rows) {
+        diagram.frame.xMinMode = row.xMinMode;
+        diagram.frame.xMaxMode = row.xMaxMode;
+        diagram.frame.xMax = 20.0;
+        const CScreenUtils g = layoutOf(diagram).geometry;
+        EXPECT_EQ(g.xMin, row.lower) << row.name;
+        EXPECT_EQ(g.xMax, row.upper) << row.name;
+    }
+}
+
+TEST(SPlotFrame, ScaleTypeMustBeAllowed) {
+    Diagram diagram = diagramOf({1.0, 2.0});
+    diagram.frame.scaleType = 1;
+    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
+    diagram.allowedScales.push_back(ScaleType::Logarithmic);
+    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Logarithmic);
+    diagram.plot.series[0].attributes.style = SeriesStyle::Bars;
+    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
+    diagram.frame.scaleType = 77;
+    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
+}
+
+TEST(SPlotFrame, SaysWhenThereIsNothingToDrawOrNoRoom) {
+    EXPECT_EQ(layoutOf(Diagram()).state, FrameLayout::State::NoData);
+    EXPECT_EQ(layoutOf(diagramOf({})).state, FrameLayout::State::NoData);
+    EXPECT_EQ(layoutOf(diagramOf({std::nan("")})).state, FrameLayout::State::NoData);
+    EXPECT_EQ(layoutOf(diagramOf({1.0, 2.0}), {0, 0, 110, 330}).state, FrameLayout::State::TooSmall);
+    EXPECT_EQ(layoutOf(diagramOf({1.0, 2.0}), {0, 0, 500, 100}).state, FrameLayout::State::TooSmall);
+    EXPECT_EQ(layoutOf(diagramOf({1.0, 2.0}), {0, 0, 160, 130}).state, FrameLayout::State::Drawn);
+    Diagram wide = diagramOf({1e30, 2e30});
+    EXPECT_EQ(layoutOf(wide, {0, 0, 160, 130}).state, FrameLayout::State::TooSmall) << "labels take the plot area";
+}
+
+TEST(SPlotFrame, OutlandishAttributesAndValuesAreDrawn) {
+    Diagram diagram = diagramOf({-2147483648.0, 0.0, std::numeric_limits<double>::infinity(), 5.0});
+    FrameAttributesType& frame = diagram.frame;
+    for (std::int32_t* word :
+         {&frame.tickSize, &frame.markSize, &frame.ticksPerMark, &frame.xDigits, &frame.labelOffset, &frame.gridMode}) {
+        *word = std::numeric_limits<std::int32_t>::min();
+    }
+    frame.xStepMode = 1;
+    frame.xStep = 1e-7;
+    frame.yStepMode = 1;
+    frame.yStep = 1e5;
+    FrameLayout layout = layoutOf(diagram);
+    ASSERT_EQ(layout.state, FrameLayout::State::Drawn);
+    EXPECT_LE(layout.geometry.yMin, -2147483648.0);
+    frame.xMinMode = frame.xMaxMode = 1;
+    frame.xMin = 50.0;
+    frame.xMax = 0.0;
+    frame.xStep = 10.0;
+    layout = layoutOf(diagram);
+    ASSERT_EQ(layout.state, FrameLayout::State::Drawn);
+    EXPECT_EQ(layout.geometry.xPixel(0.0), layout.geometry.originX + layout.geometry.width) << "runs backward";
+}
+
+TEST(SPlotFrame, PaperIsAnEnlargedScreen) {
+    const Diagram diagram = diagramOf({0.0, 5.0, 10.0}, 18.65);
+    const CScreenUtils screen = layoutOf(diagram).geometry;
+    const CScreenUtils paper = layoutOf(diagram, {0, 0, 2000, 1320}, 4.0).geometry;
+    EXPECT_NEAR(paper.originX, 4 * screen.originX, 4);
+    EXPECT_NEAR(paper.width, 4 * screen.width, 4 * 8);
+    EXPECT_EQ(paper.xMax, screen.xMax);
+}
+
+TEST(SLegend, OnlySeriesWithATextHaveAnEntry) {
+    Diagram diagram = diagramOf({0.0, 1.0});
+    diagram.plot.series.push_back(diagram.plot.series[0]);
+    diagram.plot.series[1].attributes.legendText.clear();
+    diagram.plot.series.push_back(diagram.plot.series[0]);
+    const SLegend column = placeLegend(diagram, 400, FixedMeasure(), 1.0);
+    ASSERT_EQ(column.entries.size(), 2U);
+    EXPECT_EQ(column.title.size(), 1U);
+    EXPECT_EQ(column.entries[1].text.box.top - column.entries[0].text.box.top, 14);
+    EXPECT_EQ(column.entries[0].sampleLength, 24);
+
+    diagram.frame.legendPosition = 0;
+    const SLegend row = placeLegend(diagram, 400, FixedMeasure(), 1.0);
+    EXPECT_EQ(row.entries[0].text.box.top, row.title[0].box.top);
+    EXPECT_EQ(row.entries[1].text.box.top, row.title[0].box.top);
+    const SLegend wrapped = placeLegend(diagram, 110, FixedMeasure(), 1.0);
+    EXPECT_GT(wrapped.entries[1].text.box.top, wrapped.entries[0].text.box.top);
+    EXPECT_LE(wrapped.box.width(), 110);
+
+    diagram.frame.legendTitle = " ";
+    EXPECT_TRUE(placeLegend(diagram, 400, FixedMeasure(), 1.0).title.empty());
+    diagram.frame.legendPosition = 2;
+    EXPECT_TRUE(placeLegend(diagram, 400, FixedMeasure(), 1.0).empty());
+}

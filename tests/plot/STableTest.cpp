@@ -1,0 +1,107 @@
+#include "plot/STable.h"
+
+#include <gtest/gtest.h>
+
+#include "model/Archive.h"
+#include "model/Errors.h"
+#include "plot/FixedMeasure.h"
+
+using namespace vorlan;
+
+namespace {
+
+constexpr Box kPane{0, 0, 500, 330};
+
+TableContent statistics() {
+    TableContent content;
+    content.title = "    Main";
+    content.headers = {"  ", "Mean", "Variance", "Skewness", "Kurtosis"};
+    content.rows = {{"Sampled U", {1.005, 2.5, -0.125}}, {"Modified U", {1.0, 2.0, 3.0, 4.0}}};
+    return content;
+}
+
+TableShapes shapesOf(const TableContent& content, const Box& pane = kPane) {
+    STable table(content);
+    table.fitInto(pane, FixedMeasure());
+    return table.shapes(pane, FixedMeasure());
+}
+
+}  // namespace
+
+TEST(STable, RowsTakeTwoHeightsWithARuleBelow) {
+    const TableShapes shapes = shapesOf(statistics());
+    ASSERT_EQ(shapes.rules.size(), 2U);
+    EXPECT_EQ(shapes.rules[0].from.x, 0);
+    EXPECT_EQ(shapes.rules[0].to.x, 500);
+    EXPECT_EQ(shapes.rules[1].from.y - shapes.rules[0].from.y, 24);
+    // Title, five headers, then the cells of the first row.
+    EXPECT_EQ(shapes.texts[6].text, "Sampled U");
+    EXPECT_EQ(shapes.texts[6].box.left, 50 - 27);
+    EXPECT_EQ(shapes.texts[6].box.top, shapes.rules[0].from.y - 18);
+    EXPECT_EQ(shapes.texts[7].text, "1.00");
+    EXPECT_EQ(shapes.texts[7].box.left, 150 - 12);
+    EXPECT_EQ(shapes.texts[9].text, "-0.12");
+    EXPECT_EQ(shapes.texts[10].text, "Modified U") << "the missing cell stays empty";
+    for (std::size_t i = 0; i < shapes.texts.size(); ++i) {
+        EXPECT_TRUE(kPane.encloses(shapes.texts[i].box));
+        for (std::size_t k = 0; k < i; ++k) {
+            EXPECT_FALSE(shapes.texts[i].box.overlaps(shapes.texts[k].box));
+        }
+    }
+}
+
+TEST(STable, WithoutRowsThereAreNoRules) {
+    TableContent content = statistics();
+    content.rows.clear();
+    EXPECT_TRUE(shapesOf(content).rules.empty());
+    EXPECT_EQ(shapesOf(content).texts.size(), 6U);
+    EXPECT_TRUE(shapesOf(TableContent()).texts.empty());
+}
+
+TEST(STable, LongRowTitlesWidenTheirColumnAndKeepTheProbe) {
+    TableContent content = statistics();
+    content.rows[0].title = "a measurement in the river, probe 1";
+    EXPECT_EQ(shapesOf(content).texts[6].text, content.rows[0].title);
+    content.rows[0].title = "a measurement that somebody took far away down in the river, probe 1";
+    const PlacedText shown = shapesOf(content).texts[6];
+    EXPECT_TRUE(shown.text.ends_with("\u2026, probe 1")) << shown.text;
+    EXPECT_LE(shown.box.right, 250);
+}
+
+TEST(STable, ManyRowsShrinkBeforeTheyAreLeftOut) {
+    TableContent content = statistics();
+    content.rows.resize(16, content.rows[0]);
+    EXPECT_EQ(shapesOf(content).rules.size(), 16U);
+    EXPECT_LT(shapesOf(content).texts[0].share, 1.0);
+    content.rows.resize(100, content.rows[0]);
+    const TableShapes shapes = shapesOf(content);
+    EXPECT_LT(shapes.rules.size(), 100U);
+    EXPECT_LE(shapes.rules.back().from.y, 330);
+}
+
+TEST(STable, IndexesAndFormatsAreChecked) {
+    STable table(statistics());
+    EXPECT_EQ(table.cell(0, 1), "2.50");
+    EXPECT_EQ(table.cell(0, 3), "");
+    EXPECT_THROW(table.cell(2, 0), InvalidArgument);
+    EXPECT_THROW(table.cell(0, 4), InvalidArgument);
+    EXPECT_THROW(table.cell(-1, 0), InvalidArgument);
+    EXPECT_THROW(table.header(5), InvalidArgument);
+    EXPECT_THROW(table.rowTitle(2), InvalidArgument);
+    table.formats[1] = "%.3e";
+    EXPECT_EQ(table.cell(0, 1), "2.500e+00");
+    table.formats[1] = "%s%n";
+    EXPECT_EQ(table.cell(0, 1), "2.50");
+}
+
+TEST(STable, SurvivesAnArchive) {
+    STable stored(statistics());
+    Archive out = Archive::storing();
+    stored.Serialize(out);
+    Archive in = Archive::loading(out.bytes());
+    STable loaded;
+    loaded.Serialize(in);
+    EXPECT_EQ(in.remaining(), 0U);
+    EXPECT_EQ(loaded.cell(1, 3), "4.00");
+    EXPECT_EQ(loaded.headers, stored.headers);
+}
