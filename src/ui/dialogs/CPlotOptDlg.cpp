@@ -115,7 +115,8 @@ void CPlotOptDlg::AutomaticValue::read(FieldReader& reader, double& into, std::i
 }
 
 void CPlotOptDlg::readChoices(FrameAttributesType& read) const {
-    if (const QListWidgetItem* scale = scale_->currentItem()) {
+    // The focus makes the first item current; only a selected one was chosen.
+    for (const QListWidgetItem* scale : scale_->selectedItems()) {
         read.scaleType = scale->data(Qt::UserRole).toInt();
     }
     read.frameStyle = chosen(style_, values_.frameStyle);

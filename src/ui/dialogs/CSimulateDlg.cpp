@@ -52,6 +52,11 @@ CSimulateDlg::CSimulateDlg(const SimulationParameters& parameters, QWidget* pare
     connect(harmonicCount_, &QLineEdit::editingFinished, this, &CSimulateDlg::limitHarmonics);
 }
 
+CSimulateDlg::~CSimulateDlg() {
+    // A field that loses the focus while the window goes away still tells that its editing is finished.
+    harmonicCount_->disconnect(this);
+}
+
 NumberField* CSimulateDlg::addNumber(QGridLayout* grid, int row, const QString& text, double value,
                                      const QString& unit) {
     auto* field = new NumberField(this);

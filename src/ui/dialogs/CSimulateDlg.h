@@ -22,6 +22,7 @@ class CSimulateDlg : public CParameterDialog {
     Q_OBJECT
   public:
     explicit CSimulateDlg(const SimulationParameters& parameters, QWidget* parent = nullptr);
+    ~CSimulateDlg() override;
     const SimulationParameters& values() const { return values_; }
 
   protected:
