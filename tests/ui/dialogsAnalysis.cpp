@@ -49,6 +49,11 @@ class DialogsAnalysis : public QObject {
         driver.moveUpDown(1);
         QVERIFY(driver.accepted());
         QCOMPARE(dialog.values().grades, 2);
+        // At the end of its range the pair does not move, and so it writes nothing.
+        driver.moveUpDown(-2);
+        driver.type("&Grades Number:", "150");
+        driver.moveUpDown(-1);
+        QCOMPARE(driver.text("&Grades Number:"), QStringLiteral("150"));
     }
 
     void barWidthIsShownAsItMoves() {
