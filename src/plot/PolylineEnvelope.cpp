@@ -12,85 +12,173 @@ namespace {
 // Points per column above which a line counts as dense.
 constexpr std::size_t kDensePoints = 16;
 
-class Column {
-  public:
-    void start(int x, double y) {
-        x_ = x;
-        first_ = lowest_ = highest_ = last_ = y;
-    }
-    int x() const { return x_; }
+// First, lowest, highest and last value of consecutive points.
+struct Span {
+    double first;
+    double lowest;
+    double highest;
+    double last;
+
+    explicit Span(double y) : first(y), lowest(y), highest(y), last(y) {}
     void add(double y) {
-        lowest_ = std::min(lowest_, y);
-        highest_ = std::max(highest_, y);
-        last_ = y;
+        lowest = std::min(lowest, y);
+        highest = std::max(highest, y);
+        last = y;
     }
-    void appendTo(std::vector<Spot>& line, int originY, const PixelScale& pixels) const {
-        const auto append = [&](double y) {
-            const Spot spot{x_, originY - pixels.offset(y)};
-            if (line.empty() || line.back() != spot) {
-                line.push_back(spot);
-            }
-        };
-        append(first_);
-        if (lowest_ != highest_) {
-            append(lowest_);
-            append(highest_);
-            append(last_);
+};
+
+constexpr std::size_t kLanes = 4;
+
+// Extremes of y[from, to) in several sums at once, so that one comparison need not wait for the one before. Empty
+// when a value has no place on the axis.
+std::optional<Span> spanOf(const double* y, std::size_t from, std::size_t to, const PixelScale& pixels) {
+    double lowest[kLanes];
+    double highest[kLanes];
+    double check = 0.0;  // stays 0 while every value is finite
+    std::fill_n(lowest, kLanes, y[from]);
+    std::fill_n(highest, kLanes, y[from]);
+    std::size_t i = from;
+    for (; i + kLanes <= to; i += kLanes) {
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            const double value = y[i + lane];
+            lowest[lane] = std::min(lowest[lane], value);
+            highest[lane] = std::max(highest[lane], value);
+            check += value * 0.0;
         }
+    }
+    Span span(y[from]);
+    for (; i < to; ++i) {
+        span.add(y[i]);
+        check += y[i] * 0.0;
+    }
+    span.lowest = std::min(span.lowest, *std::min_element(lowest, lowest + kLanes));
+    span.highest = std::max(span.highest, *std::max_element(highest, highest + kLanes));
+    span.last = y[to - 1];
+    return check == 0.0 && pixels.places(span.lowest) ? std::optional(span) : std::nullopt;
+}
+
+// Collects the columns of one series.
+class Envelope {
+  public:
+    explicit Envelope(const CScreenUtils& geometry)
+        : originX_(geometry.originX), originY_(geometry.originY), x_(geometry.xPixels()), y_(geometry.yPixels()) {}
+
+    const PixelScale& xPixels() const { return x_; }
+    const PixelScale& yPixels() const { return y_; }
+
+    void addPoint(double x, double y) {
+        if (!y_.places(y) || !x_.places(x)) {
+            closeLine();
+            return;
+        }
+        const int offset = x_.offset(x);
+        if (span_ && offset == offset_) {
+            span_->add(y);
+        } else {
+            addColumn(offset, Span(y));
+        }
+    }
+    void addColumn(int offset, const Span& span) {
+        closeColumn();
+        offset_ = offset;
+        span_ = span;
+    }
+    bool isIn(int offset) const { return span_ && offset_ == offset; }
+
+    Polylines finish(std::size_t points) {
+        closeLine();
+        lines_.dense = points > kDensePoints * std::max<std::size_t>(columns_, 1);
+        return std::move(lines_);
     }
 
   private:
-    int x_ = 0;
-    double first_ = 0.0;
-    double lowest_ = 0.0;
-    double highest_ = 0.0;
-    double last_ = 0.0;
+    void append(double y) {
+        const Spot spot{originX_ + offset_, originY_ - y_.offset(y)};
+        if (line_.empty() || line_.back() != spot) {
+            line_.push_back(spot);
+        }
+    }
+    void closeColumn() {
+        if (!span_) {
+            return;
+        }
+        append(span_->first);
+        if (span_->lowest != span_->highest) {
+            append(span_->lowest);
+            append(span_->highest);
+            append(span_->last);
+        }
+        ++columns_;
+        span_.reset();
+    }
+    void closeLine() {
+        closeColumn();
+        if (!line_.empty()) {
+            lines_.parts.push_back(std::move(line_));
+            line_.clear();
+        }
+    }
+
+    int originX_;
+    int originY_;
+    PixelScale x_;
+    PixelScale y_;
+    Polylines lines_;
+    std::vector<Spot> line_;
+    std::optional<Span> span_;
+    int offset_ = 0;
+    std::size_t columns_ = 0;
 };
+
+// One past the last point of the column of point i. Evenly spaced positions do not turn back, so the end can be
+// guessed from the column before and corrected.
+std::size_t columnEnd(const SeriesX& x, const PixelScale& pixels, std::size_t i, std::size_t guess, std::size_t n) {
+    const int offset = pixels.offset(x.at(i));
+    std::size_t end = std::clamp(guess, i + 1, n);
+    while (end > i + 1 && pixels.offset(x.at(end - 1)) != offset) {
+        --end;
+    }
+    while (end < n && pixels.offset(x.at(end)) == offset) {
+        ++end;
+    }
+    return end;
+}
+
+void addEvenlySpaced(const PlotSeries& series, Envelope& envelope) {
+    const PixelScale& pixels = envelope.xPixels();
+    const std::size_t n = pointCount(series);
+    std::size_t width = 1;
+    for (std::size_t i = 0; i < n;) {
+        const std::size_t end = columnEnd(series.x, pixels, i, i + width, n);
+        const int offset = pixels.offset(series.x.at(i));
+        const bool placed = pixels.places(series.x.at(i)) && pixels.places(series.x.at(end - 1));
+        const std::optional<Span> span =
+            placed ? spanOf(series.y.data(), i, end, envelope.yPixels()) : std::optional<Span>();
+        if (span && !envelope.isIn(offset)) {
+            envelope.addColumn(offset, *span);
+        } else {
+            for (std::size_t k = i; k < end; ++k) {
+                envelope.addPoint(series.x.at(k), series.y[k]);
+            }
+        }
+        width = end - i;
+        i = end;
+    }
+}
 
 }  // namespace
 
 Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometry) {
-    Polylines lines;
-    const PixelScale xPixels = geometry.xPixels();
-    const PixelScale yPixels = geometry.yPixels();
+    Envelope envelope(geometry);
     const std::size_t n = pointCount(series);
-    Column column;
-    std::vector<Spot> line;
-    std::size_t columns = 0;
-    bool open = false;
-    const auto closeColumn = [&] {
-        if (open) {
-            column.appendTo(line, geometry.originY, yPixels);
-            ++columns;
+    if (series.x.values.empty()) {
+        addEvenlySpaced(series, envelope);
+    } else {
+        for (std::size_t i = 0; i < n; ++i) {
+            envelope.addPoint(series.x.values[i], series.y[i]);
         }
-        open = false;
-    };
-    const auto closeLine = [&] {
-        closeColumn();
-        if (!line.empty()) {
-            lines.parts.push_back(std::move(line));
-            line.clear();
-        }
-    };
-    for (std::size_t i = 0; i < n; ++i) {
-        const double x = series.x.at(i);
-        const double y = series.y[i];
-        if (!yPixels.places(y) || !xPixels.places(x)) {
-            closeLine();
-            continue;
-        }
-        const int px = geometry.originX + xPixels.offset(x);
-        if (open && px == column.x()) {
-            column.add(y);
-            continue;
-        }
-        closeColumn();
-        column.start(px, y);
-        open = true;
     }
-    closeLine();
-    lines.dense = n > kDensePoints * std::max<std::size_t>(columns, 1);
-    return lines;
+    return envelope.finish(n);
 }
 
 Polylines fullPolyline(const PlotSeries& series, const CScreenUtils& geometry) {

@@ -131,6 +131,30 @@ TEST(SeriesShapes, EnvelopeKeepsEveryPixelColumn) {
     EXPECT_EQ(thin.parts[0].back(), full.parts[0].back());
 }
 
+TEST(SeriesShapes, EvenlySpacedPointsMakeTheSameLineAsListedOnes) {
+    for (const double step : {0.001, 0.013, 0.7, 1.0, 30.0, -0.01, 0.0}) {
+        PlotSeries spaced;
+        spaced.x.start = step < 0.0 ? 90.0 : -3.0;
+        spaced.x.step = step;
+        PlotSeries listed;
+        for (int i = 0; i < 5003; ++i) {
+            spaced.y.push_back(i % 977 == 5 ? kNaN : 50.0 + 60.0 * std::sin(i * 1.3));
+            listed.x.values.push_back(spaced.x.at(static_cast<std::size_t>(i)));
+        }
+        spaced.y[3000] = std::numeric_limits<double>::infinity();
+        listed.y = spaced.y;
+        for (const ScaleType type : {ScaleType::Linear, ScaleType::Logarithmic}) {
+            CScreenUtils g = unitGeometry();
+            g.scaleType = type;
+            if (g.logX()) {
+                g.xMin = g.yMin = 0.1;
+                g.xScale = g.yScale = 30.0;
+            }
+            EXPECT_EQ(polylineEnvelope(spaced, g).parts, polylineEnvelope(listed, g).parts) << step;
+        }
+    }
+}
+
 TEST(SeriesShapes, LinesAreCutAtTheEdges) {
     const Box area{0, 0, 100, 100};
     EXPECT_EQ(clippedLine({{-50, 50}, {150, 50}}, area), (Line{{0, 50}, {100, 50}}));
