@@ -20,39 +20,47 @@ FileError readError(const std::filesystem::path& path, int error) {
 
 }  // namespace
 
-FileContent readFile(const std::filesystem::path& path) {
+InputFile::InputFile(const std::filesystem::path& path)
     // Not to wait for the other end of a pipe: what is no regular file is refused below.
-    FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    : path_(path), file_(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
     struct stat status {};
-    if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
+    if (!file_.isOpen() || ::fstat(file_.get(), &status) != 0) {
         throw readError(path, errno);
     }
     if (!S_ISREG(status.st_mode)) {
         throw FileError::cannotRead(FileError::Kind::NotAFile, path,
                                     S_ISDIR(status.st_mode) ? "it is a folder" : "it is not a regular file");
     }
-    const auto size = static_cast<std::size_t>(status.st_size);
-    std::unique_ptr<std::byte[]> bytes;
-    try {
-        bytes = std::make_unique_for_overwrite<std::byte[]>(size);
-    } catch (const std::bad_alloc&) {
-        throw FileError::cannotRead(FileError::Kind::Unreadable, path, "not enough memory");
-    }
+    size_ = static_cast<std::size_t>(status.st_size);
+}
+
+std::size_t InputFile::read(std::span<std::byte> bytes) {
     std::size_t held = 0;
-    while (held < size) {
-        const ssize_t got = ::read(file.get(), bytes.get() + held, size - held);
+    while (held < bytes.size()) {
+        const ssize_t got = ::read(file_.get(), bytes.data() + held, bytes.size() - held);
         if (got < 0 && errno == EINTR) {
             continue;
         }
         if (got < 0) {
-            throw readError(path, errno);
+            throw readError(path_, errno);
         }
         if (got == 0) {
             break;  // somebody shortened the file meanwhile
         }
         held += static_cast<std::size_t>(got);
     }
-    return {std::move(bytes), held};
+    return held;
+}
+
+FileContent readFile(const std::filesystem::path& path) {
+    InputFile file(path);
+    try {
+        auto bytes = std::make_unique_for_overwrite<std::byte[]>(file.size());
+        const std::size_t held = file.read({bytes.get(), file.size()});
+        return {std::move(bytes), held};
+    } catch (const std::bad_alloc&) {
+        throw FileError::cannotRead(FileError::Kind::Unreadable, path, "not enough memory");
+    }
 }
 
 }  // namespace vorlan

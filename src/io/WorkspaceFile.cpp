@@ -26,11 +26,11 @@ class AtomicFileSink : public ByteSink {
 }  // namespace
 
 Workspace openWorkspace(const std::filesystem::path& path) {
-    const FileContent content = readFile(path);
-    if (content.bytes().empty()) {
+    InputFile file(path);
+    if (file.size() == 0) {
         throw FileError::cannotRead(FileError::Kind::Empty, path, "it is empty");
     }
-    Archive archive = Archive::loading(content.bytes());
+    Archive archive = Archive::loading(file);
     Workspace workspace;
     try {
         workspace.Serialize(archive);

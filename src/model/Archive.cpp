@@ -1,18 +1,26 @@
 #include "model/Archive.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
 namespace vorlan {
 
 namespace {
-constexpr std::size_t kSinkBlock = 64 * 1024;
+constexpr std::size_t kBlock = 64 * 1024;
 }
 
 static_assert(std::endian::native == std::endian::little, "the archive moves values as they lie in memory");
 
 Archive Archive::loading(std::span<const std::byte> bytes) {
     return Archive(true, bytes);
+}
+
+Archive Archive::loading(ByteSource& source) {
+    Archive archive(true, {});
+    archive.source_ = &source;
+    archive.total_ = source.size();
+    return archive;
 }
 
 Archive Archive::storing() {
@@ -38,25 +46,66 @@ void Archive::requireStoring() const {
 }
 
 void Archive::plain(void* bytes, std::size_t size) {
-    if (loading_) {
-        if (remaining() < size) {
-            throw EndOfFileError(position_);
-        }
-        if (size > 0) {
-            std::memcpy(bytes, input_.data() + position_, size);
-        }
-        position_ += size;
-    } else {
+    if (!loading_) {
         collect({static_cast<const std::byte*>(bytes), size});
+        return;
+    }
+    if (remaining() < size) {
+        throw EndOfFileError(offset());
+    }
+    auto* first = static_cast<std::byte*>(bytes);
+    if (const std::size_t held = input_.size() - position_; held < size) {
+        take({first, held});
+        take({first + held, size - held});
+    } else {
+        take({first, size});
     }
 }
 
+// All of bytes from the window, or all of it from the source behind the empty window.
+void Archive::take(std::span<std::byte> bytes) {
+    if (bytes.empty()) {
+        return;
+    }
+    if (position_ == input_.size()) {
+        if (bytes.size() >= kBlock) {
+            base_ += position_;
+            input_ = {};
+            position_ = 0;
+            if (source_->read(bytes) < bytes.size()) {
+                throw EndOfFileError(base_);
+            }
+            base_ += bytes.size();
+            return;
+        }
+        refill();
+        if (input_.size() < bytes.size()) {
+            throw EndOfFileError(offset());
+        }
+    }
+    std::memcpy(bytes.data(), input_.data() + position_, bytes.size());
+    position_ += bytes.size();
+}
+
+// Moves the window on: it keeps what is not taken yet.
+void Archive::refill() {
+    const std::size_t kept = input_.size() - position_;
+    buffer_.resize(kBlock);
+    if (kept > 0) {
+        std::memmove(buffer_.data(), input_.data() + position_, kept);
+    }
+    base_ += position_;
+    position_ = 0;
+    const std::size_t wanted = std::min(kBlock, total_ - base_) - kept;
+    input_ = std::span(buffer_).first(kept + source_->read(std::span(buffer_).subspan(kept, wanted)));
+}
+
 void Archive::collect(std::span<const std::byte> bytes) {
-    if (sink_ != nullptr && buffer_.size() + bytes.size() > kSinkBlock) {
+    if (sink_ != nullptr && buffer_.size() + bytes.size() > kBlock) {
         flush();
-        if (bytes.size() > kSinkBlock) {
+        if (bytes.size() > kBlock) {
             sink_->write(bytes);
-            position_ += bytes.size();
+            base_ += bytes.size();
             return;
         }
     }
@@ -66,15 +115,21 @@ void Archive::collect(std::span<const std::byte> bytes) {
 void Archive::flush() {
     if (sink_ != nullptr && !buffer_.empty()) {
         sink_->write(buffer_);
-        position_ += buffer_.size();
+        base_ += buffer_.size();
         buffer_.clear();
     }
 }
 
-std::uint16_t Archive::peekShort() const {
+std::uint16_t Archive::peekShort() {
     requireLoading();
     std::uint16_t word = 0;
     if (remaining() >= sizeof word) {
+        if (input_.size() - position_ < sizeof word) {
+            refill();
+        }
+        if (input_.size() - position_ < sizeof word) {
+            return 0;  // the source is shorter than it said
+        }
         std::memcpy(&word, input_.data() + position_, sizeof word);
     }
     return word;
@@ -143,9 +198,9 @@ std::size_t Archive::shortCount(std::size_t size, std::size_t minimumBytes) {
 
 std::vector<std::byte> Archive::takeRest() {
     requireLoading();
-    const auto rest = input_.subspan(position_);
-    position_ = input_.size();
-    return {rest.begin(), rest.end()};
+    std::vector<std::byte> rest(remaining());
+    plain(rest.data(), rest.size());
+    return rest;
 }
 
 void Archive::append(std::span<const std::byte> bytes) {

@@ -37,6 +37,16 @@ class FormatError : public ArchiveError {
     FormatError(const std::string& reason, std::size_t offset) : ArchiveError(reason, offset) {}
 };
 
+/// Where a loading archive takes its bytes from, from the first to the last.
+class ByteSource {
+  public:
+    virtual ~ByteSource() = default;
+    /// Bytes in all.
+    virtual std::size_t size() const = 0;
+    /// Fills bytes with the next ones and returns their number, which is smaller only at the end.
+    virtual std::size_t read(std::span<std::byte> bytes) = 0;
+};
+
 /// Where a storing archive hands its bytes on.
 class ByteSink {
   public:
@@ -52,18 +62,26 @@ class Archive {
   public:
     /// An archive that loads from bytes; they must outlive it.
     static Archive loading(std::span<const std::byte> bytes);
+    /// An archive that loads from source, which must outlive it: small fields by way of a buffer, long blocks straight
+    /// into the model.
+    static Archive loading(ByteSource& source);
     /// An archive that stores into a buffer of its own.
     static Archive storing();
     /// An archive that hands everything on to sink, which must outlive it: small fields collected, long blocks as they
     /// lie in the model. flush() when done.
     static Archive storing(ByteSink& sink);
 
+    Archive(Archive&&) = default;
+    Archive& operator=(Archive&&) = default;
+    Archive(const Archive&) = delete;
+    Archive& operator=(const Archive&) = delete;
+
     bool isLoading() const { return loading_; }
     bool isStoring() const { return !loading_; }
     /// Bytes read or written so far.
-    std::size_t offset() const { return loading_ ? position_ : position_ + buffer_.size(); }
+    std::size_t offset() const { return loading_ ? base_ + position_ : base_ + buffer_.size(); }
     /// Bytes not read yet; 0 while storing.
-    std::size_t remaining() const { return loading_ ? input_.size() - position_ : 0; }
+    std::size_t remaining() const { return loading_ ? total_ - offset() : 0; }
 
     void value(std::int32_t& v) { plain(&v, sizeof v); }
     void value(std::uint32_t& v) { plain(&v, sizeof v); }
@@ -92,7 +110,7 @@ class Archive {
     std::size_t shortCount(std::size_t size, std::size_t minimumBytes);
 
     /// The next 16 bits of a loading archive without taking them; 0 when there are none.
-    std::uint16_t peekShort() const;
+    std::uint16_t peekShort();
     /// The rest of a loading archive; the archive is at its end afterwards.
     std::vector<std::byte> takeRest();
     /// Appends bytes verbatim to a storing archive.
@@ -111,15 +129,20 @@ class Archive {
     void requireStoring() const;
 
   private:
-    Archive(bool loading, std::span<const std::byte> input) : loading_(loading), input_(input) {}
+    Archive(bool loading, std::span<const std::byte> input) : loading_(loading), input_(input), total_(input.size()) {}
     void plain(void* bytes, std::size_t size);
+    void take(std::span<std::byte> bytes);
+    void refill();
     void collect(std::span<const std::byte> bytes);
     std::size_t checked(std::size_t count, std::size_t minimumBytes, std::size_t at) const;
 
     bool loading_;
-    std::span<const std::byte> input_;
-    std::size_t position_ = 0;  // bytes read, or handed on to the sink
+    std::span<const std::byte> input_;  // all bytes to load, or those that buffer_ holds of a source
+    std::size_t position_ = 0;          // of the next byte to load in input_
+    std::size_t base_ = 0;              // offset of input_, or bytes handed on to the sink
+    std::size_t total_ = 0;             // bytes to load in all
     std::vector<std::byte> buffer_;
+    ByteSource* source_ = nullptr;
     ByteSink* sink_ = nullptr;
 };
 

@@ -127,5 +127,89 @@ TEST(ArchiveSink, GetsTheSameBytesAsTheBuffer) {
     EXPECT_EQ(sink.largest, 400000U);
 }
 
+/// Gives its bytes, but never more than it was cut to.
+class CutSource : public ByteSource {
+  public:
+    CutSource(std::vector<std::byte> bytes, std::size_t cut) : bytes_(std::move(bytes)), cut_(cut) {}
+    std::size_t size() const override { return bytes_.size(); }
+    std::size_t read(std::span<std::byte> bytes) override {
+        const std::size_t given = std::min(bytes.size(), cut_ - std::min(cut_, taken_));
+        std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(taken_), given, bytes.begin());
+        taken_ += given;
+        return given;
+    }
+
+  private:
+    std::vector<std::byte> bytes_;
+    std::size_t cut_;
+    std::size_t taken_ = 0;
+};
+
+TEST(ArchiveSource, GivesWhatTheBufferGives) {
+    // Blocks around the size of the window, at every alignment to it.
+    Archive out = Archive::storing();
+    std::vector<SIntArray> arrays;
+    for (const int size : {0, 1, 16000, 16383, 16384, 16385, 5, 100000, 3, 16390, 2, 40000, 1}) {
+        SIntArray marks;
+        for (int i = 0; i < size; ++i) {
+            marks.Add(i * 7 + size);
+        }
+        std::string text(static_cast<std::size_t>(size % 300), 'a');
+        out.value(text);
+        marks.Serialize(out);
+        arrays.push_back(marks);
+    }
+    const std::size_t size = out.bytes().size();
+    std::uint16_t last = 0x1234;
+    out.value(last);
+    CutSource source(out.bytes(), out.bytes().size());
+    Archive in = Archive::loading(source);
+    for (const SIntArray& expected : arrays) {
+        std::string text;
+        in.value(text);
+        SIntArray marks;
+        marks.Serialize(in);
+        ASSERT_EQ(marks, expected);
+    }
+    EXPECT_EQ(in.offset(), size);
+    EXPECT_EQ(in.peekShort(), 0x1234);
+    EXPECT_EQ(in.offset(), size);
+    EXPECT_EQ(in.takeRest().size(), 2U);
+    EXPECT_EQ(in.peekShort(), 0);
+    EXPECT_EQ(in.remaining(), 0U);
+}
+
+TEST(ArchiveSource, PeeksAcrossTheEdgeOfTheWindow) {
+    for (std::size_t before = 65534; before <= 65537; ++before) {
+        std::vector<std::byte> bytes(before, std::byte{0});
+        bytes.push_back(std::byte{0x34});
+        bytes.push_back(std::byte{0x12});
+        CutSource source(bytes, bytes.size());
+        Archive in = Archive::loading(source);
+        std::uint8_t byte = 0;
+        for (std::size_t i = 0; i < before; ++i) {
+            in.value(byte);
+        }
+        EXPECT_EQ(in.peekShort(), 0x1234) << before;
+        EXPECT_EQ(in.takeRest().size(), 2U);
+    }
+}
+
+TEST(ArchiveSource, ShorterThanItSaidIsAnEndOfFile) {
+    for (const std::size_t cut : {std::size_t{0}, std::size_t{3}, std::size_t{70000}, std::size_t{399999}}) {
+        CutSource source(std::vector<std::byte>(400000, std::byte{1}), cut);
+        Archive in = Archive::loading(source);
+        std::vector<std::byte> block(200000);
+        EXPECT_THROW(
+            {
+                in.raw(block.data(), 10);
+                in.raw(block.data(), block.size());
+                in.takeRest();
+            },
+            EndOfFileError)
+            << cut;
+    }
+}
+
 }  // namespace
 }  // namespace vorlan
