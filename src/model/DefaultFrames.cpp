@@ -93,6 +93,8 @@ FrameAttributesType defaultFrame(int group, int record) {
 FrameAttributesType defaultPlanFrame(int record) {
     FrameAttributesType frame;
     frame.plotTitle = record == 0 ? "Mean Velocity Vectors" : "Minimum, Maximum Velocity Vectors";
+    // The legend's texts are long, and boundaries often reach the corners.
+    frame.legendPosition = static_cast<std::int32_t>(LegendPosition::Bottom);
     return frame;
 }
 

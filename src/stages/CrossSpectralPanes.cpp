@@ -12,6 +12,7 @@ namespace vorlan {
 
 namespace {
 
+constexpr int kPhaseMarkerSize = 4;
 constexpr std::array<const char*, kStressPairs> kPairLabels = {"u'-v'", "u'-w'", "v'-w'"};
 constexpr std::array<const char*, kStressPairs> kReynoldsLabels = {"-u'v'", "-u'w'", "-v'w'"};
 
@@ -66,17 +67,31 @@ std::vector<double> crossSpectrum(const SAdvProbe& probe, int pair, PhysicalValu
 }
 
 template <class ValuesOfPair>
-PaneContent overFrequency(const PaneRequest& request, const SAdvProbe& probe, PhysicalValue labels,
-                          ValuesOfPair valuesOfPair) {
+Diagram overFrequency(const PaneRequest& request, const SAdvProbe& probe, PhysicalValue labels,
+                      ValuesOfPair valuesOfPair) {
     Diagram diagram = newDiagram(request, &probe);
     nameFrequencyUnit(diagram.frame, probe.spectralUnit);
+    beginXAtZero(diagram.frame);
     // Quadrature, phase and coherence are shorter than the covariance that sets the frequencies.
     const int length = SAdvProbe::ColumnLength(probe.workTables[SAdvProbe::kCoSpectra]);
     const double step = frequencyStep(length, probe.samplingInterval, static_cast<int>(probe.spectralUnit));
     for (int pair = 0; pair < kStressPairs; ++pair) {
         diagram.plot.series.push_back(curve(valuesOfPair(pair), SeriesX{0.0, step, {}}, pair, labelOf(pair, labels)));
     }
-    return diagramOrMessage(std::move(diagram));
+    return diagram;
+}
+
+/// Points only: a line would cross the diagram wherever the phase passes 180 degrees.
+void drawAsPoints(Diagram& diagram) {
+    constexpr std::array<MarkerKind, kStressPairs> markers = {MarkerKind::Circle, MarkerKind::Plus,
+                                                              MarkerKind::Triangle};
+    for (std::size_t pair = 0; pair < markers.size(); ++pair) {
+        SeriesAtrType& attributes = diagram.plot.series[pair].attributes;
+        attributes.style = SeriesStyle::Markers;
+        attributes.markerKind = markers[pair];
+        attributes.markerSize = kPhaseMarkerSize;
+        attributes.penStyle = 0;
+    }
 }
 
 }  // namespace
@@ -92,12 +107,16 @@ PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* pr
         case Pane::LeftTop:
             return correlations(request, *probe);
         case Pane::LeftBottom:
-            return overFrequency(request, *probe, request.value,
-                                 [&](int pair) { return crossSpectrum(*probe, pair, request.value); });
+            return diagramOrMessage(overFrequency(
+                request, *probe, request.value, [&](int pair) { return crossSpectrum(*probe, pair, request.value); }));
         case Pane::RightTop:
-            return overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kCoherence));
-        case Pane::RightBottom:
-            return overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kPhase));
+            return diagramOrMessage(
+                overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kCoherence)));
+        case Pane::RightBottom: {
+            Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kPhase));
+            drawAsPoints(diagram);
+            return diagramOrMessage(std::move(diagram));
+        }
     }
     return {};
 }

@@ -60,7 +60,22 @@ PlotSeries recordLine(std::vector<double> y, SeriesX x, int index, const std::st
 PlotSeries curve(std::vector<double> y, SeriesX x, int index, const std::string& legend) {
     PlotSeries series = recordLine(std::move(y), std::move(x), index, legend);
     series.attributes.penStyle = index % kPenStyles;
+    series.attributes.penWidth = 1 + index / kPenStyles;
     return series;
+}
+
+void beginXAtZero(FrameAttributesType& frame) {
+    if (frame.xMinMode == 0) {
+        frame.xMinMode = 1;
+        frame.xMin = 0.0;
+    }
+}
+
+void beginYAtZero(FrameAttributesType& frame) {
+    if (frame.yMinMode == 0) {
+        frame.yMinMode = 1;
+        frame.yMin = 0.0;
+    }
 }
 
 void nameFrequencyUnit(FrameAttributesType& frame, std::uint32_t unit) {

@@ -28,8 +28,13 @@ std::vector<double> plotColumn(const SMultiArray& table, int column, double fact
 
 /// A thin continuous line, for records of many samples; index chooses the colour.
 PlotSeries recordLine(std::vector<double> y, SeriesX x, int index, const std::string& legend);
-/// A line that differs from its neighbours by colour and dashes, for smooth curves.
+/// A line that differs from its neighbours by colour, dashes and width, for smooth curves.
 PlotSeries curve(std::vector<double> y, SeriesX x, int index, const std::string& legend);
+
+/// Lets an axis of a quantity that is never negative begin at zero where its lower end would come from the data, which
+/// would round it to below zero.
+void beginXAtZero(FrameAttributesType& frame);
+void beginYAtZero(FrameAttributesType& frame);
 
 /// Sets the title of a frequency axis to its unit (0 Hz, 1 rad/s), unless the user has given it another text.
 void nameFrequencyUnit(FrameAttributesType& frame, std::uint32_t unit);

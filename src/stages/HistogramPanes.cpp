@@ -32,6 +32,7 @@ bool hasHistogram(const STimeSeries& series) {
 
 PaneContent componentHistogram(const PaneRequest& request, const SAdvProbe& probe, int component) {
     Diagram diagram = newDiagram(request, &probe);
+    beginYAtZero(diagram.frame);
     const STimeSeries& series = probe.Series(component);
     const HistogramSettings settings = histogramSettingsOf(request.workspace.settings);
     if (hasHistogram(series)) {
@@ -53,6 +54,7 @@ PaneContent componentHistogram(const PaneRequest& request, const SAdvProbe& prob
 
 PaneContent allComponents(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
+    beginYAtZero(diagram.frame);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         const STimeSeries& series = probe.Series(c);
         if (!hasHistogram(series)) {

@@ -14,6 +14,9 @@ constexpr std::array<const char*, 5> kBucketLabels = {"1", "2", "3", "4", "Hole"
 
 PaneContent byHoleSize(const PaneRequest& request, const SAdvProbe& probe, std::size_t table) {
     Diagram diagram = newDiagram(request, &probe);
+    if (table == SAdvProbe::kTimes) {
+        beginYAtZero(diagram.frame);
+    }
     const SeriesX sizes{0.0, holeIncrementOf(probe, request.workspace.settings.holeIncrement), {}};
     for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
         diagram.plot.series.push_back(

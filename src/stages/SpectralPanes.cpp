@@ -25,6 +25,7 @@ PaneContent correlationFunctions(const PaneRequest& request, const SAdvProbe& pr
 PaneContent powerSpectra(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
     diagram.allowedScales = kAllScales;
+    beginXAtZero(diagram.frame);
     nameFrequencyUnit(diagram.frame, probe.spectralUnit);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         const SArray& spectrum = probe.Series(c).spectrum;
@@ -39,6 +40,7 @@ PaneContent powerSpectra(const PaneRequest& request, const SAdvProbe& probe) {
 PaneContent structureFunctions(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
     diagram.allowedScales = kAllScales;
+    beginXAtZero(diagram.frame);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         diagram.plot.series.push_back(curve(plotValues(probe.Series(c).structureFunction),
                                             SeriesX{0.0, probe.samplingInterval, {}}, c,

@@ -131,6 +131,20 @@ TEST_F(ResultPanes, CrossSpectraOfVelocitiesAndStresses) {
     EXPECT_EQ(legends(d), (Texts{"u'-v'", "u'-w'", "v'-w'"}));
     EXPECT_EQ(d.plot.series[0].y.size(), 39U);
     EXPECT_DOUBLE_EQ(d.plot.series[0].x.at(5), 5.0 / (2 * 40 * 0.04));
+    EXPECT_EQ(d.plot.series[0].attributes.style, SeriesStyle::Markers);
+}
+
+TEST_F(ResultPanes, AxesOfWhatIsNeverNegativeBeginAtZeroUnlessTheUserSaysElse) {
+    analyseDistributions(probe(), {8, 90, true}, progress);
+    Diagram d = diagram(Stage::Histograms, Pane::LeftTop);
+    EXPECT_EQ(d.frame.yMinMode, 1);
+    EXPECT_EQ(d.frame.yMin, 0.0);
+    EXPECT_EQ(d.frame.xMinMode, 0);
+    FrameAttributesType& stored = probe().frameAttributes[2].ElementAt(0);
+    EXPECT_EQ(stored.yMinMode, 0);
+    stored.yMinMode = 1;
+    stored.yMin = -2.0;
+    EXPECT_EQ(diagram(Stage::Histograms, Pane::LeftTop).frame.yMin, -2.0);
 }
 
 TEST_F(ResultPanes, WithoutResultsThereIsNothingToPlot) {
