@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include "model/Archive.h"
 #include "model/SAdvSet.h"
@@ -221,6 +223,26 @@ TEST(SamplingVolumes, HoldTheIntegerPartOfTheCoordinates) {
     EXPECT_EQ(volumes.files()[0].z.GetAt(0), kNoInteger);
     EXPECT_EQ(volumes.files()[1].name, "site/run 8.adv");
     EXPECT_TRUE(volumes.files()[1].x.IsEmpty());
+}
+
+TEST(FixedText, EqualsPrintfForRandomValuesAndTies) {
+    std::mt19937_64 random(3);
+    for (int i = 0; i < 200000; ++i) {
+        const int digits = 1 + static_cast<int>(random() % 7);
+        double value = std::bit_cast<double>(random());
+        if (i % 4 == 1) {
+            value = static_cast<std::int32_t>(random()) * 0.001;
+        } else if (i % 4 == 2) {
+            value = static_cast<double>(static_cast<std::int64_t>(random()) >> (random() % 60)) / 64.0;
+        } else if (i % 4 == 3) {
+            // Next to a tie, which has one decimal more.
+            value = (static_cast<double>(random() % 1000000) + 0.5) / std::pow(10.0, digits);
+            value = std::nextafter(value, random() % 2 == 0 ? 0.0 : 1e9);
+        }
+        std::string text;
+        appendFixed(text, value, digits);
+        ASSERT_EQ(text, formatted("%.*f", digits, value)) << formatted("%a", value);
+    }
 }
 
 TEST(FixedText, EqualsPrintf) {
