@@ -93,12 +93,13 @@ PlotSeries boundaryLine(const SBndSet& boundaries, Plane plane) {
     return line;
 }
 
-/// Arrows without points yet: length pixels long for a vector of speed cm/s.
+/// Arrows without points yet: length pixels long for a vector of speed cm/s; without length for a speed that gives no
+/// scale.
 PlotSeries arrows(std::int32_t colour, double length, double speed, const std::string& legend) {
     PlotSeries series;
     series.attributes.style = SeriesStyle::Arrows;
     series.attributes.colour = colour;
-    series.attributes.arrowScale = length / speed;
+    series.attributes.arrowScale = speed > 0.0 ? length / speed : 0.0;
     series.attributes.legendText = legend;
     series.legendArrow = speed;
     return series;

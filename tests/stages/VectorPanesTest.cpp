@@ -45,6 +45,8 @@ TEST_F(VectorPanes, MeanArrowsStandAtTheSamplingVolumes) {
     EXPECT_EQ(d.labels[0].text, "Probe 1");
     EXPECT_EQ(d.frame.plotTitle, "Mean Velocity Vectors");
 
+    workspace.settings.planSpeed = 0.0;
+    EXPECT_EQ(diagram(kStage, Pane::LeftTop).plot.series[0].attributes.arrowScale, 0.0);
     workspace.settings.planPlane = 2;
     d = diagram(kStage, Pane::LeftTop);
     EXPECT_EQ(d.frame.yTitle, "Z, m");
