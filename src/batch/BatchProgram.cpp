@@ -29,8 +29,14 @@ std::vector<Subcommand> addSubcommands(CLI::App& program) {
     return commands;
 }
 
-int usageFault(Console& console, const CLI::App& program, const CLI::ParseError& error) {
-    console.complain(error.what());
+/// The first word is the subcommand: an unknown one is worth its name.
+std::string textOf(const CLI::ParseError& error, const CLI::App& program, const std::string& first) {
+    const bool word = !first.empty() && first[0] != '-';
+    return word && program.get_subcommands().empty() ? "\"" + first + "\" is no subcommand" : error.what();
+}
+
+int usageFault(Console& console, const CLI::App& program, const std::string& text) {
+    console.complain(text);
     std::string command = kBatchName;
     for (const CLI::App* used : program.get_subcommands()) {
         command += " " + used->get_name();
@@ -62,6 +68,7 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
     program.footer(kStatusHelp);
     program.require_subcommand(1);
     const std::vector<Subcommand> commands = addSubcommands(program);
+    const std::string first = args.empty() ? "" : args.front();
     try {
         std::reverse(args.begin(), args.end());
         program.parse(std::move(args));
@@ -72,7 +79,7 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
         out << version.what() << '\n';
         return afterOutput(console);
     } catch (const CLI::ParseError& error) {
-        return usageFault(console, program, error);
+        return usageFault(console, program, textOf(error, program, first));
     }
     ExitStatus status = ExitStatus::Usage;
     for (const Subcommand& command : commands) {

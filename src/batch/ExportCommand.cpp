@@ -1,7 +1,6 @@
 #include "batch/ExportRun.h"
 #include "batch/Options.h"
 #include "batch/Outputs.h"
-#include "batch/RecipeKeys.h"
 #include "batch/Subcommands.h"
 
 namespace vorlan {
@@ -13,8 +12,13 @@ struct ExportArguments {
     std::string out;
     ProbePlace place;
     ExportRequest request;
+    int kind = 0;
     int separator = 0;
 };
+
+constexpr const char* kKindHelp =
+    "What to write: velocities, stationarity, histograms, statistics,\nspectral, scales, stresses, stress-statistics, "
+    "cross-spectral,\ncontributions, times or patterns";
 
 void runExport(const ExportArguments& arguments, Console& console) {
     const std::string fault = faultOf(arguments.request);
@@ -39,9 +43,7 @@ void runExport(const ExportArguments& arguments, Console& console) {
 Subcommand addExportCommand(CLI::App& program) {
     CLI::App* app = program.add_subcommand("export", "Write results as text, for other programs");
     const auto arguments = std::make_shared<ExportArguments>();
-    addChoice(*app, "KIND", arguments->request.name, exportNames(), "What to write: " + listed(exportNames()))
-        ->required()
-        ->type_name("");
+    addChoice(*app, "KIND", arguments->kind, exportNames(), kKindHelp)->required()->type_name("");
     app->add_option("--out", arguments->out, "The file to write; - is standard output")
         ->required()
         ->type_name("OUT.dat");
@@ -54,6 +56,7 @@ Subcommand addExportCommand(CLI::App& program) {
     app->add_flag("--all", arguments->request.all, "All files and probes, for tables that have such a form");
     app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
     return {app, [arguments](Console& console) {
+                arguments->request.kind = static_cast<ExportKind>(arguments->kind);
                 arguments->request.options.separator = static_cast<Separator>(arguments->separator);
                 runExport(*arguments, console);
                 return ExitStatus::Done;

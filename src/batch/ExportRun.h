@@ -10,13 +10,13 @@
 
 namespace vorlan {
 
-/// Names of the exports, in the order of their menu.
+/// Names of the exports, by their kind.
 const std::vector<std::string>& exportNames();
 /// Names of the value separators, by their code.
 const std::vector<std::string>& separatorNames();
 
 struct ExportRequest {
-    int name = 0;  ///< index in exportNames()
+    ExportKind kind = ExportKind::Velocities;
     ExportOptions options;
     bool all = false;  ///< all files and probes
 };
@@ -25,7 +25,7 @@ struct ExportRequest {
 std::string faultOf(const ExportRequest& request);
 
 /// The command that the window offers for it.
-Command commandOf(const ExportRequest& request);
+Command commandOf(ExportKind kind);
 
 /// The file of the selected probe (or of all), as the window would write it. BatchError Refused when it would not.
 std::string exportedText(const CVorl_ADVDoc& document, const ExportRequest& request);

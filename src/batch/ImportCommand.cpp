@@ -74,14 +74,14 @@ void addTableOptions(CLI::App& app, ImportOptions& options) {
                }
                options.table.columns = text;
            },
-           "Names of the columns, with commas between them, \"-\" for one to skip: u,v,w (required), cor1,cor2,cor3, "
-           "snr1,snr2,snr3, heading,pitch,roll, pressure; without it the first line names them")
+           "Names of the columns with commas between them, - for one to skip:\nu,v,w (required), cor1,cor2,cor3, "
+           "snr1,snr2,snr3,\nheading,pitch,roll, pressure; without it the first line names them")
         ->type_name("LIST");
     addReal(app, "--resolution", options.settings.resolution, kAboveZero, "R",
             "Step in which velocities are stored, cm/s; everything else takes 0.001")
         ->default_str(shown(options.settings.resolution));
     addChoice(app, "--missing", options.missing, {"error", "mark"},
-              "An empty or NaN velocity is an error, or (mark) the sample gets mark 0 and the straight line between "
+              "An empty or NaN velocity is an error, or (mark) its sample gets\nmark 0 and the straight line between "
               "its neighbours")
         ->type_name("error|mark")
         ->default_str("error");
@@ -97,13 +97,16 @@ Subcommand addImportCommand(CLI::App& program) {
     addReal(*app, "--interval", options->settings.samplingInterval, kAboveZero, "S", "Sampling interval, s")
         ->required();
     addTableOptions(*app, *options);
-    app->add_option("--name", options->name, "Name of the data file (default: the table's, without its extension)")
+    app->add_option("--name", options->name,
+                    "Name of the data file; the table's without folder and extension\nunless given")
         ->type_name("TEXT");
     addTriple(*app, "--position", options->settings.position, kAnyNumbers, "X,Y,Z",
               "Position of the sampling volume, m")
         ->default_str("0,0,0");
     app->add_flag("--as-probes", options->asProbes, "Make all tables probes 1, 2, ... of one data file");
-    app->add_option("TABLE", options->tables, "Text with one sample per line; comma, semicolon, tab or blanks between")
+    app->add_option(
+           "TABLE", options->tables,
+           "Text with one sample per line; comma, semicolon, tab or blanks\nbetween the values, # before a comment")
         ->required()
         ->type_name("");
     return {app, [options](Console& console) {

@@ -8,7 +8,7 @@ namespace {
 
 ExportRequest exportRequestOf(const StepValues& values) {
     ExportRequest request;
-    request.name = values.choice("kind");
+    request.kind = static_cast<ExportKind>(values.choice("kind"));
     request.options.header = values.boolean("header");
     request.options.time = values.boolean("time");
     request.options.separator = static_cast<Separator>(values.choice("separator"));

@@ -7,6 +7,11 @@
 
 namespace vorlan {
 
+namespace {
+// Ends that only keep numbers finite are not worth telling.
+constexpr double kUnbounded = 1e300;
+}  // namespace
+
 KeySpec booleanKey(std::string name, bool fallback) {
     return {.name = std::move(name), .type = KeyType::Boolean, .fallback = fallback};
 }
@@ -77,8 +82,7 @@ std::string listed(const std::vector<std::string>& choices) {
 }
 
 std::string describe(const Range& range) {
-    const bool bounded = std::isfinite(range.maximum);
-    if (!bounded && std::isfinite(range.minimum)) {
+    if (range.maximum >= kUnbounded && range.minimum > -kUnbounded) {
         const double rounded = std::floor(range.minimum);
         return range.minimum > rounded ? formatted("above %g", rounded) : formatted("at least %g", range.minimum);
     }

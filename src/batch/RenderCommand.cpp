@@ -17,6 +17,9 @@ struct RenderArguments {
     int value = 0;
 };
 
+constexpr const char* kStageHelp =
+    "The stage: pre-processing, stationarity, histograms, spectral,\nvectors, quadrants or cross-spectral";
+
 void runRender(RenderArguments& arguments, Console& console) {
     RenderRequest& request = arguments.request;
     request.stage = static_cast<Stage>(arguments.stage);
@@ -43,11 +46,9 @@ void runRender(RenderArguments& arguments, Console& console) {
 Subcommand addRenderCommand(CLI::App& program) {
     CLI::App* app = program.add_subcommand("render", "Draw a stage's diagrams into a picture");
     const auto arguments = std::make_shared<RenderArguments>();
-    addChoice(*app, "--stage", arguments->stage, stageNames(), "The stage: " + listed(stageNames()))
-        ->required()
-        ->type_name("STAGE");
+    addChoice(*app, "--stage", arguments->stage, stageNames(), kStageHelp)->required()->type_name("STAGE");
     addChoice(*app, "--pane", arguments->pane, paneNames(),
-              "One pane: " + listed(paneNames()) + "; all four without it")
+              "One pane: " + listed(paneNames()) + ";\nall four without it")
         ->type_name("PANE");
     addChoice(*app, "--values", arguments->value, physicalValueNames(), "What stages with two sides show")
         ->type_name("velocities|stresses")

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <clocale>
+#include <cstdio>
 #include <filesystem>
 
 #include "batch/BatchError.h"
@@ -29,6 +30,13 @@ std::optional<RenderFormat> formatOf(const std::string& path) {
         return RenderFormat::Pdf;
     }
     return std::nullopt;
+}
+
+// What the toolkit remarks about the machine it runs on is of no use to a script.
+void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        std::fprintf(stderr, "%s: %s\n", kBatchName, text.toUtf8().constData());
+    }
 }
 
 }  // namespace
@@ -63,12 +71,22 @@ class Renderer::Toolkit {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
+        handler_ = qInstallMessageHandler(keepQuiet);
         application_ = std::make_unique<QGuiApplication>(argumentCount_, arguments_);
         // The application takes over the desktop's language; numbers keep their point.
         std::setlocale(LC_NUMERIC, "C");
     }
+    ~Toolkit() {
+        if (application_ != nullptr) {
+            application_.reset();
+            qInstallMessageHandler(handler_);
+        }
+    }
+    Toolkit(const Toolkit&) = delete;
+    Toolkit& operator=(const Toolkit&) = delete;
 
   private:
+    QtMessageHandler handler_ = nullptr;
     std::string name_ = kBatchName;
     int argumentCount_ = 1;
     char* arguments_[2] = {name_.data(), nullptr};

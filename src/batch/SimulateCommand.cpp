@@ -1,7 +1,6 @@
 #include <chrono>
 
 #include "batch/Options.h"
-#include "batch/Outputs.h"
 #include "batch/Subcommands.h"
 #include "batch/TextValues.h"
 
@@ -84,7 +83,7 @@ void addVelocityOptions(CLI::App& app, SimulateOptions& options) {
     addTriple(app, "--mean", options.mean, kVelocities, "U,V,W", "Mean velocities, cm/s (-200 to 200)")
         ->default_str("50,5,0");
     CLI::Option* variance = addTriple(app, "--noise-variance", options.noiseVariance, kAnyNumbers, "U,V,W",
-                                      "White noise; the number is used as its standard deviation, cm/s");
+                                      "White noise; each number is used as the standard deviation, cm/s");
     addTriple(app, "--noise-mean", options.noiseMean, kVelocities, "U,V,W", "Mean of the noise, cm/s (-200 to 200)")
         ->needs(variance)
         ->default_str("0,0,0");
@@ -95,8 +94,9 @@ void addVelocityOptions(CLI::App& app, SimulateOptions& options) {
                    takeHarmonic(options, text);
                }
            },
-           "A sine: component u, v or w, amplitude in cm/s (-200 to 200), period in s, phase in degrees (0 to 360); "
-           "may be repeated")
+           "A sine, as in u:10:2.5:90: component u, v or w, amplitude in cm/s\n(-200 to 200), period in s, phase in "
+           "degrees "
+           "(0 to 360); up to 25\nof each component")
         ->allow_extra_args(false)
         ->type_name("C:AMP:PERIOD:PHASE");
 }
@@ -123,11 +123,21 @@ Subcommand addSimulateCommand(CLI::App& program) {
         ->default_str(shown(p.signalToNoise));
     CLI::Option* compass =
         addTriple(*app, "--compass", options->compass, {limits::kHeading, limits::kTilt, limits::kTilt},
-                  "HEADING,PITCH,ROLL", "Compass and tilt, degrees (0 to 360, -30 to 30, -30 to 30); off without it");
+                  "HEADING,PITCH,ROLL", "Compass and tilt, degrees (0 to 360, -30 to 30, -30 to 30); none\nwithout it");
     addVelocityOptions(*app, *options);
     addTriple(*app, "--position", p.position, kAnyNumbers, "X,Y,Z", "Position of the sampling volume, m")
         ->default_str("0,0,0");
-    app->add_option("--seed", options->seed, "Seed of the noise: the same seed, the same record")->type_name("N");
+    app->add_option_function<std::string>(
+           "--seed",
+           [options](const std::string& text) {
+               const std::optional<long long> seed = parseInteger(text);
+               if (!seed || *seed < 0) {
+                   throw CLI::ValidationError("--seed", "\"" + text + "\" is not a number from 0");
+               }
+               options->seed = static_cast<std::uint64_t>(*seed);
+           },
+           "Seed of all that is random: the same seed, the same record")
+        ->type_name("N");
 
     const CLI::Option* noise = app->get_option("--noise-variance");
     return {app, [options, compass, noise](Console&) {

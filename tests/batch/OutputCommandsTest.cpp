@@ -1,0 +1,83 @@
+// export and render.
+#include "batch/BatchTest.h"
+#include "export/SpectralExport.h"
+
+namespace vorlan {
+
+namespace {
+
+class OutputCommandsTest : public BatchTest {
+  protected:
+    std::string analysed() const {
+        const std::string recipe = write("r.toml", "[[step]]\ndo = \"spectral\"\nlags = 40\n");
+        done({"run", "--recipe", recipe, "--out", path("s.avp"), withProbes("in.avp", 2)});
+        return path("s.avp");
+    }
+};
+
+TEST_F(OutputCommandsTest, ExportWritesTheProbeThatIsAskedFor) {
+    const std::string input = analysed();
+    const Workspace workspace = openWorkspace(input);
+    std::ostringstream expected;
+    writeSpectral(expected, {"test", 2, probeOf(workspace, 0, 1)},
+                  {.header = true, .time = true, .separator = Separator::Tab});
+    const std::vector<std::string> arguments = {"export",  "spectral", "--header", "--time", "--separator", "tab",
+                                                "--probe", "2",        "--file",   "1",      input,         "--out"};
+    std::vector<std::string> toFile = arguments;
+    toFile.push_back(path("s.dat"));
+    EXPECT_EQ(done(toFile), "");
+    EXPECT_EQ(read(path("s.dat")), expected.str());
+    std::vector<std::string> toStream = arguments;
+    toStream.push_back("-");
+    EXPECT_EQ(done(toStream), expected.str());
+    EXPECT_TRUE(holds(done({"export", "spectral", "--out", "-", "--header", input}), "PROBE : 1\n"));
+}
+
+TEST_F(OutputCommandsTest, ProbesAndResultsThatAreNotThereAreRefused) {
+    const std::string input = simulated("a.avp");
+    const std::string old = write("old.dat", "precious");
+    const struct {
+        std::vector<std::string> arguments;
+        const char* said;
+    } rows[] = {
+        {{"export", "spectral", "--out", old, input}, "no spectral analysis yet"},
+        {{"export", "velocities", "--out", old, "--file", "2", input}, "there is no data file 2"},
+        {{"export", "velocities", "--out", old, "--probe", "2", input}, "there is no probe 2"},
+        {{"render", "--stage", "spectral", "--out", path("a.png"), input}, "no stage \"Spectral Analysis\" yet"},
+        {{"render", "--stage", "pre-processing", "--out", path("a.png"), "--probe", "9", input}, "there is no probe 9"},
+    };
+    for (const auto& row : rows) {
+        const Result result = run(row.arguments);
+        EXPECT_EQ(result.status, 1) << row.said;
+        EXPECT_TRUE(holds(result.err, input + ": "));
+        EXPECT_TRUE(holds(result.err, row.said));
+    }
+    EXPECT_EQ(read(old), "precious");
+    EXPECT_FALSE(std::filesystem::exists(path("a.png")));
+}
+
+TEST_F(OutputCommandsTest, RenderWritesTheFormatOfTheExtension) {
+    const std::string input = analysed();
+    const std::string before = read(input);
+    const struct {
+        const char* name;
+        const char* head;
+    } rows[] = {{"a.png", "\x89PNG"}, {"a.SVG", "<?xml"}, {"a.pdf", "%PDF"}};
+    for (const auto& row : rows) {
+        done({"render", "--stage", "spectral", "--size", "320x240", "--out", path(row.name), input});
+        EXPECT_EQ(read(path(row.name)).substr(0, std::string(row.head).size()), row.head) << row.name;
+    }
+    // Width and height stand in the picture's header, most significant byte first.
+    EXPECT_EQ(read(path("a.png")).substr(16, 8), std::string("\0\0\x01\x40\0\0\0\xF0", 8));
+    done({"render", "--stage", "spectral", "--size", "320x240", "--pane", "right-bottom", "--out", path("b.png"),
+          input});
+    EXPECT_NE(read(path("b.png")), read(path("a.png")));
+    done({"render", "--stage", "pre-processing", "--values", "stresses", "--pane", "left-top", "--out", path("c.svg"),
+          input});
+    EXPECT_TRUE(holds(read(path("c.svg")), "Sampled Stresses"));
+    EXPECT_EQ(read(input), before);
+}
+
+}  // namespace
+
+}  // namespace vorlan

@@ -1,0 +1,89 @@
+// The program as a shell sees it.
+#include <sys/wait.h>
+
+#include <csignal>
+#include <thread>
+
+#include "batch/BatchTest.h"
+
+namespace vorlan {
+
+namespace {
+
+class ProgramTest : public BatchTest {
+  protected:
+    /// Exit status of a shell command in which $batch is the program and $dir the folder.
+    int shell(const std::string& command) const {
+        const std::string line = "batch='" VORLAN_BATCH_PROGRAM "'; dir='" + path("") + "'; " + command;
+        const int status = std::system(line.c_str());
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+};
+
+TEST_F(ProgramTest, ExitStatusesReachTheShell) {
+    write("spectral.toml", "[[step]]\ndo = \"spectral\"\nlags = 9999\n");
+    EXPECT_EQ(shell("\"$batch\" simulate --out $dir/a.avp --length 4 --seed 1"), 0);
+    EXPECT_EQ(shell("\"$batch\" run --recipe $dir/spectral.toml --in-place $dir/a.avp 2>/dev/null"), 1);
+    EXPECT_EQ(shell("\"$batch\" run 2>/dev/null"), 2);
+    EXPECT_EQ(shell("\"$batch\" info $dir/none.avp 2>/dev/null"), 3);
+    EXPECT_EQ(shell("\"$batch\" new $dir/none/a.avp 2>/dev/null"), 4);
+    for (const char* writes : {"info $dir/a.avp", "info --json $dir/a.avp", "--help", "--version", "run --help",
+                               "export velocities --out - $dir/a.avp"}) {
+        EXPECT_EQ(shell("\"$batch\" " + std::string(writes) + " >/dev/full 2>/dev/null"), 4) << writes;
+    }
+}
+
+TEST_F(ProgramTest, DefaultsToTheOffscreenPlatformAndKeepsThePointInNumbers) {
+    EXPECT_EQ(shell("\"$batch\" simulate --out $dir/a.avp --length 4 --seed 1"), 0);
+    write("r.toml", "[[step]]\ndo = \"render\"\nstage = \"pre-processing\"\nout = \"" + path("a.png") +
+                        "\"\n[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path("after.dat") + "\"\n");
+    EXPECT_EQ(
+        shell("env -u QT_QPA_PLATFORM -u DISPLAY LC_ALL=de_DE.UTF-8 \"$batch\" run --recipe $dir/r.toml $dir/a.avp "
+              "2>$dir/err"),
+        0);
+    EXPECT_EQ(read(path("err")), "");
+    EXPECT_EQ(read(path("after.dat")), done({"export", "velocities", "--out", "-", path("a.avp")}));
+}
+
+TEST_F(ProgramTest, AnInterruptLeavesEverythingAsItWas) {
+    EXPECT_EQ(shell("\"$batch\" simulate --out $dir/a.avp --length 1000 --noise-variance 1,1,1 --seed 1"), 0);
+    write("r.toml", [] {
+        std::string text;
+        for (int i = 0; i < 400; ++i) {
+            text += "[[step]]\ndo = \"spectral\"\npercent = 50\n";
+        }
+        return text;
+    }());
+    const std::string before = read(path("a.avp"));
+    for (const char* jobs : {"1", "2"}) {
+        write("b.avp", before);
+        const int status =
+            shell(std::string("\"$batch\" run --recipe $dir/r.toml --jobs ") + jobs +
+                  " --in-place $dir/a.avp $dir/b.avp 2>$dir/err & worker=$!; sleep 0.5; kill -TERM $worker; "
+                  "wait $worker");
+        EXPECT_EQ(status, 128 + SIGTERM);
+        EXPECT_TRUE(holds(read(path("err")), "interrupted"));
+        EXPECT_EQ(read(path("a.avp")), before);
+        EXPECT_EQ(read(path("b.avp")), before);
+        EXPECT_EQ(names(), (std::vector<std::string>{"a.avp", "b.avp", "err", "r.toml"}));
+    }
+}
+
+TEST_F(ProgramTest, TheMeasuredRecordGoesThrough) {
+    const std::string table = "/work/shared/data/adv_tidal_32hz.csv";
+    if (!std::filesystem::exists(table)) {
+        GTEST_SKIP();
+    }
+    EXPECT_EQ(shell("\"$batch\" import --out $dir/t.avp --interval 0.03125 " + table), 0);
+    const SAdvProbe probe = probeOf(openWorkspace(path("t.avp")));
+    EXPECT_EQ(probe.WorkingSamples(), 32000);
+    EXPECT_NEAR(probe.VelocityMoments(0).mean, -93.0, 0.2);
+    // The table has one decimal: what was stored comes out again.
+    const std::string exported = done({"export", "velocities", "--out", "-", path("t.avp")});
+    EXPECT_EQ(exported.substr(0, exported.find('\n')), "-75.40 4.00 -6.70");
+    EXPECT_EQ(std::count(exported.begin(), exported.end(), '\n'), 32000);
+}
+
+}  // namespace
+
+}  // namespace vorlan
