@@ -89,8 +89,10 @@ void CVorl_ADVApp::start(const std::optional<QString>& workspace) {
     const bool onScreen = platformName() != QLatin1String("offscreen");
     if (onScreen) {
         showSplash();
-        registerDocumentType(applicationFilePath(),
-                             QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+        const QString dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        if (registerDocumentType(applicationFilePath(), dataHome)) {
+            refreshDesktopDatabases(dataHome);
+        }
     }
     frame_ = std::make_unique<CMainFrame>();
     frame_->show();

@@ -72,13 +72,12 @@ bool registerDocumentType(const QString& program, const QString& dataHome) {
     QByteArray entry(kDesktopEntry);
     entry.replace("%1", quoted(program).toUtf8());
     const bool desktop = writeIfDifferent(dataHome + QStringLiteral("/applications/vorlan.desktop"), entry);
-    if (mime) {
-        refreshDatabase(QStringLiteral("update-mime-database"), dataHome + QStringLiteral("/mime"));
-    }
-    if (desktop) {
-        refreshDatabase(QStringLiteral("update-desktop-database"), dataHome + QStringLiteral("/applications"));
-    }
     return mime || desktop;
+}
+
+void refreshDesktopDatabases(const QString& dataHome) {
+    refreshDatabase(QStringLiteral("update-mime-database"), dataHome + QStringLiteral("/mime"));
+    refreshDatabase(QStringLiteral("update-desktop-database"), dataHome + QStringLiteral("/applications"));
 }
 
 }  // namespace vorlan

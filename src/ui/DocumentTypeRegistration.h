@@ -9,4 +9,7 @@ namespace vorlan {
 /// no matter of the user's. Returns true when something was written.
 bool registerDocumentType(const QString& program, const QString& dataHome);
 
+/// Lets the desktop read anew what is registered below dataHome, in the background.
+void refreshDesktopDatabases(const QString& dataHome);
+
 }  // namespace vorlan

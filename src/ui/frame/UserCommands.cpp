@@ -48,6 +48,15 @@ QString keptShares(const EditingResult& result) {
 }  // namespace
 
 void UserCommands::run(Command command) {
+    try {
+        dispatch(command);
+    } catch (const InvalidArgument& error) {
+        // A damaged workspace: columns that should be of one length are not.
+        boxes_->refuse(&window_, QString::fromUtf8(error.what()));
+    }
+}
+
+void UserCommands::dispatch(Command command) {
     switch (command) {
         case Command::BitmapCopy:
             return copyBitmap();

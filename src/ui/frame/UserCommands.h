@@ -27,6 +27,7 @@ class UserCommands {
     void run(Command command);
 
   private:
+    void dispatch(Command command);
     void runFileCommand(Command command);
     void simulate();
     void changeCoordinateSystem();

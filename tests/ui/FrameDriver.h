@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+
+#include "ui/frame/CMainFrame.h"
+
+/// Answers the window's boxes from fields and keeps what was asked.
+class ScriptedBoxes : public vorlan::UserBoxes {
+  public:
+    bool confirm(QWidget*, const QString& text) override {
+        questions.append(text);
+        return confirmAnswer;
+    }
+    void refuse(QWidget*, const QString& text) override { refusals.append(text); }
+    SaveAnswer askToSave(QWidget*, const QString& name) override {
+        saveQuestions.append(name);
+        return saveAnswer;
+    }
+    QString chooseWorkspaceToOpen(QWidget*, const QString&) override { return openPath; }
+    QString chooseWorkspaceToSave(QWidget*, const QString& proposed) override {
+        proposals.append(proposed);
+        return savePath;
+    }
+    QString chooseExport(QWidget*, const QString& proposed) override {
+        proposals.append(proposed);
+        return exportPath;
+    }
+
+    bool confirmAnswer = true;
+    SaveAnswer saveAnswer = SaveAnswer::Discard;
+    QString openPath;
+    QString savePath;
+    QString exportPath;
+    QStringList questions;
+    QStringList refusals;
+    QStringList saveQuestions;
+    QStringList proposals;
+};
+
+/// A window on an empty workspace with a settings store of its own.
+class FrameDriver {
+  public:
+    FrameDriver() {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+        frame = std::make_unique<vorlan::CMainFrame>();
+        frame->setBoxes(boxes);
+        frame->commands().setSeedSource([] { return 7; });
+        frame->show();
+        QApplication::setActiveWindow(frame.get());
+    }
+
+    vorlan::CVorl_ADVDoc& document() { return frame->document(); }
+    void trigger(vorlan::Command command) { frame->actions().of(command)->trigger(); }
+    bool enabled(vorlan::Command command) { return frame->actions().of(command)->isEnabled(); }
+    QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+    QString status() { return frame->statusPane().text(); }
+    const vorlan::PaneContent& content(vorlan::Pane pane) { return frame->panes().view(pane).content(); }
+
+    /// Triggers a command and works the dialog that it opens; fails when it opens none of that title.
+    bool withDialog(vorlan::Command command, const char* title, const std::function<void(QDialog&)>& work = {},
+                    QDialogButtonBox::StandardButton end = QDialogButtonBox::Ok) {
+        bool met = false;
+        QTimer::singleShot(0, frame.get(), [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) {
+                return;
+            }
+            met = dialog->windowTitle() == QString::fromUtf8(title);
+            if (work) {
+                work(*dialog);
+            }
+            dialog->findChild<QDialogButtonBox*>()->button(end)->click();
+            if (dialog->isVisible()) {
+                dialog->reject();
+            }
+        });
+        trigger(command);
+        return met;
+    }
+
+    /// A simulated record of two components' noise, its probe selected.
+    void simulate(double length = 40.0) {
+        vorlan::SimulationParameters parameters;
+        parameters.length = length;
+        parameters.whiteNoise = true;
+        document().SimulateTimeSeries(parameters, 7);
+        document().SelectProbe(0);
+    }
+
+    QTemporaryDir folder;
+    ScriptedBoxes boxes;
+    std::unique_ptr<vorlan::CMainFrame> frame;
+};

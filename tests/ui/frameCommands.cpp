@@ -1,0 +1,246 @@
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTest>
+#include <QToolBar>
+
+#include "FrameDriver.h"
+#include "export/ExportKind.h"
+#include "ui/frame/MenuTable.h"
+
+using namespace vorlan;
+
+namespace {
+
+QChar mnemonicOf(const QString& text) {
+    const int at = static_cast<int>(text.indexOf(QLatin1Char('&')));
+    return at < 0 ? QChar() : text.at(at + 1).toLower();
+}
+
+void checkMnemonics(const QList<QAction*>& actions) {
+    QSet<QChar> taken;
+    for (const QAction* action : actions) {
+        if (action->isSeparator() || !action->isVisible()) {
+            continue;
+        }
+        const QChar mnemonic = mnemonicOf(action->text());
+        QVERIFY2(!mnemonic.isNull(), qPrintable(action->text()));
+        QVERIFY2(!taken.contains(mnemonic), qPrintable(action->text()));
+        taken.insert(mnemonic);
+    }
+}
+
+QLineEdit* fieldOf(QDialog& dialog, const char* label) {
+    for (QLabel* candidate : dialog.findChildren<QLabel*>()) {
+        if (candidate->text() == QString::fromUtf8(label)) {
+            return qobject_cast<QLineEdit*>(candidate->buddy());
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+class FrameCommands : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void menusHaveTheirTextsKeysAndMnemonics() {
+        FrameDriver driver;
+        QStringList titles;
+        for (const QAction* menu : driver.frame->menuBar()->actions()) {
+            titles.append(menu->text());
+            checkMnemonics(menu->menu()->actions());
+        }
+        QCOMPARE(titles.join(QLatin1Char(' ')),
+                 QStringLiteral("&File &Edit &View &Pre-Processing &Analysis &Tools &Help"));
+        checkMnemonics(driver.frame->menuBar()->actions());
+
+        const auto text = [&](Command command) { return driver.frame->actions().of(command)->text(); };
+        QCOMPARE(text(Command::SpectralAnalysis), QStringLiteral("S&pectral Analysis..."));
+        QCOMPARE(text(Command::QuadrantsAnalysis), QStringLiteral("&Quadrants Analysis and Averaging..."));
+        QCOMPARE(text(Command::ExportScales), QStringLiteral("&Dis. Rate and Scales..."));
+        QCOMPARE(driver.frame->actions().of(Command::ZoomAndClipping)->statusTip(), QStringLiteral("Zoom time series"));
+        QCOMPARE(driver.frame->actions().of(Command::ResetTimeSeries)->toolTip(),
+                 QStringLiteral("Reset Zoom and Clipping"));
+        QCOMPARE(driver.frame->actions().of(Command::ExtractDissipationRate)->shortcut(),
+                 QKeySequence(QStringLiteral("Ctrl+E")));
+        for (int i = 0; i < kCommandCount; ++i) {
+            const auto command = static_cast<Command>(i);
+            QVERIFY2(driver.frame->actions().of(command) != nullptr, qPrintable(QString::number(i)));
+            QVERIFY2(command == Command::RecentWorkspace || !driver.frame->actions().of(command)->statusTip().isEmpty(),
+                     qPrintable(text(command)));
+        }
+    }
+
+    void anEmptyWindowOffersOnlyWhatNeedsNoRecord() {
+        FrameDriver driver;
+        QCOMPARE(driver.frame->windowTitle(), QStringLiteral("Untitled[*] - Vorlan"));
+        QVERIFY(!driver.frame->isWindowModified());
+        QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QVERIFY(driver.enabled(Command::SimulateTimeSeries));
+        QVERIFY(driver.enabled(Command::SaveWorkspace));
+        for (const Command command : {Command::CloseFile, Command::SpectralAnalysis, Command::BitmapCopy,
+                                      Command::ExportVelocities, Command::PlotFrameOptions, Command::ResetTimeSeries}) {
+            QVERIFY(!driver.enabled(command));
+        }
+    }
+
+    void fromAnEmptyWindowToASpectrum() {
+        FrameDriver driver;
+        QVERIFY(driver.withDialog(
+            Command::SimulateTimeSeries, "Simulate Time Series | Parameters",
+            [](QDialog& dialog) { fieldOf(dialog, "&File Name:")->setText(QStringLiteral("flume")); }));
+        QCOMPARE(driver.document().File().fileName, std::string("flume"));
+        QVERIFY(driver.frame->isWindowModified());
+        QVERIFY(std::holds_alternative<std::monostate>(driver.content(Pane::LeftTop)));
+
+        auto* probes = driver.frame->findChild<QComboBox*>(QStringLiteral("Probes"));
+        QCOMPARE(probes->itemText(0), QStringLiteral("Probe 1"));
+        QCOMPARE(probes->currentIndex(), -1);
+        probes->setFocus();
+        QTest::keyClick(probes, Qt::Key_Down);
+        QVERIFY(driver.document().HasProbe());
+        QVERIFY(std::holds_alternative<Diagram>(driver.content(Pane::LeftTop)));
+        QVERIFY(std::holds_alternative<TableContent>(driver.content(Pane::RightBottom)));
+
+        QVERIFY(driver.withDialog(Command::SpectralAnalysis, "Spectral Analysis | Parameters"));
+        QCOMPARE(driver.document().Probe().spectralLags, 250U);
+        auto* tabs = driver.frame->findChild<QTabBar*>(QStringLiteral("StageTabs"));
+        QCOMPARE(tabs->count(), 2);
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("Spectral Analysis"));
+        QCOMPARE(std::get<Diagram>(driver.content(Pane::LeftBottom)).frame.plotTitle, std::string("Power spectra"));
+        QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QVERIFY(!driver.frame->statusPane().progressBar().isVisible());
+
+        tabs->setCurrentIndex(0);
+        QCOMPARE(driver.document().CurrentStage(), Stage::PreProcessing);
+        tabs->setCurrentIndex(1);
+        QCOMPARE(driver.document().CurrentStage(), Stage::Spectral);
+    }
+
+    void cancelledDialogsChangeNothing() {
+        FrameDriver driver;
+        driver.simulate();
+        const SAdvProbe before = driver.document().Probe();
+        const WorkspaceSettings settings = driver.document().Settings();
+        const std::vector<std::pair<Command, const char*>> dialogs = {
+            {Command::SpectralAnalysis, "Spectral Analysis | Parameters"},
+            {Command::CoordinateSystem, "Coordinate System"},
+            {Command::EditingTimeSeries, "Editing Time Series"},
+            {Command::DigitalFiltration, "Digital Filtration | Parameters"},
+            {Command::StationarityAnalysis, "Stationarity Analysis | Parameters"},
+            {Command::Histograms, "Univariate Distributions | Histogram Parameters"},
+            {Command::QuadrantsAnalysis, "Conditional Quadrants Analysis and Averaging"},
+            {Command::MeanVelocity, "Mean Velocity | Parameters"},
+            {Command::PlotFrameOptions, "Plot Frame Options"},
+            {Command::SimulateTimeSeries, "Simulate Time Series | Parameters"},
+            {Command::ExportVelocities, "Export | as an ASCII file"},
+            {Command::ExportStatistics, "Export Data"},
+        };
+        for (const auto& [command, title] : dialogs) {
+            QVERIFY2(driver.withDialog(command, title, {}, QDialogButtonBox::Cancel), title);
+        }
+        QVERIFY(driver.document().Probe() == before);
+        QVERIFY(driver.document().Settings() == settings);
+        QCOMPARE(driver.document().GetWorkspace().dataFiles.files.GetSize(), 1);
+    }
+
+    void everyStageRunsFromItsDialog() {
+        FrameDriver driver;
+        driver.simulate(100.0);
+        QVERIFY(driver.withDialog(Command::EditingTimeSeries, "Editing Time Series"));
+        QVERIFY(driver.withDialog(Command::StationarityAnalysis, "Stationarity Analysis | Parameters"));
+        QVERIFY(driver.withDialog(Command::Histograms, "Univariate Distributions | Histogram Parameters"));
+        QVERIFY(driver.withDialog(Command::SpectralAnalysis, "Spectral Analysis | Parameters"));
+        driver.trigger(Command::CrossSpectralAnalysis);
+        QVERIFY(driver.withDialog(Command::QuadrantsAnalysis, "Conditional Quadrants Analysis and Averaging"));
+        for (const DoneMark mark : {DoneMark::Stationarity, DoneMark::Histograms, DoneMark::Spectral,
+                                    DoneMark::CrossSpectral, DoneMark::Quadrants}) {
+            QVERIFY(driver.document().Probe().IsDone(mark));
+        }
+        auto* tabs = driver.frame->findChild<QTabBar*>(QStringLiteral("StageTabs"));
+        QCOMPARE(tabs->count(), 6);
+        QVERIFY(driver.boxes.refusals.isEmpty());
+        for (const ExportKindInfo& info : exportKinds()) {
+            QVERIFY2(driver.enabled(exportCommand(info.kind)), info.name);
+        }
+        // The change question comes through the window's boxes.
+        tabs->setCurrentIndex(0);
+        driver.trigger(Command::ResetTimeSeries);
+        QCOMPARE(driver.boxes.questions.last(),
+                 QStringLiteral("The Time Series was changed. Repeat all previous calculations ?"));
+    }
+
+    void editingTellsWhatWasKept() {
+        FrameDriver driver;
+        driver.simulate();
+        QVERIFY(driver.withDialog(Command::EditingTimeSeries, "Editing Time Series", [](QDialog& dialog) {
+            for (QAbstractButton* box : dialog.findChildren<QAbstractButton*>()) {
+                if (box->text() == QLatin1String("&Velocity Threshold:")) {
+                    box->click();
+                }
+            }
+        }));
+        QVERIFY2(driver.status().startsWith(QLatin1String("Velocity: ")), qPrintable(driver.status()));
+        QVERIFY(driver.status().endsWith(QLatin1String(" % kept")));
+    }
+
+    void exportsWriteWhereTheUserWants() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.boxes.exportPath = driver.path("vel.dat");
+        QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
+        QFile file(driver.boxes.exportPath);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count('\n'), 1000);
+        QVERIFY(driver.boxes.proposals.last().endsWith(QLatin1String("vel.dat")));
+
+        driver.boxes.exportPath = QStringLiteral("/nonexistent/folder/vel.dat");
+        QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
+        QCOMPARE(driver.status(), QStringLiteral("Cannot write /nonexistent/folder/vel.dat"));
+        QVERIFY(driver.boxes.refusals.isEmpty());
+    }
+
+    void plotOptionsChangeTheDiagramOfTheActiveView() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.document().SelectActivePane(Pane::LeftBottom);
+        QVERIFY(driver.withDialog(Command::PlotFrameOptions, "Plot Frame Options", [](QDialog& dialog) {
+            fieldOf(dialog, "&Plot")->setText(QStringLiteral("Quality"));
+        }));
+        QCOMPARE(std::get<Diagram>(driver.content(Pane::LeftBottom)).frame.plotTitle, std::string("Quality"));
+        driver.document().SelectActivePane(Pane::RightBottom);
+        QVERIFY2(!driver.enabled(Command::PlotFrameOptions), "the pane shows a table");
+        driver.trigger(Command::ResultsTable);
+        QVERIFY(driver.enabled(Command::PlotFrameOptions));
+    }
+
+    void bitmapCopyIsTheActivePane() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.trigger(Command::BitmapCopy);
+        const QImage image = QApplication::clipboard()->image();
+        QVERIFY(!image.isNull());
+        QCOMPARE(image.pixelColor(1, 1), QColor(Qt::white));
+        QVERIFY(image.size().width() <= driver.frame->panes().view(Pane::LeftTop).width());
+    }
+
+    void barsFollowTheViewMenu() {
+        FrameDriver driver;
+        auto* bar = driver.frame->findChild<QToolBar*>(QStringLiteral("SpectralBar"));
+        QVERIFY(bar->isVisible());
+        driver.trigger(Command::SpectralToolbar);
+        QVERIFY(!bar->isVisible());
+        driver.trigger(Command::SpectralToolbar);
+        QVERIFY(bar->isVisible());
+    }
+};
+
+QTEST_MAIN(FrameCommands)
+#include "frameCommands.moc"

@@ -1,0 +1,167 @@
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+
+#include "FrameDriver.h"
+#include "ui/CVorl_ADVApp.h"
+#include "ui/DocumentTypeRegistration.h"
+
+using namespace vorlan;
+
+class FrameFiles : public QObject {
+    Q_OBJECT
+
+  private:
+    static QStringList recentTexts(FrameDriver& driver) {
+        QStringList texts;
+        for (const QAction* action : driver.frame->menuBar()->actions().first()->menu()->actions()) {
+            if (action->text().size() > 2 && action->text().at(0) == QLatin1Char('&') &&
+                action->text().at(1).isDigit()) {
+                texts.append(action->text());
+            }
+        }
+        return texts;
+    }
+
+  private Q_SLOTS:
+    void whatIsSavedIsFoundAgain() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.boxes.savePath = driver.path("flume.avp");
+        driver.trigger(Command::SaveWorkspace);
+        QVERIFY(!driver.frame->isWindowModified());
+        QCOMPARE(driver.frame->windowTitle(), QStringLiteral("flume.avp[*] - Vorlan"));
+        QCOMPARE(recentTexts(driver), QStringList{QStringLiteral("&1 flume.avp")});
+        driver.trigger(Command::NewWorkspace);
+        QVERIFY(driver.boxes.saveQuestions.isEmpty());
+        QVERIFY(!driver.document().HasFile());
+        driver.boxes.openPath = driver.path("flume.avp");
+        driver.trigger(Command::OpenWorkspace);
+        QVERIFY(driver.document().HasProbe());
+        QVERIFY(std::holds_alternative<Diagram>(driver.content(Pane::LeftTop)));
+    }
+
+    void unsavedChangesAreAskedAbout() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.boxes.saveAnswer = UserBoxes::SaveAnswer::Cancel;
+        driver.trigger(Command::NewWorkspace);
+        QVERIFY(driver.document().HasFile());
+        QVERIFY(!driver.frame->close());
+        driver.boxes.saveAnswer = UserBoxes::SaveAnswer::Save;
+        driver.boxes.savePath.clear();
+        driver.trigger(Command::NewWorkspace);
+        QVERIFY2(driver.document().HasFile(), "a cancelled save leaves nothing behind");
+        driver.boxes.savePath = QStringLiteral("/nonexistent/folder/x.avp");
+        driver.trigger(Command::NewWorkspace);
+        QVERIFY2(driver.document().HasFile(), "nor does one that fails");
+        QVERIFY(driver.boxes.refusals.last().contains(QLatin1String("/nonexistent/folder")));
+        driver.boxes.saveAnswer = UserBoxes::SaveAnswer::Discard;
+        driver.trigger(Command::NewWorkspace);
+        QVERIFY(!driver.document().HasFile());
+        QCOMPARE(driver.boxes.saveQuestions.size(), 5);
+        QVERIFY(driver.frame->close());
+    }
+
+    void aDamagedWorkspaceLeavesTheOpenOne() {
+        FrameDriver driver;
+        driver.simulate();
+        QFile file(driver.path("bad.avp"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("\x05Hello");
+        file.close();
+        QVERIFY(!driver.frame->files().openPath(driver.path("bad.avp")));
+        QVERIFY2(driver.boxes.refusals.last().startsWith(QLatin1String("Invalid Workspace format.")),
+                 qPrintable(driver.boxes.refusals.last()));
+        QVERIFY(driver.document().HasProbe());
+        QVERIFY(recentTexts(driver).isEmpty());
+    }
+
+    void theRecentListHoldsFiveAndForgetsMissingOnes() {
+        FrameDriver driver;
+        for (int i = 0; i < 7; ++i) {
+            driver.boxes.savePath = driver.path(qPrintable(QStringLiteral("w%1.avp").arg(i)));
+            driver.trigger(Command::SaveWorkspaceAs);
+        }
+        QCOMPARE(recentTexts(driver).size(), 5);
+        QCOMPARE(recentTexts(driver).first(), QStringLiteral("&1 w6.avp"));
+        QFile::remove(driver.path("w4.avp"));
+        driver.frame->files().openRecent(driver.path("w4.avp"));
+        QCOMPARE(driver.boxes.refusals.size(), 1);
+        QCOMPARE(recentTexts(driver).size(), 4);
+        driver.frame->files().openRecent(driver.path("w3.avp"));
+        QCOMPARE(recentTexts(driver).first(), QStringLiteral("&1 w3.avp"));
+    }
+
+    void droppingOpensTheFirstWorkspace() {
+        FrameDriver driver;
+        driver.boxes.savePath = driver.path("dropped.avp");
+        driver.simulate();
+        driver.trigger(Command::SaveWorkspace);
+        driver.trigger(Command::NewWorkspace);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(driver.path("notes.txt")), QUrl::fromLocalFile(driver.path("dropped.avp"))});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(driver.frame.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(driver.frame.get(), &drop);
+        QVERIFY(driver.document().HasProbe());
+    }
+
+    void escapeCancelsARunAndClosingWaits() {
+        FrameDriver driver;
+        driver.simulate(1000.0);
+        const SAdvProbe before = driver.document().Probe();
+        SpectralSettings settings;
+        settings.percent = 50;
+        bool disabled = false;
+        QTimer::singleShot(0, driver.frame.get(), [&] {
+            disabled = driver.document().IsRunning() && !driver.enabled(Command::SimulateTimeSeries) &&
+                       !driver.frame->findChild<QComboBox*>(QStringLiteral("Probes"))->isEnabled();
+            QVERIFY(driver.frame->statusPane().progressBar().isVisible());
+            driver.frame->close();
+            QVERIFY2(driver.frame->isVisible(), "a busy window stays");
+            QTest::keyClick(driver.frame.get(), Qt::Key_Escape);
+        });
+        QCOMPARE(driver.document().SpectralAnalysis(settings), Outcome::Cancelled);
+        QVERIFY(disabled);
+        QVERIFY(driver.document().Probe() == before);
+        QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QVERIFY(driver.enabled(Command::SimulateTimeSeries));
+        QTRY_VERIFY2(!driver.frame->isVisible(), "the close that was asked for follows");
+        QCOMPARE(driver.boxes.saveQuestions.size(), 1);
+    }
+
+    void commandLinesAreReadWithoutADisplay() {
+        const auto read = [](const char* argument) {
+            return readCommandLine({QStringLiteral("vorlan"), QString::fromUtf8(argument)});
+        };
+        QCOMPARE(read("a.avp").workspace.value(), QStringLiteral("a.avp"));
+        QVERIFY(read("--help").message->contains(QLatin1String("Usage: vorlan")));
+        QCOMPARE(read("--version").message.value(), QStringLiteral("Vorlan 1.59\n"));
+        QCOMPARE(read("--nonsense").status, 2);
+        QCOMPARE(readCommandLine({QStringLiteral("vorlan"), QStringLiteral("--"), QStringLiteral("-x.avp")})
+                     .workspace.value(),
+                 QStringLiteral("-x.avp"));
+        QCOMPARE(readCommandLine({QStringLiteral("vorlan"), QStringLiteral("a"), QStringLiteral("b")}).status, 2);
+    }
+
+    void theDocumentTypeIsRegisteredOnce() {
+        QTemporaryDir home;
+        QVERIFY(registerDocumentType(QStringLiteral("/opt/my programs/vorlan"), home.path()));
+        QFile entry(home.filePath(QStringLiteral("applications/vorlan.desktop")));
+        QVERIFY(entry.open(QIODevice::ReadOnly));
+        QVERIFY(entry.readAll().contains("Exec=\"/opt/my programs/vorlan\" %f"));
+        QVERIFY(QFile::exists(home.filePath(QStringLiteral("mime/packages/vorlan.xml"))));
+        QVERIFY2(!registerDocumentType(QStringLiteral("/opt/my programs/vorlan"), home.path()), "all is there");
+        QVERIFY(!registerDocumentType(QStringLiteral("/x"), QStringLiteral("/proc/nonexistent")));
+    }
+};
+
+QTEST_MAIN(FrameFiles)
+#include "frameFiles.moc"
