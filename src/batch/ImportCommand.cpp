@@ -121,6 +121,7 @@ Subcommand addImportCommand(CLI::App& program) {
                 for (SAdvFile& file : readFiles(*options, console)) {
                     document.AppendFile(std::move(file));
                 }
+                document.SelectProbe(0);
                 saveDocument(document, options->out);
                 return ExitStatus::Done;
             }};

@@ -148,6 +148,8 @@ Subcommand addSimulateCommand(CLI::App& program) {
                     openDocument(document, options->out);
                 }
                 document.SimulateTimeSeries(parametersOf(*options, noise->count() > 0), seedOf(*options));
+                // The window then opens on the record.
+                document.SelectProbe(0);
                 saveDocument(document, options->out);
                 return ExitStatus::Done;
             }};

@@ -96,4 +96,10 @@ inline ::testing::AssertionResult holds(const std::string& text, const std::stri
                                                                                 << text;
 }
 
+/// For workspaces and pictures: a failure does not print them.
+inline ::testing::AssertionResult sameBytes(const std::string& a, const std::string& b) {
+    return a == b ? ::testing::AssertionSuccess()
+                  : ::testing::AssertionFailure() << "two contents of " << a.size() << " and " << b.size() << " bytes";
+}
+
 }  // namespace vorlan

@@ -30,7 +30,7 @@ TEST_F(RunTest, ARecipeWithoutStepsWritesTheBytesOfTheInput) {
     bytes.replace(bytes.find("1.59"), 4, "1.41");
     const std::string input = write("a.avp", bytes + "tail");
     EXPECT_EQ(apply("", {"--out", path("b.avp"), input}).status, 0);
-    EXPECT_EQ(read(path("b.avp")), bytes + "tail");
+    EXPECT_TRUE(sameBytes(read(path("b.avp")), bytes + "tail"));
 }
 
 TEST_F(RunTest, SpectralStoresWhatTheDocumentComputes) {
@@ -222,7 +222,7 @@ TEST_F(RunTest, NothingIsWrittenWhenALaterStepIsRefused) {
                                "[[step]]\ndo = \"cross-spectral\"\n";
     EXPECT_EQ(apply(recipe, {"--in-place", simulated("a.avp")}).status, 1);
     EXPECT_EQ(read(old), "precious");
-    EXPECT_EQ(read(path("a.avp")), read(simulated("b.avp")));
+    EXPECT_TRUE(sameBytes(read(path("a.avp")), read(simulated("b.avp"))));
 }
 
 TEST_F(RunTest, OutputsMustNotMeet) {
@@ -272,7 +272,7 @@ TEST_F(RunTest, SeveralInputsRunOnWhenOneFailsAndTheWorstStatusCounts) {
         const Result result = apply(kSpectral, {"--out-dir", path("out"), "--jobs", jobs, a, bad, c});
         EXPECT_EQ(result.status, 3) << jobs;
         EXPECT_TRUE(holds(result.err, bad));
-        EXPECT_EQ(read(path("out/c.avp")), expected);
+        EXPECT_TRUE(sameBytes(read(path("out/c.avp")), expected));
         EXPECT_FALSE(std::filesystem::exists(path("out/bad.avp")));
     }
 }
@@ -308,7 +308,7 @@ TEST_F(RunTest, AnEmptyWorkspaceHasNoProbeToWorkOn) {
     const Result result = apply(kSpectral, {"--out", path("b.avp"), path("a.avp")});
     EXPECT_EQ(result.status, 0);
     EXPECT_TRUE(holds(result.err, "there is no probe"));
-    EXPECT_EQ(read(path("b.avp")), read(path("a.avp")));
+    EXPECT_TRUE(sameBytes(read(path("b.avp")), read(path("a.avp"))));
 }
 
 TEST_F(RunTest, FaultyAndMissingRecipesRunNothing) {

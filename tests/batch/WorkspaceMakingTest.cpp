@@ -17,6 +17,7 @@ class WorkspaceMakingTest : public BatchTest {
         SilentPort port;
         CVorl_ADVDoc document(port);
         document.SimulateTimeSeries(parameters, seed);
+        document.SelectProbe(0);
         document.SaveWorkspace(path("document.avp"));
         return read(path("document.avp"));
     }
@@ -26,7 +27,7 @@ TEST_F(WorkspaceMakingTest, NewIsTheEmptyWorkspace) {
     done({"new", path("a.avp")});
     Workspace empty;
     saveWorkspace(empty, path("b.avp"));
-    EXPECT_EQ(read(path("a.avp")), read(path("b.avp")));
+    EXPECT_TRUE(sameBytes(read(path("a.avp")), read(path("b.avp"))));
     const json object = info(path("a.avp"));
     EXPECT_EQ(object["version"], "Version 1.59");
     EXPECT_EQ(object["activeFile"], -1);
@@ -36,10 +37,10 @@ TEST_F(WorkspaceMakingTest, NewIsTheEmptyWorkspace) {
 
 TEST_F(WorkspaceMakingTest, SimulateTakesTheDialogsDefaults) {
     done({"simulate", "--out", path("a.avp"), "--seed", "7"});
-    EXPECT_EQ(read(path("a.avp")), simulatedByDocument({}, 7));
+    EXPECT_TRUE(sameBytes(read(path("a.avp")), simulatedByDocument({}, 7)));
     const Workspace workspace = openWorkspace(path("a.avp"));
     EXPECT_EQ(workspace.settings.activeFile, 0);
-    EXPECT_EQ(workspace.settings.activeProbe, -1);
+    EXPECT_EQ(workspace.settings.activeProbe, 0);
 }
 
 TEST_F(WorkspaceMakingTest, SimulateHandsEveryOptionOver) {
@@ -64,15 +65,15 @@ TEST_F(WorkspaceMakingTest, SimulateHandsEveryOptionOver) {
     p.harmonicCount = 2;
     p.components = {{{-10, 1, -1, {{5, 2, 90}, {1, 0.5, 0}}}, {20, 2, 0, {{}, {}}}, {30, 3, 4, {{3, 1, 10}, {}}}}};
     p.position = {1, -2, 0.5};
-    EXPECT_EQ(read(path("a.avp")), simulatedByDocument(p, 3));
+    EXPECT_TRUE(sameBytes(read(path("a.avp")), simulatedByDocument(p, 3)));
 }
 
 TEST_F(WorkspaceMakingTest, SeedsDecideTheRecordAndAppendKeepsWhatIsThere) {
     simulated("a.avp", "5");
     simulated("b.avp", "5");
     simulated("c.avp", "6");
-    EXPECT_EQ(read(path("a.avp")), read(path("b.avp")));
-    EXPECT_NE(read(path("a.avp")), read(path("c.avp")));
+    EXPECT_TRUE(sameBytes(read(path("a.avp")), read(path("b.avp"))));
+    EXPECT_FALSE(sameBytes(read(path("a.avp")), read(path("c.avp"))));
     done({"simulate", "--out", path("a.avp"), "--append", "--name", "second"});
     const Workspace both = openWorkspace(path("a.avp"));
     ASSERT_EQ(both.dataFiles.files.GetSize(), 2);
