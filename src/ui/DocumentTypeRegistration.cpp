@@ -7,30 +7,11 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include "ui/DocumentTypeTexts.h"
+
 namespace vorlan {
 
 namespace {
-
-const char* const kMimeType = R"(<?xml version="1.0" encoding="UTF-8"?>
-<mime-info xmlns="http://www.freedesktop.org/standards/shared-mime-info">
-  <mime-type type="application/x-vorlan-document">
-    <comment>Vorlan Document</comment>
-    <glob pattern="*.avp"/>
-  </mime-type>
-</mime-info>
-)";
-
-const char* const kDesktopEntry = R"([Desktop Entry]
-Type=Application
-Name=Vorlan
-GenericName=Turbulence analysis
-Comment=Turbulence analysis of velocity records
-Exec=%1 %f
-Icon=vorlan
-Terminal=false
-Categories=Science;Engineering;
-MimeType=application/x-vorlan-document;
-)";
 
 // A program path in the quoting of desktop entries.
 QString quoted(const QString& program) {
@@ -68,9 +49,10 @@ void refreshDatabase(const QString& tool, const QString& folder) {
 }  // namespace
 
 bool registerDocumentType(const QString& program, const QString& dataHome) {
-    const bool mime = writeIfDifferent(dataHome + QStringLiteral("/mime/packages/vorlan.xml"), QByteArray(kMimeType));
-    QByteArray entry(kDesktopEntry);
-    entry.replace("%1", quoted(program).toUtf8());
+    const bool mime =
+        writeIfDifferent(dataHome + QStringLiteral("/mime/packages/vorlan.xml"), QByteArray(kMimeTypeText));
+    QByteArray entry(kDesktopEntryText);
+    entry.replace("Exec=vorlan ", "Exec=" + quoted(program).toUtf8() + " ");
     const bool desktop = writeIfDifferent(dataHome + QStringLiteral("/applications/vorlan.desktop"), entry);
     return mime || desktop;
 }

@@ -27,9 +27,9 @@ void fill(QComboBox& selector, const QStringList& texts, int index) {
 
 SelectionBar::SelectionBar(QWidget* parent) : QToolBar(QStringLiteral("Data Selection"), parent) {
     setObjectName(QStringLiteral("SelectionBar"));
-    files_ = addSelector(QStringLiteral("Data &files:"), QStringLiteral("Data files"), 22);
+    files_ = addSelector(QStringLiteral("&Data files:"), QStringLiteral("Data files"), 22);
     probes_ = addSelector(QStringLiteral("Pro&bes:"), QStringLiteral("Probes"), 10);
-    values_ = addSelector(QStringLiteral("Physical &values:"), QStringLiteral("Physical values"), 10);
+    values_ = addSelector(QStringLiteral("Physica&l values:"), QStringLiteral("Physical values"), 10);
     panes_ = addSelector(QStringLiteral("A&ctive view:"), QStringLiteral("Active view"), 12);
     values_->addItems({QStringLiteral("Velocities"), QStringLiteral("Stresses")});
     for (const char* text : kPaneTexts) {
@@ -69,6 +69,9 @@ void SelectionBar::refresh(const CVorl_ADVDoc& document) {
             probeTexts.append(QString::fromStdString(probeListText(probe)));
         }
     }
+    // What is not chosen yet says so; an empty list has nothing to choose.
+    files_->setPlaceholderText(fileTexts.isEmpty() ? QString() : QStringLiteral("Choose a data file"));
+    probes_->setPlaceholderText(probeTexts.isEmpty() ? QString() : QStringLiteral("Choose a probe"));
     fill(*files_, fileTexts, document.ActiveFile());
     fill(*probes_, probeTexts, document.ActiveProbe());
     {
