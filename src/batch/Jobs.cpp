@@ -20,6 +20,8 @@ namespace vorlan {
 
 namespace {
 
+constexpr int kLongestWait = 100;  // ms
+
 /// A stream into a descriptor.
 class DescriptorBuffer : public std::streambuf {
   public:
@@ -192,8 +194,13 @@ class WorkerPool {
                 }
             }
         }
-        if (::poll(polled.data(), polled.size(), -1) < 0) {
+        // A signal just before the call would not end it: the wait is short.
+        const int ready = ::poll(polled.data(), polled.size(), kLongestWait);
+        if (interrupted() && !stopping_) {
+            stopping_ = true;
             stopWorkers();
+        }
+        if (ready <= 0) {
             return;
         }
         for (std::size_t i = 0; i < polled.size(); ++i) {
@@ -219,7 +226,7 @@ class WorkerPool {
     // A signal from the terminal has reached the workers too; one that was sent to this process alone has not.
     void stopWorkers() {
         for (const Worker& worker : workers_) {
-            if (interrupted() && worker.process > 0 && !worker.finished) {
+            if (worker.process > 0 && !worker.finished) {
                 ::kill(worker.process, SIGTERM);
             }
         }
@@ -243,6 +250,7 @@ class WorkerPool {
     std::size_t started_ = 0;
     std::size_t passed_ = 0;
     int running_ = 0;
+    bool stopping_ = false;
     ExitStatus worst_ = ExitStatus::Done;
 };
 

@@ -62,7 +62,7 @@ TEST_F(ProgramTest, AnInterruptLeavesEverythingAsItWas) {
     EXPECT_EQ(shell("\"$batch\" simulate --out $dir/a.avp --length 1000 --noise-variance 1,1,1 --seed 1"), 0);
     write("r.toml", [] {
         std::string text;
-        for (int i = 0; i < 400; ++i) {
+        for (int i = 0; i < 60; ++i) {
             text += "[[step]]\ndo = \"spectral\"\npercent = 50\n";
         }
         return text;
