@@ -11,6 +11,7 @@ namespace {
 
 constexpr const char* kNoAuxiliaryText = "Auxiliary data are not available";
 constexpr const char* kNoQualityText = "The data quality scores for all samples are lower than thresholds !";
+constexpr int kRejectedSize = 4;  // pixels
 
 /// Samples that do not count become gaps; the others keep their times.
 void leaveOutUncounted(const SAdvProbe& probe, std::vector<double>& values) {
@@ -37,26 +38,56 @@ void addRecord(Diagram& diagram, const SAdvProbe& probe, std::vector<double> val
         recordLine(std::move(values), SeriesX{0.0, probe.samplingInterval, {}}, index, legend));
 }
 
+/// Markers where samples were found bad and replaced, over the lines of all components. Left out when bad samples are
+/// gaps anyway, and after a filter, whose samples are no longer those that the marks speak of.
+void addRejected(Diagram& diagram, const SAdvProbe& probe) {
+    const auto marks = probe.sampleFlags.view();
+    PlotSeries rejected;
+    for (const PlotSeries& line : diagram.plot.series) {
+        if (!probe.UsesAllSamples() || line.y.size() < marks.size()) {
+            return;
+        }
+        for (std::size_t i = 0; i < marks.size(); ++i) {
+            if (marks[i] < 1) {
+                rejected.x.values.push_back(line.x.at(i));
+                rejected.y.push_back(line.y[i]);
+            }
+        }
+    }
+    if (rejected.y.empty()) {
+        return;
+    }
+    rejected.attributes.style = SeriesStyle::Markers;
+    rejected.attributes.markerSize = kRejectedSize;
+    rejected.attributes.legendText = "Rejected";
+    diagram.plot.series.push_back(std::move(rejected));
+}
+
 template <std::size_t N>
-PaneContent recordDiagram(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table,
-                          const std::array<const char*, N>& legends) {
+Diagram recordDiagram(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table,
+                      const std::array<const char*, N>& legends) {
     Diagram diagram = newDiagram(request, &probe);
     for (std::size_t c = 0; c < N; ++c) {
         addRecord(diagram, probe, plotColumn(table, static_cast<int>(c)), legends[c]);
     }
-    return diagramOrMessage(std::move(diagram));
+    return diagram;
 }
 
 PaneContent velocities(const PaneRequest& request, const SAdvProbe& probe) {
-    PaneContent content = recordDiagram(request, probe, probe.workTables[SAdvProbe::kVelocities], kVelocityLabels);
-    if (auto* diagram = std::get_if<Diagram>(&content)) {
-        // The probe's caption tells more than the title it begins with (how many spikes were removed).
-        std::string& title = diagram->frame.plotTitle;
-        if (!title.empty() && probe.title.starts_with(title)) {
-            title = probe.title;
-        }
+    Diagram diagram = recordDiagram(request, probe, probe.workTables[SAdvProbe::kVelocities], kVelocityLabels);
+    addRejected(diagram, probe);
+    // The probe's caption tells more than the title it begins with (how many spikes were removed).
+    std::string& title = diagram.frame.plotTitle;
+    if (!title.empty() && probe.title.starts_with(title)) {
+        title = probe.title;
     }
-    return content;
+    return diagramOrMessage(std::move(diagram));
+}
+
+PaneContent stresses(const PaneRequest& request, const SAdvProbe& probe) {
+    Diagram diagram = recordDiagram(request, probe, probe.workTables[SAdvProbe::kStresses], kStressLabels);
+    addRejected(diagram, probe);
+    return diagramOrMessage(std::move(diagram));
 }
 
 std::vector<double> beamAverages(const SMultiArray& scores) {
@@ -87,6 +118,7 @@ PaneContent qualityScores(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
     addRecord(diagram, probe, beamAverages(probe.workTables[SAdvProbe::kCorrelation]), "Correlation");
     addRecord(diagram, probe, beamAverages(probe.workTables[SAdvProbe::kSignalToNoise]), "SNR");
+    addRejected(diagram, probe);
     return diagramOrMessage(std::move(diagram));
 }
 
@@ -97,7 +129,7 @@ PaneContent auxiliary(const PaneRequest& request, const SAdvProbe& probe, const 
     if (table.IsEmpty() || (table.HasNoValues() && probe.WorkingSamples() > 0)) {
         return PaneMessage{kNoAuxiliaryText};
     }
-    return recordDiagram(request, probe, table, legends);
+    return diagramOrMessage(recordDiagram(request, probe, table, legends));
 }
 
 TableContent statisticsTable(const SAdvProbe& probe) {
@@ -127,9 +159,7 @@ PaneContent describePreProcessing(const PaneRequest& request, const SAdvProbe* p
     }
     switch (request.pane) {
         case Pane::LeftTop:
-            return request.value == PhysicalValue::Stresses
-                       ? recordDiagram(request, *probe, probe->workTables[SAdvProbe::kStresses], kStressLabels)
-                       : velocities(request, *probe);
+            return request.value == PhysicalValue::Stresses ? stresses(request, *probe) : velocities(request, *probe);
         case Pane::LeftBottom:
             return qualityScores(request, *probe);
         case Pane::RightTop:

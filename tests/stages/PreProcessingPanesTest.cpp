@@ -38,6 +38,28 @@ TEST_F(PreProcessingPanes, UncountedSamplesAreGapsThatKeepTheOthersInPlace) {
     EXPECT_TRUE(std::isnan(diagram(kStage, Pane::LeftBottom).plot.series[0].y[5]));
 }
 
+TEST_F(PreProcessingPanes, ReplacedSamplesAreMarkedOnTheirLines) {
+    probe().sampleFlags.SetAt(5, 0);
+    probe().sampleFlags.SetAt(7, -1);
+    const Diagram d = diagram(kStage, Pane::LeftTop);
+    EXPECT_EQ(legends(d), (Texts{"Ux", "Uy", "Uz", "Rejected"}));
+    const PlotSeries& rejected = d.plot.series[3];
+    EXPECT_EQ(rejected.attributes.style, SeriesStyle::Markers);
+    ASSERT_EQ(rejected.y.size(), 6U);
+    EXPECT_DOUBLE_EQ(rejected.x.at(3), 7 * 0.04);
+    EXPECT_DOUBLE_EQ(rejected.y[3], d.plot.series[1].y[7]);
+    EXPECT_EQ(legends(diagram(kStage, Pane::LeftTop, PhysicalValue::Stresses)).back(), "Rejected");
+    EXPECT_EQ(diagram(kStage, Pane::LeftBottom).plot.series.back().y.size(), 4U);
+
+    // The samples of a shortened record are not those of the marks.
+    for (SArray& column : probe().workTables[0]) {
+        column.SetSize(900);
+    }
+    EXPECT_EQ(legends(diagram(kStage, Pane::LeftTop)), (Texts{"Ux", "Uy", "Uz"}));
+    probe().useAllSamples = 0;
+    EXPECT_EQ(legends(diagram(kStage, Pane::LeftBottom)), (Texts{"Correlation", "SNR"}));
+}
+
 TEST_F(PreProcessingPanes, CaptionReplacesTheTitleItBeginsWith) {
     probe().frameAttributes[0].ElementAt(0).plotTitle = "Cleaned-up time series";
     probe().title = "Cleaned-up time series (12 spikes removed)";
