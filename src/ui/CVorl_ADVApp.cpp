@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStandardPaths>
+#include <QSvgRenderer>
 #include <QTimer>
 #include <clocale>
 
@@ -47,6 +48,21 @@ QPixmap splashPicture() {
     return picture;
 }
 
+// Drawn here, so that the icon needs no plugin of the desktop.
+QIcon programIcon() {
+    QSvgRenderer drawing(QStringLiteral(":/vorlan.svg"));
+    QIcon icon;
+    for (const int size : {16, 22, 32, 48, 64, 128, 256}) {
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 }  // namespace
 
 CommandLine readCommandLine(const QStringList& arguments) {
@@ -83,6 +99,7 @@ CVorl_ADVApp::CVorl_ADVApp(int& argc, char** argv) : QApplication(argc, argv) {
     setOrganizationName(QStringLiteral("Brimsel"));
     setApplicationName(QStringLiteral("Vorlan"));
     setDesktopFileName(QStringLiteral("vorlan"));
+    setWindowIcon(programIcon());
 }
 
 void CVorl_ADVApp::start(const std::optional<QString>& workspace) {
