@@ -56,7 +56,7 @@ Outcome runMeanVelocity(StepContext& context, const StepValues& values) {
 
 }  // namespace
 
-std::vector<StepSpec> analysisSteps() {
+std::vector<StepKind> analysisSteps() {
     return {
         {.name = "stationarity",
          .keys = {choiceKey("mode", {"fixed", "cumulative"}, "fixed"), integerKey("bands", 10)},

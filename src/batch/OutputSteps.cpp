@@ -50,7 +50,7 @@ std::string faultOfSize(const std::string& text) {
 
 }  // namespace
 
-std::vector<StepSpec> outputSteps() {
+std::vector<StepKind> outputSteps() {
     return {
         {.name = "export",
          .keys = {required(choiceKey("kind", exportNames())), required(textKey("out", {}, OutputPattern::faultOf)),

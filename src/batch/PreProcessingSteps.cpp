@@ -85,7 +85,7 @@ std::string faultOfFilter(const StepValues& values) {
 
 }  // namespace
 
-std::vector<StepSpec> preProcessingSteps() {
+std::vector<StepKind> preProcessingSteps() {
     return {
         {.name = "reset",
          .keys = {},

@@ -68,7 +68,7 @@ std::optional<double> realOf(const toml::node& node) {
     return std::nullopt;
 }
 
-TakenValue takeInteger(const KeySpec& key, const toml::node& node) {
+TakenValue takeInteger(const KeyRule& key, const toml::node& node) {
     const auto* integer = node.as_integer();
     if (integer == nullptr) {
         return wrong("must be an integer");
@@ -81,7 +81,7 @@ TakenValue takeInteger(const KeySpec& key, const toml::node& node) {
     return {static_cast<int>(integer->get()), {}};
 }
 
-TakenValue takeReal(const KeySpec& key, const toml::node& node) {
+TakenValue takeReal(const KeyRule& key, const toml::node& node) {
     const std::optional<double> real = realOf(node);
     if (!real) {
         return wrong("must be a finite number");
@@ -89,7 +89,7 @@ TakenValue takeReal(const KeySpec& key, const toml::node& node) {
     return key.range.holds(*real) ? TakenValue{*real, {}} : wrong("must be " + describe(key.range));
 }
 
-TakenValue takeChoice(const KeySpec& key, const toml::node& node) {
+TakenValue takeChoice(const KeyRule& key, const toml::node& node) {
     std::vector<std::string> names;
     std::transform(key.choices.begin(), key.choices.end(), std::back_inserter(names), inQuotes);
     if (const auto* text = node.as_string()) {
@@ -101,7 +101,7 @@ TakenValue takeChoice(const KeySpec& key, const toml::node& node) {
     return wrong("must be " + listed(names));
 }
 
-TakenValue takeText(const KeySpec& key, const toml::node& node) {
+TakenValue takeText(const KeyRule& key, const toml::node& node) {
     const auto* text = node.as_string();
     if (text == nullptr) {
         return wrong("must be a text");
@@ -126,7 +126,7 @@ TakenValue takeTriple(const toml::node& node) {
     return {triple, {}};
 }
 
-TakenValue takeValue(const KeySpec& key, const toml::node& node) {
+TakenValue takeValue(const KeyRule& key, const toml::node& node) {
     switch (key.type) {
         case KeyType::Boolean:
             return node.is_boolean() ? TakenValue{node.as_boolean()->get(), {}} : wrong("must be true or false");
@@ -148,12 +148,12 @@ void takeKeys(RecipeStep& step, const toml::table& table, const std::string& whe
     bool complete = true;
     for (const auto& [name, node] : table) {
         const std::string text(name.str());
-        const auto key = std::find_if(step.spec->keys.begin(), step.spec->keys.end(),
-                                      [&](const KeySpec& spec) { return spec.name == text; });
+        const auto key = std::find_if(step.kind->keys.begin(), step.kind->keys.end(),
+                                      [&](const KeyRule& rule) { return rule.name == text; });
         if (text == "do") {
             continue;
         }
-        if (key == step.spec->keys.end()) {
+        if (key == step.kind->keys.end()) {
             faults.add(lineOf(name.source()), where + ": unknown key " + inQuotes(text));
             continue;
         }
@@ -165,7 +165,7 @@ void takeKeys(RecipeStep& step, const toml::table& table, const std::string& whe
             complete = false;
         }
     }
-    for (const KeySpec& key : step.spec->keys) {
+    for (const KeyRule& key : step.kind->keys) {
         if (key.required && !table.contains(key.name)) {
             faults.add(step.line, where + ": key " + inQuotes(key.name) + " is missing");
             complete = false;
@@ -174,8 +174,8 @@ void takeKeys(RecipeStep& step, const toml::table& table, const std::string& whe
             step.values.set(key.name, *key.fallback);
         }
     }
-    if (complete && step.spec->faultOfValues != nullptr) {
-        const std::string fault = step.spec->faultOfValues(step.values);
+    if (complete && step.kind->faultOfValues != nullptr) {
+        const std::string fault = step.kind->faultOfValues(step.values);
         if (!fault.empty()) {
             faults.add(step.line, where + ": " + fault);
         }
@@ -184,8 +184,8 @@ void takeKeys(RecipeStep& step, const toml::table& table, const std::string& whe
 
 std::string stepNames() {
     std::vector<std::string> names;
-    for (const StepSpec& spec : stepTable()) {
-        names.push_back(inQuotes(spec.name));
+    for (const StepKind& kind : stepTable()) {
+        names.push_back(inQuotes(kind.name));
     }
     return listed(names);
 }
@@ -203,13 +203,13 @@ void takeStep(Recipe& recipe, const toml::table& table, std::size_t number, Faul
         faults.add(lineOf(name->source()), where + ": \"do\" must be a text");
         return;
     }
-    step.spec = stepNamed(name->as_string()->get());
-    if (step.spec == nullptr) {
+    step.kind = stepNamed(name->as_string()->get());
+    if (step.kind == nullptr) {
         faults.add(lineOf(name->source()),
                    where + ": unknown step " + inQuotes(name->as_string()->get()) + "; it can be " + stepNames());
         return;
     }
-    where += " (" + step.spec->name + ")";
+    where += " (" + step.kind->name + ")";
     takeKeys(step, table, where, faults);
     recipe.steps.push_back(std::move(step));
 }

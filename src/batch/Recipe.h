@@ -11,7 +11,7 @@ namespace vorlan {
 
 /// A step as a recipe asks for it.
 struct RecipeStep {
-    const StepSpec* spec = nullptr;
+    const StepKind* kind = nullptr;
     StepValues values;
     int line = 0;  ///< where it begins, from 1
 };

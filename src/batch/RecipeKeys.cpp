@@ -12,28 +12,28 @@ namespace {
 constexpr double kUnbounded = 1e300;
 }  // namespace
 
-KeySpec booleanKey(std::string name, bool fallback) {
+KeyRule booleanKey(std::string name, bool fallback) {
     return {.name = std::move(name), .type = KeyType::Boolean, .fallback = fallback};
 }
 
-KeySpec integerKey(std::string name, std::optional<int> fallback) {
-    KeySpec key{.name = std::move(name), .type = KeyType::Integer};
+KeyRule integerKey(std::string name, std::optional<int> fallback) {
+    KeyRule key{.name = std::move(name), .type = KeyType::Integer};
     if (fallback) {
         key.fallback = *fallback;
     }
     return key;
 }
 
-KeySpec realKey(std::string name, std::optional<double> fallback) {
-    KeySpec key{.name = std::move(name), .type = KeyType::Real};
+KeyRule realKey(std::string name, std::optional<double> fallback) {
+    KeyRule key{.name = std::move(name), .type = KeyType::Real};
     if (fallback) {
         key.fallback = *fallback;
     }
     return key;
 }
 
-KeySpec choiceKey(std::string name, std::vector<std::string> choices, const std::string& fallback) {
-    KeySpec key{.name = std::move(name), .type = KeyType::Choice};
+KeyRule choiceKey(std::string name, std::vector<std::string> choices, const std::string& fallback) {
+    KeyRule key{.name = std::move(name), .type = KeyType::Choice};
     const auto at = std::find(choices.begin(), choices.end(), fallback);
     if (at != choices.end()) {
         key.fallback = static_cast<int>(at - choices.begin());
@@ -42,8 +42,8 @@ KeySpec choiceKey(std::string name, std::vector<std::string> choices, const std:
     return key;
 }
 
-KeySpec textKey(std::string name, std::optional<std::string> fallback, std::string (*faultOfText)(const std::string&)) {
-    KeySpec key{.name = std::move(name), .type = KeyType::Text};
+KeyRule textKey(std::string name, std::optional<std::string> fallback, std::string (*faultOfText)(const std::string&)) {
+    KeyRule key{.name = std::move(name), .type = KeyType::Text};
     if (fallback) {
         key.fallback = *std::move(fallback);
     }
@@ -51,23 +51,23 @@ KeySpec textKey(std::string name, std::optional<std::string> fallback, std::stri
     return key;
 }
 
-KeySpec tripleKey(std::string name) {
+KeyRule tripleKey(std::string name) {
     return {.name = std::move(name), .type = KeyType::Triple};
 }
 
-KeySpec within(KeySpec key, double minimum, double maximum) {
+KeyRule within(KeyRule key, double minimum, double maximum) {
     key.range = {minimum, maximum};
     return key;
 }
 
-KeySpec above(KeySpec key, double limit) {
+KeyRule above(KeyRule key, double limit) {
     // An integer key steps to the next integer; a real one excludes the limit alone.
     const double next = key.type == KeyType::Integer ? limit + 1.0 : std::nextafter(limit, limit + 1.0);
     key.range = {next, std::numeric_limits<double>::infinity()};
     return key;
 }
 
-KeySpec required(KeySpec key) {
+KeyRule required(KeyRule key) {
     key.required = true;
     return key;
 }

@@ -18,7 +18,7 @@ using KeyValue = std::variant<bool, int, double, std::string, std::array<double,
 enum class KeyType { Boolean, Integer, Real, Choice, Text, Triple };
 
 /// One key of a step: type, allowed values, and the value that stands for an absent key.
-struct KeySpec {
+struct KeyRule {
     std::string name;
     KeyType type;
     std::optional<KeyValue> fallback = std::nullopt;
@@ -54,18 +54,18 @@ class StepValues {
 
 // Rows of the step table.
 
-KeySpec booleanKey(std::string name, bool fallback);
-KeySpec integerKey(std::string name, std::optional<int> fallback);
-KeySpec realKey(std::string name, std::optional<double> fallback);
+KeyRule booleanKey(std::string name, bool fallback);
+KeyRule integerKey(std::string name, std::optional<int> fallback);
+KeyRule realKey(std::string name, std::optional<double> fallback);
 /// fallback is one of the choices, or empty for none.
-KeySpec choiceKey(std::string name, std::vector<std::string> choices, const std::string& fallback = {});
-KeySpec textKey(std::string name, std::optional<std::string> fallback,
+KeyRule choiceKey(std::string name, std::vector<std::string> choices, const std::string& fallback = {});
+KeyRule textKey(std::string name, std::optional<std::string> fallback,
                 std::string (*faultOfText)(const std::string&) = nullptr);
-KeySpec tripleKey(std::string name);
+KeyRule tripleKey(std::string name);
 
-KeySpec within(KeySpec key, double minimum, double maximum);
-KeySpec above(KeySpec key, double limit);
-KeySpec required(KeySpec key);
+KeyRule within(KeyRule key, double minimum, double maximum);
+KeyRule above(KeyRule key, double limit);
+KeyRule required(KeyRule key);
 
 /// "a, b or c".
 std::string listed(const std::vector<std::string>& choices);

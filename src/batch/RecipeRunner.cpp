@@ -118,12 +118,12 @@ class Runner {
 
     void apply(const RecipeStep& step, std::size_t number, const ProbePlace& place) {
         port_.setContext(input_.string() + ": " + describe(place) + ", step " + std::to_string(number) + " (" +
-                         step.spec->name + ")");
+                         step.kind->name + ")");
         StepContext context{document_, port_, outputs_, renderer_, input_, place};
         Outcome outcome = Outcome::Done;
         try {
             selectPlace(document_, place);
-            outcome = runStep(*step.spec, step.values, context);
+            outcome = runStep(*step.kind, step.values, context);
         } catch (const BatchError& error) {
             throw BatchError(error.status(), port_.context() + ": " + error.what());
         }

@@ -6,10 +6,10 @@
 
 namespace vorlan {
 
-const std::vector<StepSpec>& stepTable() {
-    static const std::vector<StepSpec> table = [] {
-        std::vector<StepSpec> rows;
-        for (const std::vector<StepSpec>& part : {preProcessingSteps(), analysisSteps(), outputSteps()}) {
+const std::vector<StepKind>& stepTable() {
+    static const std::vector<StepKind> table = [] {
+        std::vector<StepKind> rows;
+        for (const std::vector<StepKind>& part : {preProcessingSteps(), analysisSteps(), outputSteps()}) {
             rows.insert(rows.end(), part.begin(), part.end());
         }
         return rows;
@@ -17,9 +17,9 @@ const std::vector<StepSpec>& stepTable() {
     return table;
 }
 
-const StepSpec* stepNamed(const std::string& name) {
-    const std::vector<StepSpec>& table = stepTable();
-    const auto row = std::find_if(table.begin(), table.end(), [&](const StepSpec& spec) { return spec.name == name; });
+const StepKind* stepNamed(const std::string& name) {
+    const std::vector<StepKind>& table = stepTable();
+    const auto row = std::find_if(table.begin(), table.end(), [&](const StepKind& kind) { return kind.name == name; });
     return row == table.end() ? nullptr : &*row;
 }
 
@@ -31,17 +31,17 @@ bool writesForAllProbes(const StepValues& values) {
     return values.has("all") && values.boolean("all");
 }
 
-Outcome runStep(const StepSpec& spec, const StepValues& values, StepContext& context) {
-    if (spec.stage) {
-        selectStage(context.document, *spec.stage);
+Outcome runStep(const StepKind& kind, const StepValues& values, StepContext& context) {
+    if (kind.stage) {
+        selectStage(context.document, *kind.stage);
     }
-    if (spec.command) {
-        const std::string reason = disabledReason(context.document, *spec.command);
+    if (kind.command) {
+        const std::string reason = disabledReason(context.document, *kind.command);
         if (!reason.empty()) {
             throw refusal(reason);
         }
     }
-    return spec.run(context, values);
+    return kind.run(context, values);
 }
 
 }  // namespace vorlan

@@ -33,9 +33,9 @@ struct StepContext {
 };
 
 /// One kind of step: a row of the table.
-struct StepSpec {
+struct StepKind {
     std::string name;
-    std::vector<KeySpec> keys;
+    std::vector<KeyRule> keys;
     /// Does the step. Refusals of the document go through its port; BatchError Refused for the step's own.
     Outcome (*run)(StepContext& context, const StepValues& values);
     /// The command behind the step; none for steps that ask for themselves.
@@ -47,14 +47,14 @@ struct StepSpec {
 };
 
 /// The rows by subject.
-std::vector<StepSpec> preProcessingSteps();
-std::vector<StepSpec> analysisSteps();
-std::vector<StepSpec> outputSteps();
+std::vector<StepKind> preProcessingSteps();
+std::vector<StepKind> analysisSteps();
+std::vector<StepKind> outputSteps();
 
 /// All steps, in the order of the manual.
-const std::vector<StepSpec>& stepTable();
+const std::vector<StepKind>& stepTable();
 /// Null for an unknown name.
-const StepSpec* stepNamed(const std::string& name);
+const StepKind* stepNamed(const std::string& name);
 
 /// The file that a step of these values writes; empty for steps that write none.
 std::optional<OutputPattern> outputOf(const StepValues& values);
@@ -62,6 +62,6 @@ std::optional<OutputPattern> outputOf(const StepValues& values);
 bool writesForAllProbes(const StepValues& values);
 
 /// Selects the step's stage, makes sure that its command is enabled and runs it.
-Outcome runStep(const StepSpec& spec, const StepValues& values, StepContext& context);
+Outcome runStep(const StepKind& kind, const StepValues& values, StepContext& context);
 
 }  // namespace vorlan
