@@ -6,6 +6,7 @@
 
 #include "model/FrameAttributes.h"
 #include "model/SeriesAttributes.h"
+#include "plot/ValueBlocks.h"
 
 namespace vorlan {
 
@@ -23,6 +24,7 @@ struct SeriesX {
 struct PlotSeries {
     SeriesX x;
     std::vector<double> y;
+    ValueBlocks blocks;  ///< of y as it stands, for a long series that is painted often; others do without
     std::vector<double> vx;
     std::vector<double> vy;
     SeriesAtrType attributes;

@@ -107,9 +107,23 @@ Arrow clipped(const Arrow& arrow, const Box& area) {
     return result;
 }
 
+// Pixels of the device are those of the painter, and set one by one.
+bool paintsPixels(const QPainter& painter) {
+    return painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster &&
+           painter.deviceTransform().type() <= QTransform::TxTranslate;
+}
+
 void paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
     const Polylines lines = polylineEnvelope(series, geometry);
-    painter.setPen(seriesPen(series.attributes, lines.dense ? 0 : series.attributes.penStyle, lengthScale));
+    const QPen pen = seriesPen(series.attributes, lines.dense ? 0 : series.attributes.penStyle, lengthScale);
+    if (lines.dense && pen.width() == 1 && paintsPixels(painter)) {
+        Box area = plotArea(geometry);
+        ++area.right;  // both edges belong to the plot area
+        ++area.bottom;
+        fillColumnRuns(painter, columnRuns(lines, area), pen);
+        return;
+    }
+    painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     strokePolylines(painter, clipsByItself(painter) ? lines : clipped(lines, plotArea(geometry)));
 }
@@ -137,10 +151,13 @@ void strokePolylines(QPainter& painter, const Polylines& lines) {
     QPen pen = painter.pen();
     const QList<qreal> pattern = pen.style() == Qt::SolidLine ? QList<qreal>() : pen.dashPattern();
     const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0) * pen.widthF();
+    // A thin solid line is drawn point by point however long it is, and whole: every end of a run is a cap.
+    const bool thin = pen.width() <= 1 && pattern.isEmpty();
     for (const std::vector<Spot>& part : lines.parts) {
         double travelled = 0.0;
-        for (std::size_t first = 0; first + 1 < part.size(); first += kRun) {
-            const std::size_t last = std::min(first + kRun, part.size() - 1);
+        const std::size_t step = thin ? part.size() : kRun;
+        for (std::size_t first = 0; first + 1 < part.size(); first += step) {
+            const std::size_t last = std::min(first + step, part.size() - 1);
             QPolygon run;
             run.reserve(static_cast<int>(last - first) + 1);
             double length = 0.0;
@@ -156,6 +173,22 @@ void strokePolylines(QPainter& painter, const Polylines& lines) {
             painter.drawPolyline(run);
             travelled += length;
         }
+    }
+}
+
+void fillColumnRuns(QPainter& painter, const ColumnRuns& runs, const QPen& pen) {
+    std::vector<QRect> rows;
+    rows.reserve(runs.rows.size());
+    for (const Box& box : runs.rows) {
+        rows.emplace_back(box.left, box.top, box.width(), box.height());
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pen.color());
+    painter.drawRects(rows.data(), static_cast<int>(rows.size()));
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    for (const Line& bridge : runs.bridges) {
+        drawLine(painter, bridge);
     }
 }
 

@@ -27,34 +27,20 @@ struct Span {
     }
 };
 
-constexpr std::size_t kLanes = 4;
-
-// Extremes of y[from, to) in several sums at once, so that one comparison need not wait for the one before. Empty
-// when a value has no place on the axis.
-std::optional<Span> spanOf(const double* y, std::size_t from, std::size_t to, const PixelScale& pixels) {
-    double lowest[kLanes];
-    double highest[kLanes];
-    double check = 0.0;  // stays 0 while every value is finite
-    std::fill_n(lowest, kLanes, y[from]);
-    std::fill_n(highest, kLanes, y[from]);
-    std::size_t i = from;
-    for (; i + kLanes <= to; i += kLanes) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            const double value = y[i + lane];
-            lowest[lane] = std::min(lowest[lane], value);
-            highest[lane] = std::max(highest[lane], value);
-            check += value * 0.0;
-        }
+// Extremes and ends of y[from, to). Empty when a value has no place on the axis.
+std::optional<Span> spanOf(const PlotSeries& series, std::size_t from, std::size_t to, const PixelScale& pixels) {
+    const std::vector<double>& y = series.y;
+    const std::optional<DataInterval> extremes = series.blocks.cover(y.size())
+                                                     ? series.blocks.extremesBetween(y, from, to)
+                                                     : finiteExtremes(std::span(y).subspan(from, to - from));
+    if (!extremes || !pixels.places(extremes->lowest)) {
+        return std::nullopt;
     }
     Span span(y[from]);
-    for (; i < to; ++i) {
-        span.add(y[i]);
-        check += y[i] * 0.0;
-    }
-    span.lowest = std::min(span.lowest, *std::min_element(lowest, lowest + kLanes));
-    span.highest = std::max(span.highest, *std::max_element(highest, highest + kLanes));
+    span.lowest = extremes->lowest;
+    span.highest = extremes->highest;
     span.last = y[to - 1];
-    return check == 0.0 && pixels.places(span.lowest) ? std::optional(span) : std::nullopt;
+    return span;
 }
 
 // Collects the columns of one series.
@@ -152,8 +138,7 @@ void addEvenlySpaced(const PlotSeries& series, Envelope& envelope) {
         const std::size_t end = columnEnd(series.x, pixels, i, i + width, n);
         const int offset = pixels.offset(series.x.at(i));
         const bool placed = pixels.places(series.x.at(i)) && pixels.places(series.x.at(end - 1));
-        const std::optional<Span> span =
-            placed ? spanOf(series.y.data(), i, end, envelope.yPixels()) : std::optional<Span>();
+        const std::optional<Span> span = placed ? spanOf(series, i, end, envelope.yPixels()) : std::optional<Span>();
         if (span && !envelope.isIn(offset)) {
             envelope.addColumn(offset, *span);
         } else {

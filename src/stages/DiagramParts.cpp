@@ -11,6 +11,8 @@ namespace {
 constexpr const char* kFrequencyTitle = "Frequency";
 constexpr std::array<const char*, 2> kFrequencyUnitTitles = {"Frequency, Hz", "Frequency, Rad/s"};
 constexpr int kPenStyles = 3;
+// Values from which on finding their blocks once is worth it.
+constexpr std::size_t kLongRecord = 20000;
 
 bool holdsNumber(const PlotSeries& series) {
     return std::any_of(series.y.begin(), series.y.end(), [](double y) { return std::isfinite(y); });
@@ -52,6 +54,9 @@ PlotSeries recordLine(std::vector<double> y, SeriesX x, int index, const std::st
     PlotSeries series;
     series.x = std::move(x);
     series.y = std::move(y);
+    if (series.y.size() > kLongRecord) {
+        series.blocks = ValueBlocks(series.y);
+    }
     series.attributes.colour = seriesColour(index);
     series.attributes.legendText = legend;
     return series;

@@ -71,13 +71,21 @@ Diagram diagramOf(PlotSeries series) {
     return diagram;
 }
 
-QImage drawn(const Polylines& lines, const QPen& pen) {
+template <class Draw>
+QImage drawnIn(const QRect& area, Draw draw) {
     QImage image(1600, 900, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.setPen(pen);
-    strokePolylines(painter, lines);
+    painter.setClipRect(area);
+    draw(painter);
     return image;
+}
+
+QImage drawn(const Polylines& lines, const QPen& pen) {
+    return drawnIn(QRect(0, 0, 1600, 900), [&](QPainter& painter) {
+        painter.setPen(pen);
+        strokePolylines(painter, lines);
+    });
 }
 
 CScreenUtils wideGeometry(double duration) {
@@ -111,6 +119,41 @@ class PaintingTest : public QObject {
             QVERIFY(ink > 100000);
             const qint64 differences = differing(full, thin);
             QVERIFY2(differences * 10000 <= ink, qPrintable(QString::number(differences)));
+        }
+    }
+
+    void denseLinesFillThePixelsOfTheFullLine() {
+        CScreenUtils g = wideGeometry(600.0);
+        PlotSeries smooth = noise(60000, 0.01, 1);
+        PlotSeries rough = noise(60000, 0.01, 2);
+        for (std::size_t i = 0; i < rough.y.size(); i += 2) {
+            rough.y[i] *= -3.0;
+        }
+        PlotSeries broken = noise(60000, 0.01, 3);
+        for (std::size_t i = 0; i < broken.y.size(); i += 9000) {
+            std::fill_n(broken.y.begin() + static_cast<std::ptrdiff_t>(i), 4000, std::nan(""));
+        }
+        PlotSeries slanted = noise(60000, 0.01, 4);
+        for (std::size_t i = 0; i < slanted.y.size(); ++i) {
+            slanted.y[i] = 1e-3 * static_cast<double>(i) - 30.0;
+        }
+        PlotSeries sparse = noise(60000, 0.01, 5);
+        sparse.x.values.resize(sparse.y.size());
+        for (std::size_t i = 0; i < sparse.y.size(); ++i) {
+            sparse.x.values[i] = 7.0 * static_cast<double>(i / 700);
+        }
+        for (const PlotSeries& series : {smooth, rough, broken, slanted, sparse}) {
+            const QRect area(g.originX, g.originY - g.height, g.width + 1, g.height + 1);
+            const QImage full = drawnIn(area, [&](QPainter& painter) {
+                painter.setPen(linePen(255, 1, 0, 1.0));
+                strokePolylines(painter, fullPolyline(series, g));
+            });
+            PlotSeries red = series;
+            red.attributes.colour = 255;
+            const QImage filled = drawnIn(area, [&](QPainter& painter) { paintSeries(painter, red, g, 1.0); });
+            QVERIFY(polylineEnvelope(series, g).dense);
+            const qint64 differences = differing(full, filled);
+            QVERIFY2(differences * 10000 <= inked(full), qPrintable(QString::number(differences)));
         }
     }
 

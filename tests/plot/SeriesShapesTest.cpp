@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "plot/DataExtent.h"
 #include "plot/FixedMeasure.h"
 #include "plot/PolylineEnvelope.h"
 
@@ -150,7 +151,20 @@ TEST(SeriesShapes, EvenlySpacedPointsMakeTheSameLineAsListedOnes) {
                 g.xMin = g.yMin = 0.1;
                 g.xScale = g.yScale = 30.0;
             }
-            EXPECT_EQ(polylineEnvelope(spaced, g).parts, polylineEnvelope(listed, g).parts) << step;
+            const auto parts = polylineEnvelope(listed, g).parts;
+            EXPECT_EQ(polylineEnvelope(spaced, g).parts, parts) << step;
+            PlotSeries summarised = spaced;
+            summarised.blocks = ValueBlocks(summarised.y);
+            EXPECT_EQ(polylineEnvelope(summarised, g).parts, parts) << step;
+            const auto expected = dataExtent(SPlot{{listed}}, g.logX(), g.logY());
+            const auto extent = dataExtent(SPlot{{summarised}}, g.logX(), g.logY());
+            ASSERT_EQ(extent.has_value(), expected.has_value());
+            if (extent) {
+                EXPECT_EQ(extent->x.lowest, expected->x.lowest) << step;
+                EXPECT_EQ(extent->x.highest, expected->x.highest) << step;
+                EXPECT_EQ(extent->y.lowest, expected->y.lowest) << step;
+                EXPECT_EQ(extent->y.highest, expected->y.highest) << step;
+            }
         }
     }
 }
