@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "model/FrameSlot.h"
+
 namespace vorlan {
 
 namespace {
@@ -31,25 +33,6 @@ bool activePaneIsOneOf(const CVorl_ADVDoc& document, Pane a, Pane b) {
     return document.ActivePane() == a || document.ActivePane() == b;
 }
 
-// The right bottom pane holds the table in stages with one; the vectors stage has text on its right side.
-bool diagramInView(const CVorl_ADVDoc& document) {
-    const Pane pane = document.ActivePane();
-    switch (document.CurrentStage()) {
-        case Stage::PreProcessing:
-        case Stage::Histograms:
-            return pane != Pane::RightBottom || !document.ShowsTable();
-        case Stage::Spectral:
-            return pane != Pane::RightBottom;
-        case Stage::MeanVelocityVectors:
-            return pane == Pane::LeftTop || pane == Pane::LeftBottom;
-        case Stage::Stationarity:
-        case Stage::Quadrants:
-        case Stage::CrossSpectral:
-            return true;
-    }
-    return false;
-}
-
 bool holds(const CVorl_ADVDoc& document, Need need) {
     const auto done = [&](DoneMark mark) { return document.HasProbe() && document.Probe().IsDone(mark); };
     switch (need) {
@@ -76,7 +59,9 @@ bool holds(const CVorl_ADVDoc& document, Need need) {
         case Need::TableStage:
             return document.CurrentStage() == Stage::PreProcessing || document.CurrentStage() == Stage::Histograms;
         case Need::DiagramInView:
-            return diagramInView(document);
+            return frameSlotOf(document.CurrentStage(), document.ActivePane(), document.CurrentValue(),
+                               document.ShowsTable())
+                .has_value();
         case Need::SpectrumOrStructureInView:
             return activePaneIsOneOf(document, Pane::LeftBottom, Pane::RightTop);
         case Need::CorrelationOrSpectrumInView:

@@ -35,31 +35,6 @@ const SAdvProbe* probeAt(const SAdvSet& set, int file, int probe) {
     return probe >= 0 && probe < probes.GetSize() ? &probes.GetAt(probe) : nullptr;
 }
 
-std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value, bool showTable) {
-    const int group = static_cast<int>(stage);
-    const int record = static_cast<int>(pane);
-    const FrameSlot own{false, group, record};
-    switch (stage) {
-        case Stage::PreProcessing:
-            if (pane == Pane::LeftTop && value == PhysicalValue::Stresses) {
-                return FrameSlot{false, kStressFrameGroup, 0};
-            }
-            [[fallthrough]];
-        case Stage::Histograms:
-            return pane == Pane::RightBottom && showTable ? std::nullopt : std::optional(own);
-        case Stage::Spectral:
-            return pane == Pane::RightBottom ? std::nullopt : std::optional(own);
-        case Stage::MeanVelocityVectors:
-            return pane == Pane::LeftTop || pane == Pane::LeftBottom ? std::optional(FrameSlot{true, 0, record})
-                                                                     : std::nullopt;
-        case Stage::Stationarity:
-        case Stage::Quadrants:
-        case Stage::CrossSpectral:
-            return own;
-    }
-    return std::nullopt;
-}
-
 FrameAttributesType frameInSlot(const SAdvSet& set, const SAdvProbe* probe, const FrameSlot& slot) {
     if (!slot.inSet) {
         return probe != nullptr ? frameOrDefault(*probe, slot.group, slot.record)

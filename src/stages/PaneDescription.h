@@ -1,8 +1,8 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
+#include "model/FrameSlot.h"
 #include "model/Stages.h"
 #include "model/Workspace.h"
 #include "plot/CScreenUtils.h"
@@ -25,18 +25,6 @@ struct PaneRequest {
 /// except for the plans and the table that span all files. The workspace is only read: missing frame attributes
 /// are supplied as defaults.
 PaneContent describePane(const PaneRequest& request);
-
-/// Where the frame attributes of a pane's diagram are kept.
-struct FrameSlot {
-    bool inSet = false;  ///< a record of the set of data files; else of the probe
-    int group = 0;       ///< group 0..6 of the probe; 0 for the set
-    int record = 0;
-
-    friend bool operator==(const FrameSlot&, const FrameSlot&) = default;
-};
-
-/// The slot of the pane's diagram; empty when the pane shows a table or text.
-std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value, bool showTable);
 
 /// The stored attributes of a slot, or its defaults while nothing is stored. probe may be null for slots of the set.
 FrameAttributesType frameInSlot(const SAdvSet& set, const SAdvProbe* probe, const FrameSlot& slot);
