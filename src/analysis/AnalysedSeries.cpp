@@ -7,34 +7,49 @@ namespace vorlan {
 namespace {
 
 /// Which of the first samples count, decided once for all columns.
-std::vector<int> countedIndexes(const SAdvProbe& probe, int samples) {
-    std::vector<int> indexes;
-    indexes.reserve(static_cast<std::size_t>(samples));
-    const auto marks = probe.sampleFlags.view();
-    const bool all = probe.UsesAllSamples();
-    for (int i = 0; i < samples; ++i) {
-        if (all || (static_cast<std::size_t>(i) < marks.size() && marks[static_cast<std::size_t>(i)] >= 1)) {
-            indexes.push_back(i);
+class CountedSamples {
+  public:
+    CountedSamples(const SAdvProbe& probe, int samples) : samples_(samples), all_(probe.UsesAllSamples()) {
+        if (all_) {
+            return;
+        }
+        const auto marks = probe.sampleFlags.view();
+        const auto marked = std::min(static_cast<std::size_t>(samples), marks.size());
+        for (std::size_t i = 0; i < marked; ++i) {
+            if (marks[i] >= 1) {
+                indexes_.push_back(i);
+            }
         }
     }
-    return indexes;
-}
 
-SArray picked(const SArray& column, const std::vector<int>& indexes) {
-    SArray part(column.GetScale());
-    part.ResizeForOverwrite(indexes.size());
-    const auto source = column.view();
-    std::transform(indexes.begin(), indexes.end(), part.begin(),
-                   [source](int i) { return source[static_cast<std::size_t>(i)]; });
-    return part;
-}
+    SArray of(const SArray& column) const {
+        if (all_ && column.GetSize() == samples_) {
+            return column;
+        }
+        SArray part(column.GetScale());
+        const auto source = column.view();
+        part.ResizeForOverwrite(all_ ? static_cast<std::size_t>(samples_) : indexes_.size());
+        if (all_) {
+            std::copy_n(source.begin(), samples_, part.begin());
+        } else {
+            std::transform(indexes_.begin(), indexes_.end(), part.begin(),
+                           [source](std::size_t i) { return source[i]; });
+        }
+        return part;
+    }
+
+  private:
+    int samples_;
+    bool all_;
+    std::vector<std::size_t> indexes_;
+};
 
 }  // namespace
 
 void formAnalysedSeries(SAdvProbe& probe) {
     const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
     const int samples = probe.WorkingSamples();
-    const std::vector<int> indexes = countedIndexes(probe, samples);
+    const CountedSamples counted(probe, samples);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
         series.samplingInterval = probe.samplingInterval;
@@ -46,12 +61,12 @@ void formAnalysedSeries(SAdvProbe& probe) {
         if (column.GetSize() < samples) {
             throw InvalidArgument();
         }
-        series.values = picked(column, indexes);
+        series.values = counted.of(column);
     }
 }
 
 SArray countedColumn(const SAdvProbe& probe, const SArray& column) {
-    return picked(column, countedIndexes(probe, column.GetSize()));
+    return CountedSamples(probe, column.GetSize()).of(column);
 }
 
 std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column) {

@@ -4,28 +4,12 @@
 
 namespace vorlan {
 
-namespace {
-
-// Count, then the elements as one block; loading appends.
-template <class Storage>
-void serializeBlock(Archive& archive, Storage& items) {
-    using Element = typename Storage::value_type;
-    const std::size_t count = archive.count(items.size(), sizeof(Element));
-    const std::size_t first = archive.isLoading() ? items.size() : 0;
-    if (archive.isLoading()) {
-        items.resize(first + count);
-    }
-    archive.raw(items.data() + first, count * sizeof(Element));
-}
-
-}  // namespace
-
 void SIntArray::Serialize(Archive& archive) {
-    serializeBlock(archive, items());
+    serializeBlock(archive);
 }
 
 void SDArray::Serialize(Archive& archive) {
-    serializeBlock(archive, items());
+    serializeBlock(archive);
 }
 
 void SDMultiArray::Serialize(Archive& archive) {

@@ -16,7 +16,8 @@ namespace vorlan {
 /// One probe (burst): its sampled record, the working copy that pre-processing changes, and the results of every
 /// stage. Velocities in cm/s, times in s, angles in degrees, positions in mm.
 ///
-/// A plain value: copies are deep, so a command works on a copy and writes it back only when it succeeded.
+/// A plain value: copies are independent (and cheap, columns are shared until one is written), so a command works on a
+/// copy and writes it back only when it succeeded.
 class SAdvProbe : public SObject {
   public:
     static constexpr int kComponents = 3;

@@ -12,14 +12,7 @@ constexpr std::size_t kSmallestColumn = sizeof(double) + sizeof(std::int32_t);
 
 void SArray::Serialize(Archive& archive) {
     archive.value(scale_);
-    const std::size_t count = archive.count(items().size(), sizeof(std::int32_t));
-    if (archive.isLoading()) {
-        const std::size_t held = items().size();
-        items().resize(held + count);
-        archive.raw(items().data() + held, count * sizeof(std::int32_t));
-    } else {
-        archive.raw(items().data(), count * sizeof(std::int32_t));
-    }
+    serializeBlock(archive);
 }
 
 std::vector<double> SArray::Values() const {
@@ -32,9 +25,9 @@ std::vector<double> SArray::Values() const {
 }
 
 void SArray::StoreValues(std::span<const double> values) {
-    items().resize(values.size());
+    Storage& units = freshItems(values.size());
     for (std::size_t i = 0; i < values.size(); ++i) {
-        items()[i] = truncateToInt32(values[i] / scale_);
+        units[i] = truncateToInt32(values[i] / scale_);
     }
 }
 

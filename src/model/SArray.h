@@ -29,8 +29,8 @@ class SArray : public GrowArray<std::int32_t> {
     std::vector<double> Values() const;
     /// Replaces the content by values, each stored as SetValue stores it; the scale stays.
     void StoreValues(std::span<const double> values);
-    /// Size zero or more integers to be written by the caller through view().
-    void ResizeForOverwrite(std::size_t size) { items().resize(size); }
+    /// Size zero or more integers, all to be written by the caller through view().
+    void ResizeForOverwrite(std::size_t size) { freshItems(size); }
 
     friend bool operator==(const SArray& a, const SArray& b) = default;
 

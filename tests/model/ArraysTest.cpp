@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <random>
 
@@ -102,6 +103,51 @@ TEST(Arrays, CopiesAreDeepAndKeepTheScale) {
     copy = table;
     copy.ElementAt(2).SetScale(2.0);
     EXPECT_NE(copy, table);
+}
+
+TEST(Arrays, CopiesShareTheirElementsUntilOneIsWritten) {
+    SArray column(0.5);
+    column.StoreValues(std::vector<double>{1.0, 2.0, 3.0});
+    const auto elements = [](const SArray& array) { return array.view().data(); };
+    const std::int32_t* const first = elements(column);
+    const SArray kept = column;
+    EXPECT_EQ(elements(kept), first);
+
+    // Whatever way a copy is written, the other one stays.
+    const std::vector<std::function<void(SArray&)>> writes = {
+        [](SArray& a) { a.SetAt(1, 9); },
+        [](SArray& a) { a.Add(9); },
+        [](SArray& a) { a.ElementAt(0) = 9; },
+        [](SArray& a) { a.RemoveAt(2); },
+        [](SArray& a) { a.InsertAt(0, 9); },
+        [](SArray& a) { a.SetSize(1); },
+        [](SArray& a) { a.RemoveAll(); },
+        [](SArray& a) { a.view()[2] = 9; },
+        [](SArray& a) { *a.begin() = 9; },
+        [](SArray& a) { a.StoreValues(std::vector<double>{9.0}); },
+        [](SArray& a) {
+            a.ResizeForOverwrite(3);
+            a.view()[0] = 9;
+            a.view()[1] = 9;
+            a.view()[2] = 9;
+        },
+    };
+    for (const auto& write : writes) {
+        SArray copy = kept;
+        write(copy);
+        EXPECT_NE(copy, kept);
+        EXPECT_EQ(elements(kept), first);
+        EXPECT_EQ(kept, column);
+    }
+
+    // Storing reads; loading into a copy appends to the copy alone.
+    Archive out = Archive::storing();
+    column.Serialize(out);
+    EXPECT_EQ(elements(column), first);
+    Archive in = Archive::loading(out.bytes());
+    column.Serialize(in);
+    EXPECT_EQ(column.GetSize(), 6);
+    EXPECT_EQ(kept.GetSize(), 3);
 }
 
 TEST(Arrays, LoadingAppends) {
