@@ -110,7 +110,7 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeOperation& operation, int progressOf
 }
 
 void CVorl_ADVDoc::ApplyChangeRule(SAdvProbe& copy, Progress& progress) {
-    if (!copy.IsChanged() || !port_->confirm("The Time Series was changed. Repeat all previous calculations ?")) {
+    if (!copy.IsChanged() || !port_->confirm(kRepeatQuestion)) {
         return;
     }
     port_->beginRun(kRepeatBarOffset);

@@ -1,13 +1,9 @@
 #include "batch/ConsolePort.h"
 
+#include "app/RecomputeChain.h"
 #include "batch/Interrupt.h"
 
 namespace vorlan {
-
-namespace {
-// The one question whose answer an option decides; all others ask whether the user means what the recipe says.
-constexpr const char* kRepeatQuestion = "The Time Series was changed. Repeat all previous calculations ?";
-}  // namespace
 
 bool ConsolePort::takeRefused() {
     const bool said = refused_;
@@ -16,6 +12,7 @@ bool ConsolePort::takeRefused() {
 }
 
 bool ConsolePort::confirm(const std::string& text) {
+    // The one question whose answer an option decides; all others ask whether the user means what the recipe says.
     return text == kRepeatQuestion ? options_.repeatStages : true;
 }
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <span>
 
+#include "analysis/EditingAssessment.h"
 #include "analysis/RotationSettings.h"
 #include "batch/TextValues.h"
 #include "model/ProbeInformation.h"
@@ -106,7 +107,17 @@ std::string resultsText(const SAdvProbe& probe) {
     return text;
 }
 
-std::string probeAsText(const SAdvProbe& probe) {
+// What the workspace's editing criteria say of the record as it is now; nothing when none is on.
+std::string editingText(const SAdvProbe& probe, const WorkspaceSettings& settings) {
+    try {
+        const std::string shares = keptSharesText(assessEditing(probe, editingSettingsOf(settings)));
+        return shares.empty() ? shares : "    Editing criteria: " + shares + "\n";
+    } catch (const InvalidArgument&) {
+        return "    Editing criteria: the record has no scores for all of its samples\n";
+    }
+}
+
+std::string probeAsText(const SAdvProbe& probe, const WorkspaceSettings& settings) {
     const int samples = SAdvProbe::ColumnLength(probe.sampledTables[SAdvProbe::kVelocities]);
     const int working = probe.WorkingSamples();
     const std::array<double, 3> position = rotationSettingsOf(probe).position;
@@ -117,6 +128,7 @@ std::string probeAsText(const SAdvProbe& probe) {
     }
     text += "    Working record: " + plural(working, "sample") + ", " + std::to_string(validSamples(probe)) + " valid" +
             (probe.UsesAllSamples() ? "" : "; only those are used") + "\n";
+    text += editingText(probe, settings);
     text += formatted("    Sampling volume at %g, %g, %g m\n", position[0], position[1], position[2]);
     text += "    Stages done: " + stagesText(probe) + "\n";
     text += formatted("      %-4s %12s %12s %10s %10s\n", "", "mean", "variance", "skewness", "kurtosis");
@@ -164,7 +176,7 @@ std::string summaryAsText(const Workspace& workspace, const std::string& version
     for (const SAdvFile& file : workspace.dataFiles.files) {
         text += "\nData file " + std::to_string(++number) + ": " + nameAsUtf8(file.fileName) + "\n";
         for (const SAdvProbe& probe : file.probes) {
-            text += probeAsText(probe);
+            text += probeAsText(probe, workspace.settings);
         }
     }
     return text;

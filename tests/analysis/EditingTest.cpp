@@ -6,6 +6,7 @@
 
 #include "VelocityRecord.h"
 #include "analysis/Clipping.h"
+#include "analysis/EditingAssessment.h"
 #include "analysis/ProbeMoments.h"
 
 namespace vorlan::test {
@@ -192,6 +193,22 @@ TEST(Editing, AllTestsInOrderOnWholeAndClippedRecords) {
             EXPECT_EQ(probe.title, "Cleaned-up time series (" + std::to_string(bad[3]) + " samples replaced)");
         }
     }
+}
+
+TEST(Editing, AssessingLooksAtEachCriterionAloneAndChangesNothing) {
+    SAdvProbe probe = smallRecord({0, 50, 0, 0, 0, 0, 0, 0}, {99, 50, 50, 99, 99, 99, 99, 99});
+    computeProbeMoments(probe);
+    const SAdvProbe before = probe;
+    EditingSettings settings;
+    settings.correlation = {true, ScoreStatistic::Minimum, 0.0, 70.0};
+    settings.velocityTest = true;
+    settings.velocityThreshold = 2.0;
+    const EditingResult result = assessEditing(probe, settings);
+    EXPECT_EQ(probe, before);
+    EXPECT_EQ(result.correlation.bad, 2);
+    EXPECT_EQ(result.velocity.bad, 3) << "the outlier in all three components, not repaired before";
+    EXPECT_EQ(result.signalToNoise.tested, 0);
+    EXPECT_EQ(keptSharesText(result), "Correlation: 66.67 % kept   Velocity: 83.33 % kept");
 }
 
 TEST(Editing, CaptionFollowsSpikesThenVelocities) {

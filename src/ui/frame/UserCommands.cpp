@@ -7,10 +7,10 @@
 #include <ctime>
 #include <ostream>
 
+#include "analysis/EditingAssessment.h"
 #include "export/WriteExport.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
-#include "model/Text.h"
 #include "stages/PaneDescription.h"
 #include "ui/dialogs/CCoordSysDlg.h"
 #include "ui/dialogs/CEditTSDlg.h"
@@ -27,25 +27,6 @@
 #include "ui/frame/AboutBox.h"
 
 namespace vorlan {
-
-namespace {
-
-// "Correlation: 95.7 % kept   Spikes: 99.9 % kept": one entry per criterion that was on.
-QString keptShares(const EditingResult& result) {
-    QStringList shares;
-    const auto add = [&](const char* name, const CriterionResult& criterion) {
-        if (criterion.tested > 0) {
-            shares.append(QString::fromStdString(formatted("%s: %.2f %% kept", name, 100.0 * criterion.keptShare())));
-        }
-    };
-    add("Correlation", result.correlation);
-    add("SNR", result.signalToNoise);
-    add("Spike filter", result.spikes);
-    add("Velocity", result.velocity);
-    return shares.join(QStringLiteral("   "));
-}
-
-}  // namespace
 
 void UserCommands::run(Command command) {
     try {
@@ -145,9 +126,9 @@ void UserCommands::changeCoordinateSystem() {
 void UserCommands::editTimeSeries() {
     CEditTSDlg dialog(editingSettingsOf(document_.Settings()), &window_);
     if (dialog.exec() == QDialog::Accepted && document_.EditTimeSeries(dialog.values()) == Outcome::Done) {
-        const QString shares = keptShares(document_.LastEditing());
-        if (!shares.isEmpty()) {
-            showStatus_(shares);
+        const std::string shares = keptSharesText(document_.LastEditing());
+        if (!shares.empty()) {
+            showStatus_(QString::fromStdString(shares));
         }
     }
 }
