@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
@@ -53,7 +54,8 @@ CMainFrame::CMainFrame(QWidget* parent)
     buildShortcuts();
     connectWidgets();
     setBoxes(platformBoxes_);
-    resize(1200, 800);
+    // The whole window on a small screen, its frame included.
+    resize(QSize(1200, 800).boundedTo(screen()->availableSize() - QSize(16, 48)));
     documentChanged(Change::Workspace);
     actions_->setRecentFiles(files_.recentPaths());
 }
@@ -166,11 +168,18 @@ void CMainFrame::refreshTitle() {
 }
 
 void CMainFrame::runStateChanged(bool running) {
+    if (running) {
+        focusBeforeRun_ = focusWidget();
+    }
     selectionBar_->refresh(document_);
     tabs_->refresh(document_);
     refreshCommands();
     if (running) {
         return;
+    }
+    // Disabled controls pass the focus on; it belongs to where the user left it.
+    if (focusBeforeRun_ != nullptr) {
+        focusBeforeRun_->setFocus();
     }
     // What the user asked for while nothing could be done, once the command has ended.
     QTimer::singleShot(0, this, [this] {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 
 #include "app/CVorl_ADVDoc.h"
@@ -63,6 +64,7 @@ class CMainFrame : public QMainWindow {
     PaneGrid* panes_;
     StatusPane* statusPane_;
     UserCommands commands_;
+    QPointer<QWidget> focusBeforeRun_;
     bool closeWhenDone_ = false;
     QString dropWhenDone_;
 };

@@ -1,5 +1,6 @@
 #include "ui/frame/SelectionBar.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 
@@ -50,11 +51,18 @@ QComboBox* SelectionBar::addSelector(const QString& label, const QString& toolTi
     selector->setAccessibleName(toolTip);
     selector->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     selector->setMinimumContentsLength(characters);
-    auto* caption = new QLabel(label, this);
+    // In a narrow window a selector shrinks before the bar hides it.
+    selector->setMinimumWidth(selector->sizeHint().width() / 2);
+    // A caption never stands without its selector.
+    auto* field = new QWidget(this);
+    auto* row = new QHBoxLayout(field);
+    row->setContentsMargins(6, 0, 6, 0);
+    row->setSpacing(4);
+    auto* caption = new QLabel(label, field);
     caption->setBuddy(selector);
-    caption->setContentsMargins(6, 0, 3, 0);
-    addWidget(caption);
-    addWidget(selector);
+    row->addWidget(caption);
+    row->addWidget(selector);
+    addWidget(field);
     return selector;
 }
 

@@ -130,7 +130,10 @@ void CVorl_ADVView::leaveEvent(QEvent* event) {
 }
 
 void CVorl_ADVView::focusInEvent(QFocusEvent* event) {
-    Q_EMIT activated(pane_);
+    // A window that comes to the front again chooses nothing.
+    if (event->reason() != Qt::ActiveWindowFocusReason) {
+        Q_EMIT activated(pane_);
+    }
     QWidget::focusInEvent(event);
 }
 

@@ -1,0 +1,98 @@
+#include <QComboBox>
+#include <QTabBar>
+#include <QTest>
+#include <QWindow>
+
+#include "FrameDriver.h"
+
+using namespace vorlan;
+
+namespace {
+
+// No desktop does it here once a dialog has closed.
+void comeToTheFront(FrameDriver& driver) {
+    driver.frame->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(driver.frame.get()));
+}
+
+// Shortcuts are told to the window as the platform tells them, not to a widget.
+void press(FrameDriver& driver, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    comeToTheFront(driver);
+    QTest::keyClick(driver.frame->windowHandle(), key, modifiers);
+}
+
+QComboBox* selector(FrameDriver& driver, const char* name) {
+    return driver.frame->findChild<QComboBox*>(QString::fromUtf8(name));
+}
+
+}  // namespace
+
+class FrameKeyboard : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void stagesAreSteppedThrough() {
+        FrameDriver driver;
+        driver.simulate();
+        QVERIFY(driver.withDialog(Command::StationarityAnalysis, "Stationarity Analysis | Parameters"));
+        QVERIFY(driver.withDialog(Command::SpectralAnalysis, "Spectral Analysis | Parameters"));
+        QCOMPARE(driver.document().CurrentStage(), Stage::Spectral);
+        press(driver, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(driver.document().CurrentStage(), Stage::PreProcessing);
+        press(driver, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(driver.document().CurrentStage(), Stage::Stationarity);
+        press(driver, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(driver.document().CurrentStage(), Stage::PreProcessing);
+    }
+
+    void panesAreSteppedThroughClockwise() {
+        FrameDriver driver;
+        driver.simulate();
+        for (const Pane pane : {Pane::RightTop, Pane::RightBottom, Pane::LeftBottom, Pane::LeftTop}) {
+            press(driver, Qt::Key_F6);
+            QCOMPARE(driver.document().ActivePane(), pane);
+            QVERIFY(driver.frame->panes().view(pane).hasFocus());
+        }
+        press(driver, Qt::Key_F6, Qt::ShiftModifier);
+        QCOMPARE(driver.document().ActivePane(), Pane::LeftBottom);
+    }
+
+    void aRunKeepsTheFocusAndTheActiveView() {
+        FrameDriver driver;
+        driver.simulate();
+        comeToTheFront(driver);
+        QComboBox* panes = selector(driver, "Active view");
+        panes->setFocus();
+        QTest::keyClick(panes, Qt::Key_End);
+        QCOMPARE(driver.document().ActivePane(), Pane::RightBottom);
+        QVERIFY(driver.withDialog(Command::StationarityAnalysis, "Stationarity Analysis | Parameters"));
+        comeToTheFront(driver);
+        QVERIFY(panes->hasFocus());
+        QCOMPARE(driver.document().ActivePane(), Pane::RightBottom);
+    }
+
+    void selectorsSayWhatIsToBeChosen() {
+        FrameDriver driver;
+        QVERIFY(selector(driver, "Probes")->placeholderText().isEmpty());
+        driver.document().SimulateTimeSeries(SimulationParameters{}, 7);
+        QCOMPARE(selector(driver, "Probes")->placeholderText(), QStringLiteral("Choose a probe"));
+        QCOMPARE(selector(driver, "Probes")->currentIndex(), -1);
+    }
+
+    void aNarrowWindowShowsEverySelector() {
+        FrameDriver driver;
+        driver.simulate();
+        QCOMPARE(selector(driver, "Data files")->currentText(), QStringLiteral("test"));
+        driver.frame->resize(700, 500);
+        QCoreApplication::processEvents();
+        QCOMPARE(driver.frame->width(), 700);
+        for (const char* name : {"Data files", "Probes", "Physical values", "Active view"}) {
+            const QComboBox* box = selector(driver, name);
+            QVERIFY2(box->isVisible(), name);
+            QVERIFY2(box->mapTo(driver.frame.get(), QPoint(box->width(), 0)).x() <= driver.frame->width(), name);
+        }
+    }
+};
+
+QTEST_MAIN(FrameKeyboard)
+#include "frameKeyboard.moc"
