@@ -1,11 +1,16 @@
 #include "ui/dialogs/CFontDlg.h"
 
+#include <QFontInfo>
+
 #include "ui/dialogs/FontConversion.h"
 
 namespace vorlan {
 
 CFontDlg::CFontDlg(const FontDescription& font, QWidget* parent) : QFontDialog(parent), before_(font) {
-    setCurrentFont(platformFont(font));
+    // A family that is not installed opens on the one that is drawn in its place.
+    QFont shown = platformFont(font);
+    shown.setFamily(QFontInfo(shown).family());
+    setCurrentFont(shown);
     // The dialog settles on an installed family and a whole point size: those are no choice of the user.
     opened_ = currentFont();
 }

@@ -12,9 +12,11 @@ CParameterDialog::CParameterDialog(const QString& title, QWidget* parent)
     : QDialog(parent), body_(new QVBoxLayout(this)) {
     setWindowTitle(title);
     body_->setSizeConstraint(QLayout::SetFixedSize);
-    // Room for the whole title beside the button that closes the window.
-    constexpr int kTitleButtons = 90;
-    body_->addStrut(fontMetrics().horizontalAdvance(title) + kTitleButtons);
+    // Room for the whole title, which is often bold, beside the icon and the buttons of the window.
+    constexpr int kTitleButtons = 120;
+    QFont titleFont = font();
+    titleFont.setBold(true);
+    body_->addStrut(QFontMetrics(titleFont).horizontalAdvance(title) + kTitleButtons);
 }
 
 void CParameterDialog::finish(QWidget* firstField) {
