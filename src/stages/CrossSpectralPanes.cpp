@@ -94,6 +94,15 @@ void drawAsPoints(Diagram& diagram) {
     }
 }
 
+/// Automatic marks of a full turn stand at its quarters.
+void markQuarters(FrameAttributesType& frame) {
+    if (frame.yStepMode == 0 && frame.yMinMode != 0 && frame.yMaxMode != 0 && frame.yMin == -180.0 &&
+        frame.yMax == 180.0) {
+        frame.yStepMode = 1;
+        frame.yStep = 90.0;
+    }
+}
+
 }  // namespace
 
 PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* probe) {
@@ -115,6 +124,7 @@ PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* pr
         case Pane::RightBottom: {
             Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kPhase));
             drawAsPoints(diagram);
+            markQuarters(diagram.frame);
             return diagramOrMessage(std::move(diagram));
         }
     }
