@@ -1,6 +1,6 @@
 #include "model/SArray.h"
 
-#include <cstring>
+#include <algorithm>
 
 #include "model/Archive.h"
 
@@ -16,19 +16,14 @@ void SArray::Serialize(Archive& archive) {
 }
 
 std::vector<double> SArray::Values() const {
-    std::vector<double> values;
-    values.reserve(items().size());
-    for (const std::int32_t n : items()) {
-        values.push_back(n * scale_);
-    }
+    std::vector<double> values(items().size());
+    std::transform(items().begin(), items().end(), values.begin(),
+                   [scale = scale_](std::int32_t n) { return n * scale; });
     return values;
 }
 
 void SArray::StoreValues(std::span<const double> values) {
-    Storage& units = freshItems(values.size());
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        units[i] = truncateToInt32(values[i] / scale_);
-    }
+    truncateToUnits(values, scale_, freshItems(values.size()).data());
 }
 
 void SMultiArray::Serialize(Archive& archive) {

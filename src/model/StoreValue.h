@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <span>
 
 namespace vorlan {
 
@@ -18,5 +19,8 @@ inline std::int32_t truncateToInt32(double v) {
     }
     return static_cast<std::int32_t>(v);
 }
+
+/// truncateToInt32(values[i] / scale) for every i; units has room for as many.
+void truncateToUnits(std::span<const double> values, double scale, std::int32_t* units);
 
 }  // namespace vorlan

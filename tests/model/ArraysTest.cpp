@@ -39,6 +39,12 @@ TEST_P(StoringValues, TruncatesTowardZero) {
     column.StoreValues(values);
     EXPECT_EQ(column.GetSize(), 1);
     EXPECT_EQ(column.GetAt(0), GetParam().integer);
+    // Several are stored as one is.
+    column.StoreValues(std::vector<double>(7, GetParam().value));
+    ASSERT_EQ(column.GetSize(), 7);
+    for (const std::int32_t integer : column) {
+        EXPECT_EQ(integer, GetParam().integer);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
