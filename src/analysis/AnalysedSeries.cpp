@@ -1,6 +1,7 @@
 #include "analysis/AnalysedSeries.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace vorlan {
 
@@ -67,6 +68,23 @@ void formAnalysedSeries(SAdvProbe& probe) {
 
 SArray countedColumn(const SAdvProbe& probe, const SArray& column) {
     return CountedSamples(probe, column.GetSize()).of(column);
+}
+
+std::array<SArray, 3> countedColumns(const SAdvProbe& probe, const std::array<const SArray*, 3>& columns) {
+    std::array<SArray, 3> counted;
+    std::optional<CountedSamples> samples;
+    int size = 0;
+    for (std::size_t c = 0; c < columns.size(); ++c) {
+        if (columns[c] == nullptr) {
+            continue;
+        }
+        if (!samples || columns[c]->GetSize() != size) {
+            size = columns[c]->GetSize();
+            samples.emplace(probe, size);
+        }
+        counted[c] = samples->of(*columns[c]);
+    }
+    return counted;
 }
 
 std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column) {

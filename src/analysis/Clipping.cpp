@@ -39,7 +39,7 @@ bool coversRecord(const SMultiArray& table, int samples) {
 
 }  // namespace
 
-bool clip(SAdvProbe& probe, double tStart, double tEnd) {
+bool clip(SAdvProbe& probe, double tStart, double tEnd, Progress& progress) {
     const double first = std::trunc(tStart / probe.samplingInterval);
     const double end = std::trunc(tEnd / probe.samplingInterval);
     if (!(first >= 0.0 && end >= 0.0)) {
@@ -58,7 +58,7 @@ bool clip(SAdvProbe& probe, double tStart, double tEnd) {
         }
     }
     cut(probe.sampleFlags, i0, i1);
-    formStresses(probe);
+    formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, "Sampled Velocities (Zoom)");
     computeProbeMoments(probe);
     return true;
@@ -69,9 +69,9 @@ void enterZoomMode(SAdvProbe& probe) {
     forEachTimeDiagram(probe, [](FrameAttributesType& frame) { frame.xMinMode = 0; });
 }
 
-void resetProbe(SAdvProbe& probe) {
+void resetProbe(SAdvProbe& probe, Progress& progress) {
     probe.Reset();
-    formStresses(probe);
+    formStresses(probe, StressResolution::SamePosition, progress);
     probe.zoomMode = 0;
     setRecordTitle(probe, "Sampled Velocities");
     forEachTimeDiagram(probe, [](FrameAttributesType& frame) {

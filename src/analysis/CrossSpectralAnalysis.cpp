@@ -104,7 +104,7 @@ void analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
     progress.breathe();
 
     progress.position(5);
-    prepareStresses(probe);
+    prepareStresses(probe, progress);
     computeCovariances(probe, static_cast<int>(probe.spectralLags), progress);
 
     progress.position(30);

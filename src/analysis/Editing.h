@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/EditingSettings.h"
+#include "analysis/Progress.h"
 #include "model/SAdvProbe.h"
 
 namespace vorlan {
@@ -26,19 +27,20 @@ struct EditingResult {
 /// Score tables shorter than the record raise InvalidArgument.
 
 /// Bad: average (c1 + c2 + c3) / 3, or any of the three scores, below threshold. Repairs all three components.
-CriterionResult testScores(SAdvProbe& probe, std::size_t scoreTable, ScoreStatistic statistic, double threshold);
+CriterionResult testScores(SAdvProbe& probe, std::size_t scoreTable, ScoreStatistic statistic, double threshold,
+                           Progress& progress = noProgress());
 
 /// Bad: 981 a < |e|, e = ((x[i] - x[i-1]) - (x[i+1] - x[i])) / dt per component, a in g. Repairs only when
 /// 981 a < 1 / dt, whatever the samples.
-CriterionResult filterSpikes(SAdvProbe& probe, double accelerationThreshold);
+CriterionResult filterSpikes(SAdvProbe& probe, double accelerationThreshold, Progress& progress = noProgress());
 
 /// Bad: |x[i] - mean| > k sqrt(variance) with the probe's velocity moments as they stand. Counts and repairs each
 /// component by itself.
-CriterionResult testVelocities(SAdvProbe& probe, double k);
+CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress = noProgress());
 
 /// Treatment, the tests that are on (correlation, signal to noise, spikes, velocity), caption, frame title and
 /// stresses. Removal ends the use of all samples, clears the done marks of stationarity, spectral, cross-spectral and
 /// quadrant analysis and deletes their last tabs. The probe's moments are left: recompute them when the command ends.
-EditingResult editSeries(SAdvProbe& probe, const EditingSettings& settings);
+EditingResult editSeries(SAdvProbe& probe, const EditingSettings& settings, Progress& progress = noProgress());
 
 }  // namespace vorlan

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "analysis/kernels/Pacer.h"
+
 namespace vorlan {
 
 std::vector<double> averageAround(std::span<const std::size_t> events, std::span<const double> x, int lag,
-                                  const KernelSet& kernels) {
+                                  Progress& progress, const KernelSet& kernels) {
     if (lag < 0) {
         return {};
     }
@@ -23,8 +25,14 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     std::vector<double> padded(x.size() + reach + rounded);
     std::copy(x.begin(), x.end(), padded.begin() + static_cast<std::ptrdiff_t>(reach));
     std::vector<double> sums(rounded);
+    constexpr std::size_t kPiece = std::size_t{1} << 15;
+    Pacer pacer(progress);
     for (std::size_t first = 0; first < rounded; first += block) {
-        kernels.eventSums(padded.data() + first, events.data(), events.size(), sums.data() + first);
+        for (std::size_t e = 0; e < events.size(); e += kPiece) {
+            const std::size_t count = std::min(kPiece, events.size() - e);
+            kernels.eventSums(padded.data() + first, events.data() + e, count, sums.data() + first);
+            pacer.worked(count * block);
+        }
     }
 
     for (std::size_t i = 0; i < lags; ++i) {

@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "analysis/Progress.h"
 #include "analysis/kernels/KernelSet.h"
 
 namespace vorlan {
@@ -12,6 +13,6 @@ namespace vorlan {
 ///   p[i] = (sum over the events e of x[e + i - lag]) / (number of events with such a neighbour),
 /// in the order of the events, which must rise and lie within the series; 0 where no event has one.
 std::vector<double> averageAround(std::span<const std::size_t> events, std::span<const double> x, int lag,
-                                  const KernelSet& kernels = kernelsInUse());
+                                  Progress& progress = noProgress(), const KernelSet& kernels = kernelsInUse());
 
 }  // namespace vorlan

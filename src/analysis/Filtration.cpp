@@ -75,9 +75,9 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     }
 }
 
-void finishFiltration(SAdvProbe& probe) {
+void finishFiltration(SAdvProbe& probe, Progress& progress) {
     setRecordTitle(probe, "Filtered time series");
-    formStresses(probe);
+    formStresses(probe, StressResolution::SamePosition, progress);
     computeProbeMoments(probe);
 }
 

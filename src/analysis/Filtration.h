@@ -28,6 +28,6 @@ std::vector<double> filtered(std::span<const double> x, std::span<const double> 
 void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress& progress);
 
 /// What follows a filtration: the title "Filtered time series", stresses and moments.
-void finishFiltration(SAdvProbe& probe);
+void finishFiltration(SAdvProbe& probe, Progress& progress = noProgress());
 
 }  // namespace vorlan

@@ -15,9 +15,9 @@ class CumulativeCounts {
   public:
     explicit CumulativeCounts(const SArray& samples) {
         const auto units = samples.view();
-        const auto [lowest, highest] = std::minmax_element(units.begin(), units.end());
-        const std::int64_t low = *lowest;
-        const auto range = static_cast<std::uint64_t>(*highest - low);
+        const auto [lowest, highest] = unitRange(units);
+        const std::int64_t low = lowest;
+        const auto range = static_cast<std::uint64_t>(highest - low);
         totals_.push_back(0);
         // Measured columns repeat few integers: counting them beats sorting unless one sample lies far away.
         if (range < 8 * units.size()) {
@@ -88,9 +88,13 @@ void analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, P
     formAnalysedSeries(probe);
     const bool empty = probe.seriesU.values.IsEmpty();
     const bool earlier = !probe.seriesU.histogram.IsEmpty();
+    const std::array<Moments, 3> moments =
+        columnMoments({ColumnSamples::of(probe.seriesU.values), ColumnSamples::of(probe.seriesV.values),
+                       ColumnSamples::of(probe.seriesW.values)});
+    progress.breathe();
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
-        series.moments = momentsOf(series.values.Values());
+        series.moments = moments[static_cast<std::size_t>(component)];
         if (!empty) {
             if (earlier) {
                 series.histogram.RemoveAll();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "model/STimeSeries.h"
@@ -12,8 +13,42 @@ namespace vorlan {
 /// Nothing guards against short or constant series: their higher moments are not finite.
 Moments momentsOf(std::span<const double> samples);
 
+/// Sums of the powers of deviations.
+struct PowerSums {
+    double squares = 0.0;
+    double cubes = 0.0;
+    double fourths = 0.0;
+
+    void add(double d) {
+        squares += d * d;
+        cubes += d * d * d;
+        fourths += d * d * d * d;
+    }
+};
+
+/// Samples of a column, as far as they take part: integers and their resolution.
+struct ColumnSamples {
+    std::span<const std::int32_t> units;
+    double scale = 1.0;
+
+    static ColumnSamples of(const SArray& column) { return {column.view(), column.GetScale()}; }
+};
+
+/// Three columns at once: means, or all moments, each as momentsOf() gives them. The sums of one column need not wait
+/// for those of another, and no column is turned into doubles in memory.
+using ThreeColumns = std::array<ColumnSamples, 3>;
+std::array<double, 3> columnMeans(const ThreeColumns& columns);
+std::array<Moments, 3> columnMoments(const ThreeColumns& columns);
+
 /// Deviations from mean, in index order.
 std::vector<double> deviationsFrom(std::span<const double> samples, double mean);
+
+/// Smallest and largest of some integers; there must be one.
+struct UnitRange {
+    std::int32_t lowest;
+    std::int32_t highest;
+};
+UnitRange unitRange(std::span<const std::int32_t> units);
 
 /// Smallest and largest sample. InvalidArgument for an empty series.
 struct Extremes {

@@ -6,20 +6,31 @@
 namespace vorlan {
 
 namespace {
+
 // Two samples have a variance, but no shape.
-constexpr std::size_t kTooFewSamples = 2;
+constexpr int kTooFewSamples = 2;
+
+ThreeColumns samplesOf(const std::array<SArray, 3>& columns) {
+    return {ColumnSamples::of(columns[0]), ColumnSamples::of(columns[1]), ColumnSamples::of(columns[2])};
+}
+
 }  // namespace
 
+std::array<Moments, 3> countedMoments(const SAdvProbe& probe, const std::array<const SArray*, 3>& columns) {
+    return columnMoments(samplesOf(countedColumns(probe, columns)));
+}
+
 std::array<Moments, 3> probeMoments(const SAdvProbe& probe) {
-    std::array<Moments, 3> moments{};
     const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
     if (velocities.IsEmpty()) {
-        return moments;
+        return {};
     }
-    for (int component = 0; component < SAdvProbe::kComponents; ++component) {
-        const std::vector<double> values = countedValues(probe, velocities.GetAt(component));
-        if (values.size() > kTooFewSamples) {
-            moments[static_cast<std::size_t>(component)] = momentsOf(values);
+    const std::array<SArray, 3> columns =
+        countedColumns(probe, {&velocities.GetAt(0), &velocities.GetAt(1), &velocities.GetAt(2)});
+    std::array<Moments, 3> moments = columnMoments(samplesOf(columns));
+    for (std::size_t c = 0; c < moments.size(); ++c) {
+        if (columns[c].GetSize() <= kTooFewSamples) {
+            moments[c] = {};
         }
     }
     return moments;

@@ -11,4 +11,7 @@ void computeProbeMoments(SAdvProbe& probe);
 /// The moments alone, U, V, W, without touching the probe.
 std::array<Moments, 3> probeMoments(const SAdvProbe& probe);
 
+/// Moments of the samples that count in three columns, null for none.
+std::array<Moments, 3> countedMoments(const SAdvProbe& probe, const std::array<const SArray*, 3>& columns);
+
 }  // namespace vorlan

@@ -33,4 +33,10 @@ class NoProgress : public Progress {
     void breathe() override {}
 };
 
+/// For callers that nobody waits for. It holds no state.
+inline Progress& noProgress() {
+    static NoProgress nobody;
+    return nobody;
+}
+
 }  // namespace vorlan

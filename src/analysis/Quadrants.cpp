@@ -39,17 +39,19 @@ struct PairRecord {
     double meanStress = 0.0;
 };
 
-PairRecord pairRecord(const SAdvProbe& probe, int type) {
-    auto fluctuations = workingFluctuations(probe);
+PairRecord pairRecord(const SAdvProbe& probe, int type, Progress& progress) {
     const StressPair& pair = kStressPairComponents[static_cast<std::size_t>(type)];
     PairRecord record;
-    record.a = std::move(fluctuations[static_cast<std::size_t>(pair.first)]);
-    record.b = std::move(fluctuations[static_cast<std::size_t>(pair.second)]);
+    record.a = workingFluctuation(probe, pair.first);
+    progress.breathe();
+    record.b = workingFluctuation(probe, pair.second);
+    progress.breathe();
     record.r = probe.workTables[SAdvProbe::kStresses].GetAt(type).Values();
     record.meanStress = probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(type)];
     for (double& r : record.r) {
         r /= record.meanStress;
     }
+    progress.breathe();
     return record;
 }
 
@@ -87,10 +89,10 @@ std::vector<std::size_t> eventsOf(const PairRecord& record, int bucket, double t
 }
 
 void storePattern(SMultiArray& table, const std::vector<std::size_t>& events, const PairRecord& record,
-                  const std::array<double, 2>& deviations, int lag) {
+                  const std::array<double, 2>& deviations, int lag, Progress& progress) {
     table.Reshape(2, kPatternResolution);
     for (std::size_t c = 0; c < deviations.size(); ++c) {
-        std::vector<double> pattern = averageAround(events, c == 0 ? record.a : record.b, lag);
+        std::vector<double> pattern = averageAround(events, c == 0 ? record.a : record.b, lag, progress);
         // Without any event the pattern is 0 whatever the deviation is.
         for (double& value : pattern) {
             value = events.empty() ? 0.0 : value / deviations[c];
@@ -99,7 +101,8 @@ void storePattern(SMultiArray& table, const std::vector<std::size_t>& events, co
     }
 }
 
-void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSettings& settings, int lag) {
+void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSettings& settings, int lag,
+                   Progress& progress) {
     const StressPair& pair = kStressPairComponents[static_cast<std::size_t>(settings.stressType)];
     const auto deviation = [&](int component) {
         return std::sqrt(probe.statistics[SAdvProbe::kVelocityVariances + static_cast<std::size_t>(component)]);
@@ -109,13 +112,16 @@ void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSet
     std::vector<std::size_t> sweeps;
     if (record.meanStress < 0.0) {
         ejections = eventsOf(record, 1, settings.ejectionThreshold);
+        progress.breathe();
         sweeps = eventsOf(record, 3, settings.sweepThreshold);
     } else if (record.meanStress > 0.0) {
         ejections = eventsOf(record, 0, settings.ejectionThreshold);
+        progress.breathe();
         sweeps = eventsOf(record, 2, settings.sweepThreshold);
     }
-    storePattern(probe.stageTables[SAdvProbe::kEjectionPattern], ejections, record, deviations, lag);
-    storePattern(probe.stageTables[SAdvProbe::kSweepPattern], sweeps, record, deviations, lag);
+    progress.breathe();
+    storePattern(probe.stageTables[SAdvProbe::kEjectionPattern], ejections, record, deviations, lag, progress);
+    storePattern(probe.stageTables[SAdvProbe::kSweepPattern], sweeps, record, deviations, lag, progress);
 }
 
 /// Titles the pattern diagrams. A title that the user gave goes only when the events are interactions.
@@ -147,15 +153,16 @@ void analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progre
     progress.status(kQuadrantStatus);
     progress.breathe();
 
-    prepareStresses(probe);
-    const PairRecord record = pairRecord(probe, settings.stressType);
+    prepareStresses(probe, progress);
+    const PairRecord record = pairRecord(probe, settings.stressType, progress);
     probe.stageTables[SAdvProbe::kContributions].Reshape(kQuadrantBuckets, kShareResolution);
     probe.stageTables[SAdvProbe::kTimes].Reshape(kQuadrantBuckets, kShareResolution);
     if (!record.r.empty()) {
         storeShares(probe, sweepHoles(record.r, record.a, record.b, settings.increment, sizes, kShareResolution),
                     sizes);
     }
-    storePatterns(probe, record, settings, lag);
+    progress.breathe();
+    storePatterns(probe, record, settings, lag, progress);
 
     probe.quadrantStress = static_cast<std::uint32_t>(settings.stressType);
     double* const run = probe.statistics.data() + SAdvProbe::kQuadrantRun;

@@ -12,11 +12,16 @@ namespace {
 constexpr const char* kTitle = "New Coordinate System";
 constexpr double kMetresPerMillimetre = 0.001;
 
-void rotateColumns(SArray& first, SArray& second, int samples, double angle) {
+void rotateColumns(SArray& first, SArray& second, int samples, double angle, Progress& progress) {
     if (angle == 0.0) {
         return;
     }
+    // Less than a millisecond of angles and radii.
+    constexpr int kPart = 1 << 14;
     for (int i = 0; i < samples; ++i) {
+        if (i % kPart == 0) {
+            progress.breathe();
+        }
         double a = first.GetValue(i);
         double b = second.GetValue(i);
         RotatePair(a, b, angle);
@@ -27,7 +32,7 @@ void rotateColumns(SArray& first, SArray& second, int samples, double angle) {
 
 }  // namespace
 
-void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll) {
+void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll, Progress& progress) {
     const int samples = probe.WorkingSamples();
     if (samples == 0) {
         return;
@@ -37,17 +42,17 @@ void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll) {
     SArray& v = velocities.ElementAt(1);
     SArray& w = velocities.ElementAt(2);
     // A sample's turns do not touch other samples, so the pairs may be turned one column after the other.
-    rotateColumns(u, v, samples, heading);
-    rotateColumns(v, w, samples, pitch);
-    rotateColumns(u, w, samples, roll);
+    rotateColumns(u, v, samples, heading, progress);
+    rotateColumns(v, w, samples, pitch, progress);
+    rotateColumns(u, w, samples, roll, progress);
 }
 
-void changeCoordinateSystem(SAdvProbe& probe, const RotationSettings& settings) {
+void changeCoordinateSystem(SAdvProbe& probe, const RotationSettings& settings, Progress& progress) {
     probe.samplingVolumeX = settings.position[0] / kMetresPerMillimetre;
     probe.samplingVolumeY = settings.position[1] / kMetresPerMillimetre;
     probe.samplingVolumeZ = settings.position[2] / kMetresPerMillimetre;
-    rotateProbe(probe, settings.heading, settings.pitch, settings.roll);
-    formStresses(probe);
+    rotateProbe(probe, settings.heading, settings.pitch, settings.roll, progress);
+    formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, kTitle);
     probe.title = kTitle;
     computeProbeMoments(probe);

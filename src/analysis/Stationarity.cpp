@@ -1,38 +1,20 @@
 #include "analysis/Stationarity.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 #include <vector>
 
 #include "analysis/AnalysedSeries.h"
+#include "analysis/MomentEstimators.h"
+#include "analysis/kernels/KernelSet.h"
+#include "analysis/kernels/Pacer.h"
 
 namespace vorlan {
 
 namespace {
 
 constexpr double kBandResolution = 0.0001;
-
-/// Sums of the powers of the deviations of several bands, each in the order of its samples.
-template <std::size_t Lanes>
-struct PowerSums {
-    std::array<double, Lanes> means{};
-    std::array<double, Lanes> squares{};
-    std::array<double, Lanes> cubes{};
-    std::array<double, Lanes> fourths{};
-
-    void add(std::span<const double> samples) {
-        for (const double x : samples) {
-            for (std::size_t b = 0; b < Lanes; ++b) {
-                const double d = x - means[b];
-                squares[b] += d * d;
-                cubes[b] += d * d * d;
-                fourths[b] += d * d * d * d;
-            }
-        }
-    }
-};
 
 double sumOf(std::span<const double> samples, double sum = 0.0) {
     for (const double x : samples) {
@@ -47,19 +29,21 @@ double storeMean(STimeSeries& series, int band, double sum, double samples) {
     return series.bandMeans.GetValue(band);
 }
 
-void storeHigherMoments(STimeSeries& series, int band, double squares, double cubes, double fourths, double samples) {
-    series.bandVariances.SetValue(band, squares / (samples - 1.0));
+void storeHigherMoments(STimeSeries& series, int band, const PowerSums& sums, double samples) {
+    series.bandVariances.SetValue(band, sums.squares / (samples - 1.0));
     const double variance = series.bandVariances.GetValue(band);
-    series.bandSkewness.SetValue(band, cubes / (variance * samples * std::sqrt(variance)));
-    series.bandKurtosis.SetValue(band, fourths / (variance * variance * samples) - 3.0);
+    series.bandSkewness.SetValue(band, sums.cubes / (variance * samples * std::sqrt(variance)));
+    series.bandKurtosis.SetValue(band, sums.fourths / (variance * variance * samples) - 3.0);
 }
 
 void computeBand(STimeSeries& series, int band, std::span<const double> samples) {
     const auto count = static_cast<double>(samples.size());
-    PowerSums<1> sums;
-    sums.means[0] = storeMean(series, band, sumOf(samples), count);
-    sums.add(samples);
-    storeHigherMoments(series, band, sums.squares[0], sums.cubes[0], sums.fourths[0], count);
+    const double mean = storeMean(series, band, sumOf(samples), count);
+    PowerSums sums;
+    for (const double x : samples) {
+        sums.add(x - mean);
+    }
+    storeHigherMoments(series, band, sums, count);
 }
 
 void computeFixedBands(STimeSeries& series, std::span<const double> values, std::size_t bands, Progress& progress) {
@@ -79,28 +63,39 @@ void computeFixedBands(STimeSeries& series, std::span<const double> values, std:
     compute(bands - 1, (bands - 1) * length);
 }
 
+/// Adds the samples to the sums of neighbouring bands, a piece at a time.
+void addSamples(std::span<const double> samples, BandSums& sums, const KernelSet& kernels, Pacer& pacer) {
+    constexpr std::size_t kPiece = std::size_t{1} << 17;
+    for (std::size_t first = 0; first < samples.size(); first += kPiece) {
+        const std::size_t count = std::min(kPiece, samples.size() - first);
+        kernels.powerSums(samples.data() + first, count, sums);
+        pacer.worked(count * kernels.bands);
+    }
+}
+
 void computeCumulativeBands(STimeSeries& series, std::span<const double> values, std::size_t bands,
                             Progress& progress) {
+    const KernelSet& kernels = kernelsInUse();
     const std::size_t length = values.size() / bands;
-    constexpr std::size_t kLanes = 8;
+    Pacer pacer(progress);
     double sum = 0.0;
-    for (std::size_t first = 0; first < bands; first += kLanes) {
-        const std::size_t lanes = std::min(kLanes, bands - first);
+    for (std::size_t first = 0; first < bands; first += kernels.bands) {
+        const std::size_t count = std::min(kernels.bands, bands - first);
         // The bands start alike and run side by side, each with its own mean; one that has ended adds on, unread.
-        PowerSums<kLanes> sums;
-        for (std::size_t b = 0; b < lanes; ++b) {
+        BandSums sums{};
+        for (std::size_t b = 0; b < count; ++b) {
             sum = sumOf(values.subspan((first + b) * length, length), sum);
             sums.means[b] =
                 storeMean(series, static_cast<int>(first + b), sum, static_cast<double>((first + b + 1) * length));
         }
-        sums.add(values.subspan(0, first * length));
-        for (std::size_t b = 0; b < lanes; ++b) {
-            sums.add(values.subspan((first + b) * length, length));
-            storeHigherMoments(series, static_cast<int>(first + b), sums.squares[b], sums.cubes[b], sums.fourths[b],
+        addSamples(values.subspan(0, first * length), sums, kernels, pacer);
+        for (std::size_t b = 0; b < count; ++b) {
+            addSamples(values.subspan((first + b) * length, length), sums, kernels, pacer);
+            storeHigherMoments(series, static_cast<int>(first + b), {sums.squares[b], sums.cubes[b], sums.fourths[b]},
                                static_cast<double>((first + b + 1) * length));
-            progress.breathe();
         }
     }
+    progress.breathe();
 }
 
 }  // namespace

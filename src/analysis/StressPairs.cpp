@@ -1,36 +1,43 @@
 #include "analysis/StressPairs.h"
 
-#include "analysis/MomentEstimators.h"
+#include <algorithm>
+
 #include "analysis/Stresses.h"
 
 namespace vorlan {
 
-std::array<std::vector<double>, SAdvProbe::kComponents> workingFluctuations(const SAdvProbe& probe) {
-    std::array<std::vector<double>, SAdvProbe::kComponents> fluctuations;
+std::vector<double> workingFluctuation(const SAdvProbe& probe, int component) {
     const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
-    const auto samples = static_cast<std::size_t>(probe.WorkingSamples());
-    for (std::size_t c = 0; c < fluctuations.size() && !velocities.IsEmpty(); ++c) {
-        std::vector<double> values = velocities.GetAt(static_cast<int>(c)).Values();
-        if (values.size() < samples) {
-            throw InvalidArgument();
-        }
-        values.resize(samples);
-        fluctuations[c] = deviationsFrom(values, probe.scalarResults[SAdvProbe::kFluctuationMeans + c]);
+    std::vector<double> fluctuation(static_cast<std::size_t>(probe.WorkingSamples()));
+    if (velocities.IsEmpty()) {
+        return fluctuation;
     }
-    return fluctuations;
+    const SArray& column = velocities.GetAt(component);
+    if (static_cast<std::size_t>(column.GetSize()) < fluctuation.size()) {
+        throw InvalidArgument();
+    }
+    const double scale = column.GetScale();
+    const double mean = probe.scalarResults[SAdvProbe::kFluctuationMeans + static_cast<std::size_t>(component)];
+    std::transform(column.begin(), column.begin() + probe.WorkingSamples(), fluctuation.begin(),
+                   [scale, mean](std::int32_t n) { return n * scale - mean; });
+    return fluctuation;
 }
 
-void prepareStresses(SAdvProbe& probe) {
+std::array<std::vector<double>, SAdvProbe::kComponents> workingFluctuations(const SAdvProbe& probe) {
+    return {workingFluctuation(probe, 0), workingFluctuation(probe, 1), workingFluctuation(probe, 2)};
+}
+
+void prepareStresses(SAdvProbe& probe, Progress& progress) {
     const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
     if (stresses.HasNoValues()) {
-        formStresses(probe, StressResolution::StreamwiseU);
+        formStresses(probe, StressResolution::StreamwiseU, progress);
     }
     for (int pair = 0; pair < kStressPairs; ++pair) {
         if (stresses.GetAt(pair).GetSize() != probe.WorkingSamples()) {
             throw InvalidArgument();
         }
     }
-    computeStressStatistics(probe);
+    computeStressStatistics(probe, progress);
 }
 
 }  // namespace vorlan

@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "analysis/Progress.h"
 #include "model/SAdvProbe.h"
 
 namespace vorlan {
@@ -21,9 +22,12 @@ inline constexpr std::array<StressPair, kStressPairs> kStressPairComponents = {{
 /// InvalidArgument when V or W is shorter than U.
 std::array<std::vector<double>, SAdvProbe::kComponents> workingFluctuations(const SAdvProbe& probe);
 
+/// The same of one component.
+std::vector<double> workingFluctuation(const SAdvProbe& probe, int component);
+
 /// What every analysis of the stresses starts with: forms the stress series when the probe has none, all three in the
 /// resolution of U, and computes the variances and mean stresses anew. InvalidArgument when the stress series differ
 /// from the working record in length.
-void prepareStresses(SAdvProbe& probe);
+void prepareStresses(SAdvProbe& probe, Progress& progress);
 
 }  // namespace vorlan

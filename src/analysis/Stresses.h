@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/Progress.h"
 #include "model/SAdvProbe.h"
 
 namespace vorlan {
@@ -14,9 +15,10 @@ enum class StressResolution {
 /// here), the products u'v', u'w', v'w' of every sample in (cm/s)^2, stored truncated; then the stress moments over
 /// the samples that count, the three stress series of the probe with values and moments, and the formed mark.
 /// An empty record gives empty series and non-finite moments.
-void formStresses(SAdvProbe& probe, StressResolution resolution = StressResolution::SamePosition);
+void formStresses(SAdvProbe& probe, StressResolution resolution = StressResolution::SamePosition,
+                  Progress& progress = noProgress());
 
 /// Variances of U, V, W (N - 1) and mean stresses (N) over all samples, into the probe's statistics.
-void computeStressStatistics(SAdvProbe& probe);
+void computeStressStatistics(SAdvProbe& probe, Progress& progress = noProgress());
 
 }  // namespace vorlan

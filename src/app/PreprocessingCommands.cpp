@@ -34,8 +34,8 @@ Outcome CVorl_ADVDoc::EnterZoomMode() {
 }
 
 Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
-    return ChangeSeries([&](SAdvProbe& copy, Progress&) {
-        if (!clip(copy, tStart, tEnd)) {
+    return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+        if (!clip(copy, tStart, tEnd, progress)) {
             port_->refuse(kClippingLimitsWrong);
             return Outcome::Refused;
         }
@@ -44,15 +44,15 @@ Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
 }
 
 Outcome CVorl_ADVDoc::ResetTimeSeries() {
-    return ChangeSeries([](SAdvProbe& copy, Progress&) {
-        resetProbe(copy);
+    return ChangeSeries([](SAdvProbe& copy, Progress& progress) {
+        resetProbe(copy, progress);
         return Outcome::Done;
     });
 }
 
 Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
-    return ChangeSeries([&](SAdvProbe& copy, Progress&) {
-        changeCoordinateSystem(copy, settings);
+    return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+        changeCoordinateSystem(copy, settings, progress);
         return Outcome::Done;
     });
 }
@@ -60,8 +60,8 @@ Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
 Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
     storeEditingSettings(settings, workspace_.settings);
     SetModified();
-    const Outcome outcome = ChangeSeries([&](SAdvProbe& copy, Progress&) {
-        lastEditing_ = editSeries(copy, settings);
+    const Outcome outcome = ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+        lastEditing_ = editSeries(copy, settings, progress);
         return Outcome::Done;
     });
     return outcome;
@@ -80,7 +80,7 @@ Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
             return decision.refusals.empty() ? Outcome::Cancelled : Outcome::Refused;
         }
         filterVelocities(copy, settings, progress);
-        finishFiltration(copy);
+        finishFiltration(copy, progress);
         return Outcome::Done;
     });
 }

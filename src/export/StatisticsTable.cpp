@@ -3,8 +3,6 @@
 #include <array>
 #include <ostream>
 
-#include "analysis/AnalysedSeries.h"
-#include "analysis/MomentEstimators.h"
 #include "analysis/ProbeMoments.h"
 #include "export/FormedStresses.h"
 #include "export/ProbeLoop.h"
@@ -60,10 +58,8 @@ void writeStatisticsOfAll(std::ostream& stream, const SAdvSet& set) {
 
 void writeStressStatisticsTable(std::ostream& stream, const ExportSource& source) {
     const FormedStresses stresses(source.probe);
-    std::array<Moments, 3> moments;
-    for (int pair = 0; pair < 3; ++pair) {
-        moments[static_cast<std::size_t>(pair)] = momentsOf(countedValues(source.probe, stresses.pair(pair)));
-    }
+    const std::array<Moments, 3> moments =
+        countedMoments(source.probe, {&stresses.pair(0), &stresses.pair(1), &stresses.pair(2)});
     writeTable(stream, source,
                {"Table: Statistical Characteristics of Stresses\n\n",
                 "    |(cm/s)^2|  (cm/s)^4  |          |         \n",

@@ -1,7 +1,9 @@
 // Distributions of the velocity components and their moments.
-#include "analysis/AnalysedSeries.h"
+#include <algorithm>
+
 #include "analysis/Histogram.h"
 #include "analysis/MomentEstimators.h"
+#include "analysis/ProbeMoments.h"
 #include "analysis/ResultAxes.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
@@ -82,13 +84,17 @@ TableContent momentsTable(const SAdvProbe& probe, PhysicalValue value) {
         return table;
     }
     table.title = "    Statistical moments of stresses distributions";
+    // The stored block may be older than the marks; it is all there is when the series are not.
     const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
-    for (int pair = 0; pair < static_cast<int>(kStressLabels.size()); ++pair) {
-        // The stored block may be older than the marks; it is all there is when the series are not.
-        const Moments moments = pair < stresses.GetSize() && !stresses.GetAt(pair).IsEmpty()
-                                    ? momentsOf(countedValues(probe, stresses.GetAt(pair)))
-                                    : probe.StressMoments(pair);
-        table.rows.push_back(momentsRow(kStressLabels[static_cast<std::size_t>(pair)], moments));
+    std::array<const SArray*, 3> columns{};
+    for (int pair = 0; pair < std::min(stresses.GetSize(), 3); ++pair) {
+        columns[static_cast<std::size_t>(pair)] = stresses.GetAt(pair).IsEmpty() ? nullptr : &stresses.GetAt(pair);
+    }
+    const std::array<Moments, 3> moments = countedMoments(probe, columns);
+    for (std::size_t pair = 0; pair < columns.size(); ++pair) {
+        table.rows.push_back(momentsRow(kStressLabels[pair], columns[pair] != nullptr
+                                                                 ? moments[pair]
+                                                                 : probe.StressMoments(static_cast<int>(pair))));
     }
     return table;
 }

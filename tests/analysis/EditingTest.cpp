@@ -1,6 +1,7 @@
 #include "analysis/Editing.h"
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include <cmath>
 
@@ -81,6 +82,36 @@ TEST(Editing, SpikesAreRepairedByThresholdAndIntervalAlone) {
     probe.useAllSamples = 0;
     EXPECT_EQ(filterSpikes(probe, 0.025).bad, 3);
     EXPECT_EQ(unitsOf(velocity(probe, 1)), units);
+}
+
+TEST(Editing, SpikesAreDecidedByTheFormulaToTheLastBit) {
+    std::vector<std::int32_t> units;
+    std::uint32_t seed = 1;
+    for (int i = 0; i < 300; ++i) {
+        seed = seed * 1664525U + 1013904223U;
+        units.push_back(static_cast<std::int32_t>(seed >> 20));
+    }
+    SAdvProbe probe = smallRecord(units, std::vector<int>(units.size(), 99));
+    probe.useAllSamples = 0;
+    const double dt = probe.samplingInterval;
+    const auto e = [&](int c, int i) {
+        const SArray& x = velocity(probe, c);
+        return ((x.GetValue(i) - x.GetValue(i - 1)) - (x.GetValue(i + 1) - x.GetValue(i))) / dt;
+    };
+    std::vector<double> accelerations;
+    for (int i = 1; i + 1 < static_cast<int>(units.size()); ++i) {
+        accelerations.push_back(std::sqrt(e(0, i) * e(0, i) + e(1, i) * e(1, i) + e(2, i) * e(2, i)));
+    }
+    // Thresholds at and beside the acceleration of a sample.
+    for (std::size_t k = 0; k < accelerations.size(); k += 7) {
+        for (const double factor : {1.0 - 1e-15, 1.0, 1.0 + 1e-15, 1.0 + 2e-9, 1.0 - 2e-9}) {
+            const double threshold = accelerations[k] / 981.0 * factor;
+            const auto above = std::count_if(accelerations.begin(), accelerations.end(),
+                                             [&](double a) { return 981.0 * threshold < a; });
+            SAdvProbe marked = probe;
+            ASSERT_EQ(filterSpikes(marked, threshold).bad, above) << k << ' ' << factor;
+        }
+    }
 }
 
 TEST(Editing, VelocityTestCountsComponentsAndUsesTheMomentsFromBefore) {

@@ -99,6 +99,29 @@ TEST_P(EverySet, SumsCutIntoPiecesKeepTheirOrder) {
     EXPECT_EQ(bytesOf(squaredDifferences(d, lags, progress_, kernels())), bytesOf(squares));
 }
 
+TEST_P(EverySet, PowerSumsHaveTheBytesOfThePlainLoop) {
+    const Values x = roughSeries(1003, 11);
+    const Values means = roughSeries(kMostBands, 12);
+    BandSums sums{};
+    std::copy(means.begin(), means.end(), sums.means);
+    // In two pieces: the sums go on.
+    kernels().powerSums(x.data(), 402, sums);
+    kernels().powerSums(x.data() + 402, x.size() - 402, sums);
+    ASSERT_LE(kernels().bands, kMostBands);
+    for (std::size_t b = 0; b < kernels().bands; ++b) {
+        double squares = 0.0;
+        double cubes = 0.0;
+        double fourths = 0.0;
+        for (const double value : x) {
+            const double d = value - means[b];
+            squares += d * d;
+            cubes += d * d * d;
+            fourths += d * d * d * d;
+        }
+        EXPECT_EQ(bytesOf({sums.squares[b], sums.cubes[b], sums.fourths[b]}), bytesOf({squares, cubes, fourths})) << b;
+    }
+}
+
 TEST_P(EverySet, TrigonometricSumsFollowTheWrittenPi) {
     constexpr long double kWrittenPi = 3.141592653589;  // the double
     for (const std::size_t length : {1U, 2U, 63U, 64U, 65U, 200U, 1501U}) {

@@ -356,7 +356,7 @@ TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
     }
     for (const InstructionSet set : availableInstructionSets()) {
         for (const int lag : {0, 1, 100, 776, 900}) {
-            const std::vector<double> pattern = averageAround(events, x, lag, kernelsOf(set));
+            const std::vector<double> pattern = averageAround(events, x, lag, noProgress(), kernelsOf(set));
             ASSERT_EQ(pattern.size(), static_cast<std::size_t>(2 * lag + 1));
             for (int tau = -lag; tau <= lag; ++tau) {
                 double sum = 0.0;

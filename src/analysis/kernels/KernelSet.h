@@ -28,6 +28,17 @@ struct FoldedTerms {
     double odd[kFoldedSteps];
 };
 
+/// Bands of one call of KernelSet::powerSums at most.
+inline constexpr std::size_t kMostBands = 24;
+
+/// Means of neighbouring bands and the sums of the powers of the deviations from them.
+struct alignas(64) BandSums {
+    double means[kMostBands];
+    double squares[kMostBands];
+    double cubes[kMostBands];
+    double fourths[kMostBands];
+};
+
 /// Phases of the distances 0..kPhaseSteps / 2 and of the middles of the blocks.
 struct PhaseTables {
     const PhaseRow* steps;
@@ -52,6 +63,11 @@ struct KernelSet {
 
     /// sums[l] += x[events[e] + l] for e = 0..count-1 in order, l = 0..maxLags-1.
     void (*eventSums)(const double* x, const std::size_t* events, std::size_t count, double* sums);
+
+    std::size_t bands;  ///< that one call of powerSums works on
+    /// squares[b] += d d, cubes[b] += (d d) d, fourths[b] += ((d d) d) d with d = x[i] - means[b] for i = 0..count-1 in
+    /// order, b = 0..bands-1.
+    void (*powerSums)(const double* x, std::size_t count, BandSums& sums);
 
     /// sums[s * kFrequencyBlock + f] = sum over all lags of term of series s * cosine (or sine) of frequency f and the
     /// lag, block by block, for series s = 0..series-1; series is 1..kSharedSeries.
