@@ -83,9 +83,9 @@ class FrameKeyboard : public QObject {
         FrameDriver driver;
         driver.simulate();
         QCOMPARE(selector(driver, "Data files")->currentText(), QStringLiteral("test"));
-        driver.frame->resize(700, 500);
+        driver.frame->resize(780, 500);
         QCoreApplication::processEvents();
-        QCOMPARE(driver.frame->width(), 700);
+        QCOMPARE(driver.frame->width(), 780);
         for (const char* name : {"Data files", "Probes", "Physical values", "Active view"}) {
             const QComboBox* box = selector(driver, name);
             QVERIFY2(box->isVisible(), name);

@@ -28,10 +28,12 @@ void fill(QComboBox& selector, const QStringList& texts, int index) {
 
 SelectionBar::SelectionBar(QWidget* parent) : QToolBar(QStringLiteral("Data Selection"), parent) {
     setObjectName(QStringLiteral("SelectionBar"));
-    files_ = addSelector(QStringLiteral("&Data files:"), QStringLiteral("Data files"), 22);
-    probes_ = addSelector(QStringLiteral("Pro&bes:"), QStringLiteral("Probes"), 10);
-    values_ = addSelector(QStringLiteral("Physica&l values:"), QStringLiteral("Physical values"), 10);
-    panes_ = addSelector(QStringLiteral("A&ctive view:"), QStringLiteral("Active view"), 12);
+    files_ = addSelector(QStringLiteral("&Data files:"), QStringLiteral("Data files"), 22, QStringLiteral("record"));
+    probes_ = addSelector(QStringLiteral("Pro&bes:"), QStringLiteral("Probes"), 10, QStringLiteral("Probe 99"));
+    values_ = addSelector(QStringLiteral("Physica&l values:"), QStringLiteral("Physical values"), 10,
+                          QStringLiteral("Velocities"));
+    panes_ =
+        addSelector(QStringLiteral("A&ctive view:"), QStringLiteral("Active view"), 12, QStringLiteral("Right bottom"));
     values_->addItems({QStringLiteral("Velocities"), QStringLiteral("Stresses")});
     for (const char* text : kPaneTexts) {
         panes_->addItem(QString::fromUtf8(text));
@@ -44,19 +46,22 @@ SelectionBar::SelectionBar(QWidget* parent) : QToolBar(QStringLiteral("Data Sele
     connect(panes_, &QComboBox::activated, this, [this](int index) { Q_EMIT paneChosen(static_cast<Pane>(index)); });
 }
 
-QComboBox* SelectionBar::addSelector(const QString& label, const QString& toolTip, int characters) {
+QComboBox* SelectionBar::addSelector(const QString& label, const QString& toolTip, int characters,
+                                     const QString& shortest) {
     auto* selector = new QComboBox(this);
     selector->setObjectName(toolTip);
     selector->setToolTip(toolTip);
     selector->setAccessibleName(toolTip);
     selector->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     selector->setMinimumContentsLength(characters);
-    // In a narrow window a selector shrinks before the bar hides it.
-    selector->setMinimumWidth(selector->sizeHint().width() / 2);
+    // In a narrow window a selector shrinks to such a text before the bar hides it.
+    const QFontMetrics metrics(selector->font());
+    selector->setMinimumWidth(selector->sizeHint().width() - characters * metrics.horizontalAdvance(QLatin1Char('X')) +
+                              metrics.horizontalAdvance(shortest));
     // A caption never stands without its selector.
     auto* field = new QWidget(this);
     auto* row = new QHBoxLayout(field);
-    row->setContentsMargins(6, 0, 6, 0);
+    row->setContentsMargins(4, 0, 4, 0);
     row->setSpacing(4);
     auto* caption = new QLabel(label, field);
     caption->setBuddy(selector);

@@ -25,7 +25,8 @@ class SelectionBar : public QToolBar {
     void paneChosen(vorlan::Pane pane);
 
   private:
-    QComboBox* addSelector(const QString& label, const QString& toolTip, int characters);
+    /// characters: the width that is wanted; shortest: the text that must fit in any case.
+    QComboBox* addSelector(const QString& label, const QString& toolTip, int characters, const QString& shortest);
 
     QComboBox* files_;
     QComboBox* probes_;
