@@ -79,11 +79,15 @@ class CVorl_ADVDoc {
     const SAdvProbe& Probe() const;
     /// Index of the tab to show: the document's when valid, else the probe's, else 0; -1 without tabs.
     int ShownTab() const;
-    /// Stage shown in the panes, from the stage code; Pre-Processing while there is none.
+    /// Code of the stage shown in the panes: that of the shown tab, so that tab and panes agree in every workspace,
+    /// or the stored one while the tab has no known stage.
+    int StageCode() const;
+    /// The stage shown in the panes; Pre-Processing while there is none.
     Stage CurrentStage() const;
     PhysicalValue CurrentValue() const;
     Pane ActivePane() const;
-    bool ShowsTable() const { return workspace_.settings.displaySwitch == 1; }
+    /// Whether the right bottom pane shows its table where it has both a table and a diagram.
+    bool ShowsTable() const;
 
     /// Selects a data file and its first probe.
     void SelectFile(int index);

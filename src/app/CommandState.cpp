@@ -43,7 +43,7 @@ bool holds(const CVorl_ADVDoc& document, Need need) {
         case Need::AllSamples:
             return document.HasProbe() && document.Probe().UsesAllSamples();
         case Need::PreProcessing:
-            return document.Settings().choiceA == 1;
+            return document.StageCode() == 1;
         case Need::SpectralStage:
             return document.CurrentStage() == Stage::Spectral;
         case Need::StationarityDone:

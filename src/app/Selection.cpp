@@ -52,8 +52,28 @@ int CVorl_ADVDoc::ShownTab() const {
     return ofStage >= 0 ? ofStage : 0;
 }
 
+int CVorl_ADVDoc::StageCode() const {
+    const int tab = ShownTab();
+    if (tab >= 0) {
+        const std::uint32_t stage = Probe().tabItems.GetAt(tab).imageIndex;
+        if (stage < static_cast<std::uint32_t>(kStageCount)) {
+            return static_cast<int>(stage) + 1;
+        }
+    }
+    return workspace_.settings.choiceA;
+}
+
+bool CVorl_ADVDoc::ShowsTable() const {
+    const int code = StageCode();
+    if (code != workspace_.settings.choiceA && code >= 1 && code <= kStageCount) {
+        // Tab and switch were stored for different stages: the switch of the shown stage is its own.
+        return kDisplaySwitch[static_cast<std::size_t>(code - 1)] == 1;
+    }
+    return workspace_.settings.displaySwitch == 1;
+}
+
 Stage CVorl_ADVDoc::CurrentStage() const {
-    const int code = workspace_.settings.choiceA;
+    const int code = StageCode();
     return code >= 1 && code <= kStageCount ? static_cast<Stage>(code - 1) : Stage::PreProcessing;
 }
 
@@ -132,6 +152,9 @@ void CVorl_ADVDoc::SelectActivePane(Pane pane) {
 }
 
 void CVorl_ADVDoc::ShowTable(bool on) {
+    if (StageCode() != workspace_.settings.choiceA) {
+        StoreStageOfTab(ShownTab());
+    }
     workspace_.settings.displaySwitch = on ? 1 : 0;
     Tell(Change::Selection);
 }

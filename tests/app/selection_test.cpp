@@ -125,6 +125,20 @@ TEST_F(Selection, IndexesOutOfRangeCountAsNoSelection) {
     EXPECT_EQ(document.Settings().activeFile, 7);
 }
 
+TEST_F(Selection, TabAndStageAgreeWhateverAWorkspaceHolds) {
+    simulateAndSelect(document);
+    ASSERT_EQ(document.StationarityAnalysis({BandMode::Fixed, 4}), Outcome::Done);
+    // The tab was put back without its stage.
+    document.MutableSettings().activeItem = 0;
+    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing);
+    EXPECT_TRUE(document.ShowsTable());
+    EXPECT_TRUE(enabled(Command::ResetTimeSeries));
+    EXPECT_EQ(document.Settings().choiceA, 2) << "looking changes nothing";
+    document.ShowTable(false);
+    EXPECT_FALSE(document.ShowsTable());
+    EXPECT_EQ(document.Settings().choiceA, 1);
+}
+
 TEST_F(Selection, NavigationDoesNotModifyTheWorkspace) {
     simulateAndSelect(document);
     const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "navigation.avp";
