@@ -34,12 +34,17 @@ void squaredDifferencesOf(const double* d, std::size_t firstLag, std::size_t fir
     const double* y = d - firstLag;
     for (std::size_t p = first; p < last; ++p) {
         const Lanes v = load(d + p);
+        // Half the differences on the adders, half on the multipliers: each unit has a stretch of its own, taking turns
+        // they wait for each other.
 #pragma GCC unroll 16
-        for (std::size_t r = 0; r < R; r += 2) {
-            const Lanes even = difference<false>(v, spread(*(y + p - r * kLanes)));
-            sum[r] += even * even;
-            const Lanes odd = difference<true>(v, spread(*(y + p - (r + 1) * kLanes)));
-            sum[r + 1] += odd * odd;
+        for (std::size_t r = 0; r < R / 2; ++r) {
+            const Lanes w = difference<false>(v, spread(*(y + p - r * kLanes)));
+            sum[r] += w * w;
+        }
+#pragma GCC unroll 16
+        for (std::size_t r = R / 2; r < R; ++r) {
+            const Lanes w = difference<true>(v, spread(*(y + p - r * kLanes)));
+            sum[r] += w * w;
         }
     }
 #pragma GCC unroll 16
