@@ -4,6 +4,7 @@
 
 #include "batch/BatchError.h"
 #include "export/WriteExport.h"
+#include "model/Errors.h"
 
 namespace vorlan {
 
@@ -48,7 +49,12 @@ std::string exportedText(const CVorl_ADVDoc& document, const ExportRequest& requ
                   request.all};
     job.options.holeIncrement = document.Settings().holeIncrement;
     std::ostringstream stream;
-    writeExport(stream, request.kind, job);
+    try {
+        writeExport(stream, request.kind, job);
+    } catch (const InvalidArgument& error) {
+        // Columns that should be of one length are not: the caller knows of which workspace.
+        throw refusal(error.what());
+    }
     return std::move(stream).str();
 }
 

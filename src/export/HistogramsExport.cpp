@@ -18,10 +18,11 @@ void writeHistograms(std::ostream& stream, const ExportSource& source, const Exp
     }
     for (int k = 0; k < source.probe.seriesU.histogram.GetSize(); ++k) {
         for (int c = 0; c < SAdvProbe::kComponents; ++c) {
+            const double density = source.probe.Series(c).histogram.GetValue(k);
             if (options.time) {
-                rows.value(centres[static_cast<std::size_t>(c)].at(static_cast<std::size_t>(k)), 2);
+                rows.value(centres[static_cast<std::size_t>(c)][static_cast<std::size_t>(k)], 2);
             }
-            rows.value(source.probe.Series(c).histogram.GetValue(k), 2);
+            rows.value(density, 2);
         }
         rows.end();
     }

@@ -1,6 +1,9 @@
 #include "stages/PaneDescription.h"
 
+#include <stdexcept>
+
 #include "model/DefaultFrames.h"
+#include "model/Errors.h"
 #include "stages/StagePanes.h"
 
 namespace vorlan {
@@ -23,8 +26,13 @@ PaneContent describePane(const PaneRequest& request) {
     if (!isStage(request.stage)) {
         return {};
     }
-    return kDescribers[static_cast<std::size_t>(request.stage)](
-        request, probeAt(request.workspace.dataFiles, request.file, request.probe));
+    try {
+        return kDescribers[static_cast<std::size_t>(request.stage)](
+            request, probeAt(request.workspace.dataFiles, request.file, request.probe));
+    } catch (const std::logic_error&) {
+        // A pane is described while it is painted, where nobody could tell the user.
+        return PaneMessage{InvalidArgument().what()};
+    }
 }
 
 const SAdvProbe* probeAt(const SAdvSet& set, int file, int probe) {

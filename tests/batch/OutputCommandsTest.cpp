@@ -56,6 +56,30 @@ TEST_F(OutputCommandsTest, ProbesAndResultsThatAreNotThereAreRefused) {
     EXPECT_FALSE(std::filesystem::exists(path("a.png")));
 }
 
+TEST_F(OutputCommandsTest, ColumnsThatDoNotFitTogetherAreRefusedByTheNameOfTheWorkspace) {
+    Workspace workspace = openWorkspace(analysed());
+    SAdvProbe& damaged = workspace.dataFiles.files.ElementAt(0).probes.ElementAt(0);
+    damaged.seriesV.spectrum = SArray();
+    damaged.workTables[0].ElementAt(2) = SArray();
+    const std::string input = path("damaged.avp");
+    saveWorkspace(workspace, input);
+    const std::string recipe = write(
+        "e.toml", "probes = [1]\n[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path("e.dat") + "\"\n");
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"export", "spectral", "--out", path("e.dat"), input},
+          {"export", "velocities", "--out", path("e.dat"), input},
+          {"run", "--recipe", recipe, input}}) {
+        const Result result = run(arguments);
+        EXPECT_EQ(result.status, 1) << arguments[1];
+        EXPECT_TRUE(holds(result.err, input + ": "));
+        EXPECT_TRUE(holds(result.err, "Encountered an improper argument."));
+    }
+    EXPECT_FALSE(std::filesystem::exists(path("e.dat")));
+    for (const char* stage : {"pre-processing", "spectral", "vectors"}) {
+        done({"render", "--stage", stage, "--size", "320x240", "--out", path("e.png"), input});
+    }
+}
+
 TEST_F(OutputCommandsTest, RenderWritesTheFormatOfTheExtension) {
     const std::string input = analysed();
     const std::string before = read(input);

@@ -278,6 +278,19 @@ TEST_F(ResultExports, OfProbesWithoutResultsHaveTheirHeaderOnly) {
     }
 }
 
+TEST_F(ResultExports, OfColumnsThatDoNotFitTogetherAreRefused) {
+    ExportOptions options;
+    for (const bool time : {false, true}) {
+        options.time = time;
+        probe_.seriesV.histogram = SArray();
+        EXPECT_THROW(exported(ExportKind::Histograms, options), InvalidArgument);
+        probe_.seriesW.bandKurtosis = SArray();
+        EXPECT_THROW(exported(ExportKind::Stationarity, options), InvalidArgument);
+        probe_.stageTables[0].ElementAt(4) = SArray();
+        EXPECT_THROW(exported(ExportKind::Contributions, options), InvalidArgument);
+    }
+}
+
 TEST_F(ResultExports, RefuseProbesThatDoNotExist) {
     SAdvSet set;
     std::ostringstream stream;

@@ -147,6 +147,46 @@ TEST_F(ResultPanes, AxesOfWhatIsNeverNegativeBeginAtZeroUnlessTheUserSaysElse) {
     EXPECT_EQ(diagram(Stage::Histograms, Pane::LeftTop).frame.yMin, -2.0);
 }
 
+TEST_F(ResultPanes, DamagedResultsNeverLeaveAnExceptionToThePainter) {
+    formAnalysedSeries(probe());
+    analyseStationarity(probe(), {BandMode::Fixed, 10}, progress);
+    analyseDistributions(probe(), {8, 90, true}, progress);
+    analyseSpectra(probe(), {40, 1, 0}, progress);
+    analyseCrossSpectra(probe(), progress);
+    analyseQuadrants(probe(), {}, progress);
+    const auto describeAll = [this] {
+        for (int stage = 0; stage < kStageCount; ++stage) {
+            for (int number = 0; number <= kPaneCount; ++number) {
+                for (const PhysicalValue value : {PhysicalValue::Velocities, kStresses}) {
+                    for (const bool showTable : {false, true}) {
+                        EXPECT_NO_THROW(pane(static_cast<Stage>(stage), static_cast<Pane>(number), value, showTable))
+                            << "stage " << stage << " pane " << number;
+                    }
+                }
+            }
+        }
+    };
+    const SAdvProbe whole = probe();
+    const auto damage = [](SMultiArray& table, int column) {
+        if (column < table.GetSize()) {
+            table.ElementAt(column) = SArray();
+        }
+    };
+    for (const int column : {0, 1, 2}) {
+        for (SMultiArray& table : probe().workTables) {
+            damage(table, column);
+        }
+        describeAll();
+        for (SMultiArray& table : probe().stageTables) {
+            damage(table, column);
+        }
+        probe().Series(column) = STimeSeries();
+        describeAll();
+        probe() = whole;
+    }
+    EXPECT_EQ(message(Stage::Stationarity, static_cast<Pane>(kPaneCount)), "Encountered an improper argument.");
+}
+
 TEST_F(ResultPanes, WithoutResultsThereIsNothingToPlot) {
     for (const Stage stage : {Stage::Stationarity, Stage::Histograms, Stage::Quadrants, Stage::CrossSpectral}) {
         for (const Pane p : kPanes) {
