@@ -21,6 +21,18 @@ struct alignas(64) PhaseRow {
     double sine[kFrequencyBlock];
 };
 
+/// The circle in 2 L places: cosine and sine of pi m / L for m = 0..turn-1, and what the written constant of pi lacks
+/// per unit of a product i k, divided by L.
+struct PhaseCircle {
+    struct Point {
+        double cosine;
+        double sine;
+    };
+    const Point* points;
+    std::size_t turn;
+    double lack;
+};
+
 /// The terms of one block of lags by their distance t from its middle m = b * kPhaseSteps + kPhaseSteps / 2:
 /// a[m + t] + a[m - t] and a[m + t] - a[m - t], a[m] once, and beyond the block nothing.
 struct FoldedTerms {
@@ -68,6 +80,10 @@ struct KernelSet {
     /// squares[b] += d d, cubes[b] += (d d) d, fourths[b] += ((d d) d) d with d = x[i] - means[b] for i = 0..count-1 in
     /// order, b = 0..bands-1.
     void (*powerSums)(const double* x, std::size_t count, BandSums& sums);
+
+    /// The phases of frequencies first..first+kFrequencyBlock-1 and lags start, start + stride, ... (rows of them).
+    void (*phaseRows)(const PhaseCircle& circle, std::size_t first, std::size_t start, std::size_t stride,
+                      std::size_t rows, PhaseRow* table);
 
     /// sums[s * kFrequencyBlock + f] = sum over all lags of term of series s * cosine (or sine) of frequency f and the
     /// lag, block by block, for series s = 0..series-1; series is 1..kSharedSeries.

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <array>
+#include <span>
 #include <vector>
 
 #include "analysis/kernels/KernelSet.h"
 
 namespace vorlan {
 
-/// Cosines and sines of the phases kPi i k / L for integers i, k and one length L.
+/// Cosines and sines of the phases kPi i k / L for integers i, k and one length L; i k stays below 2^53.
 ///
 /// The phase is reduced with integers, m = i k mod 2L, and looked up; what the written constant kPi lacks to pi
 /// grows with the product i k and is put back by the first terms of an addition theorem. So a phase of some ten
@@ -17,25 +17,15 @@ class PhaseTable {
     /// InvalidArgument for length 0.
     explicit PhaseTable(std::size_t length);
 
-    /// The phases of frequencies first..first+kFrequencyBlock-1 and lags start, start + stride, ... (rows of them).
-    void fill(std::size_t first, std::size_t start, std::size_t stride, std::size_t rows, PhaseRow* table) const;
+    /// What KernelSet::phaseRows looks up in; good while the table is.
+    PhaseCircle circle() const { return {points_.data(), points_.size(), lack_}; }
 
-    double cosine(std::size_t frequency, std::size_t lag) const;
+    /// sum over k of terms[k] cos(kPi i k / L), k ascending.
+    double cosineSum(std::span<const double> terms, std::size_t frequency) const;
 
   private:
-    struct Point {
-        double cosine;
-        double sine;
-    };
-    using Places = std::array<std::size_t, kFrequencyBlock>;
-
-    Places placesOf(std::size_t first, std::size_t lag) const;
-    void advance(Places& places, const Places& step) const;
-    void lookUp(const Places& places, std::size_t first, std::size_t lag, PhaseRow& row) const;
-
-    std::size_t turn_;           // 2L
-    double lack_;                // (pi - kPi) / L
-    std::vector<Point> circle_;  // of pi m / L, m = 0..2L-1
+    double lack_;                             // (pi - kPi) / L
+    std::vector<PhaseCircle::Point> points_;  // of pi m / L, m = 0..2L-1
 };
 
 }  // namespace vorlan

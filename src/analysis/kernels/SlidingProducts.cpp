@@ -17,8 +17,11 @@ std::vector<double> slidingProducts(std::span<const double> x, std::span<const d
     // A register may start at the last x; a block's later lags start before the first y and end behind the last.
     std::vector<double> paddedX(x.size() + kernels.lanes, 0.0);
     std::copy(x.begin(), x.end(), paddedX.begin());
+    progress.breathe();
     std::vector<double> paddedY(y.size() + 2 * block, 0.0);
     std::copy(y.begin(), y.end(), paddedY.begin() + static_cast<std::ptrdiff_t>(block));
+
+    progress.breathe();
 
     std::vector<double> result(lags);
     std::vector<double> sums(block);

@@ -26,7 +26,8 @@ template <std::size_t U, bool Sine, std::size_t R>
     for (std::size_t u = 0; u < U; ++u) {
 #pragma GCC unroll 4
         for (std::size_t r = 0; r < R; ++r) {
-            even[u][r] = Lanes{};
+            // At the middle itself the cosine is 1 and the sine 0.
+            even[u][r] = Lanes{} + spread(units[u].terms->even[0]);
             odd[u][r] = Lanes{};
             terms[u][r] = units[u].terms;
             if constexpr (U > 1 && kLanes == 8) {
@@ -34,7 +35,7 @@ template <std::size_t U, bool Sine, std::size_t R>
             }
         }
     }
-    for (std::size_t t = 0; t < kFoldedSteps; ++t) {
+    for (std::size_t t = 1; t < kFoldedSteps; ++t) {
         Lanes wave[R];
 #pragma GCC unroll 4
         for (std::size_t r = 0; r < R; ++r) {

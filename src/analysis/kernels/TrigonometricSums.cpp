@@ -31,7 +31,8 @@ std::vector<FoldedTerms> folded(std::span<const double> terms) {
 }
 
 Series trigonometricSums(std::span<const std::vector<double>> terms, const PhaseTable& table, std::size_t frequencies,
-                         Progress& progress, BlockSums blockSums) {
+                         Progress& progress, const KernelSet& kernels, BlockSums blockSums) {
+    const PhaseCircle circle = table.circle();
     Series result(terms.size(), std::vector<double>(frequencies));
     if (terms.empty()) {
         return result;
@@ -51,8 +52,8 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, const Phase
     std::vector<double> sums(kSharedSeries * kFrequencyBlock);
     Pacer pacer(progress);
     for (std::size_t first = 0; first < frequencies; first += kFrequencyBlock) {
-        table.fill(first, 0, 1, steps.size(), steps.data());
-        table.fill(first, kPhaseSteps / 2, kPhaseSteps, middles.size(), middles.data());
+        kernels.phaseRows(circle, first, 0, 1, steps.size(), steps.data());
+        kernels.phaseRows(circle, first, kPhaseSteps / 2, kPhaseSteps, middles.size(), middles.data());
         const std::size_t held = std::min(kFrequencyBlock, frequencies - first);
         for (std::size_t s = 0; s < series.size(); s += kSharedSeries) {
             const std::size_t shared = std::min(kSharedSeries, series.size() - s);
@@ -73,14 +74,10 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, const Phase
 Series cosineSums(std::span<const std::vector<double>> terms, std::size_t length, std::size_t frequencies,
                   Progress& progress, const KernelSet& kernels) {
     const PhaseTable table(length);
-    Series result = trigonometricSums(terms, table, frequencies, progress, kernels.cosineSums);
+    Series result = trigonometricSums(terms, table, frequencies, progress, kernels, kernels.cosineSums);
     for (const std::size_t i : {std::size_t{0}, length}) {
         for (std::size_t s = 0; s < terms.size() && i < frequencies; ++s) {
-            double sum = 0.0;
-            for (std::size_t k = 0; k < terms[s].size(); ++k) {
-                sum += terms[s][k] * table.cosine(i, k);
-            }
-            result[s][i] = sum;
+            result[s][i] = table.cosineSum(terms[s], i);
         }
     }
     return result;
@@ -88,7 +85,7 @@ Series cosineSums(std::span<const std::vector<double>> terms, std::size_t length
 
 Series sineSums(std::span<const std::vector<double>> terms, std::size_t length, std::size_t frequencies,
                 Progress& progress, const KernelSet& kernels) {
-    return trigonometricSums(terms, PhaseTable(length), frequencies, progress, kernels.sineSums);
+    return trigonometricSums(terms, PhaseTable(length), frequencies, progress, kernels, kernels.sineSums);
 }
 
 }  // namespace vorlan
