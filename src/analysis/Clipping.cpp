@@ -60,7 +60,7 @@ bool clip(SAdvProbe& probe, double tStart, double tEnd, Progress& progress) {
     cut(probe.sampleFlags, i0, i1);
     formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, "Sampled Velocities (Zoom)");
-    computeProbeMoments(probe);
+    computeProbeMoments(probe, progress);
     return true;
 }
 
@@ -71,6 +71,7 @@ void enterZoomMode(SAdvProbe& probe) {
 
 void resetProbe(SAdvProbe& probe, Progress& progress) {
     probe.Reset();
+    progress.breathe();
     formStresses(probe, StressResolution::SamePosition, progress);
     probe.zoomMode = 0;
     setRecordTitle(probe, "Sampled Velocities");
@@ -78,7 +79,7 @@ void resetProbe(SAdvProbe& probe, Progress& progress) {
         frame.xMinMode = 1;
         frame.xMin = 0.0;
     });
-    computeProbeMoments(probe);
+    computeProbeMoments(probe, progress);
 }
 
 }  // namespace vorlan

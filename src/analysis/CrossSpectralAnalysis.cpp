@@ -38,7 +38,11 @@ Functions halfSums(const SMultiArray& forward, const SMultiArray& backward, doub
 }
 
 void computeCovariances(SAdvProbe& probe, int lags, Progress& progress) {
-    const auto fluctuations = workingFluctuations(probe);
+    std::array<std::vector<double>, SAdvProbe::kComponents> fluctuations;
+    for (std::size_t c = 0; c < fluctuations.size(); ++c) {
+        fluctuations[c] = workingFluctuation(probe, static_cast<int>(c));
+        progress.breathe();
+    }
     Functions forward;
     Functions backward;
     for (const StressPair& pair : kStressPairComponents) {

@@ -71,14 +71,18 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         SArray& column = velocities.ElementAt(component);
-        column.StoreValues(filtered(column.Values(), weights, settings.type, progress));
+        const std::vector<double> samples = column.Values();
+        progress.breathe();
+        const std::vector<double> outputs = filtered(samples, weights, settings.type, progress);
+        progress.breathe();
+        column.StoreValues(outputs);
     }
 }
 
 void finishFiltration(SAdvProbe& probe, Progress& progress) {
     setRecordTitle(probe, "Filtered time series");
     formStresses(probe, StressResolution::SamePosition, progress);
-    computeProbeMoments(probe);
+    computeProbeMoments(probe, progress);
 }
 
 }  // namespace vorlan

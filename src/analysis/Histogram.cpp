@@ -51,6 +51,9 @@ class CumulativeCounts {
         return first < end ? totals_[static_cast<std::size_t>(end)] - totals_[static_cast<std::size_t>(first)] : 0;
     }
 
+    /// Smallest and largest sample, where the resolution is positive.
+    Extremes extremes() const { return {values_.front(), values_.back()}; }
+
   private:
     void add(std::int32_t units, double scale, std::int64_t count) {
         values_.push_back(units * scale);
@@ -71,10 +74,13 @@ void computeHistogram(STimeSeries& series, int grades) {
     if (grades < 1 || grades > kMaximumGrades) {
         throw InvalidArgument();
     }
-    const auto [minimum, maximum] = extremesOf(series.values);
+    if (series.values.IsEmpty()) {
+        throw InvalidArgument();
+    }
+    const CumulativeCounts counts(series.values);
+    const auto [minimum, maximum] = series.values.GetScale() > 0.0 ? counts.extremes() : extremesOf(series.values);
     const double width = (maximum - minimum) / grades;
     const double samples = series.values.GetSize();
-    const CumulativeCounts counts(series.values);
     series.histogram.SetScale(series.values.GetScale());
     series.grades = static_cast<std::uint32_t>(grades);
     for (int k = 0; k < grades; ++k) {

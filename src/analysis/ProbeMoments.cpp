@@ -36,11 +36,12 @@ std::array<Moments, 3> probeMoments(const SAdvProbe& probe) {
     return moments;
 }
 
-void computeProbeMoments(SAdvProbe& probe) {
+void computeProbeMoments(SAdvProbe& probe, Progress& progress) {
     const std::array<Moments, 3> moments = probeMoments(probe);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         probe.SetVelocityMoments(component, moments[static_cast<std::size_t>(component)]);
     }
+    progress.breathe();
 }
 
 }  // namespace vorlan

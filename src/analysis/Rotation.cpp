@@ -55,7 +55,7 @@ void changeCoordinateSystem(SAdvProbe& probe, const RotationSettings& settings, 
     formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, kTitle);
     probe.title = kTitle;
-    computeProbeMoments(probe);
+    computeProbeMoments(probe, progress);
 }
 
 }  // namespace vorlan

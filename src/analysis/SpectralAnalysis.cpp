@@ -46,7 +46,9 @@ void analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress
         series.unitSelector = static_cast<std::uint32_t>(run.unitSelector);
 
         const std::vector<double> samples = series.values.Values();
+        progress.breathe();
         series.moments = momentsOf(samples);
+        progress.breathe();
         const std::vector<double> deviations = deviationsFrom(samples, series.moments.mean);
         advance(5);
         progress.breathe();

@@ -109,6 +109,7 @@ void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progr
     }
     series.bands = static_cast<std::uint32_t>(bands);
     const std::vector<double> values = series.values.Values();
+    progress.breathe();
     const auto count = static_cast<std::size_t>(bands);
     if (mode == BandMode::Cumulative) {
         computeCumulativeBands(series, values, count, progress);

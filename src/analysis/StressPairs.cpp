@@ -23,10 +23,6 @@ std::vector<double> workingFluctuation(const SAdvProbe& probe, int component) {
     return fluctuation;
 }
 
-std::array<std::vector<double>, SAdvProbe::kComponents> workingFluctuations(const SAdvProbe& probe) {
-    return {workingFluctuation(probe, 0), workingFluctuation(probe, 1), workingFluctuation(probe, 2)};
-}
-
 void prepareStresses(SAdvProbe& probe, Progress& progress) {
     const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
     if (stresses.HasNoValues()) {

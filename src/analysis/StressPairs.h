@@ -18,11 +18,8 @@ inline constexpr int kStressPairs = 3;
 /// u'v', u'w', v'w'.
 inline constexpr std::array<StressPair, kStressPairs> kStressPairComponents = {{{0, 1}, {0, 2}, {1, 2}}};
 
-/// Working velocities less the probe's fluctuation means, cm/s; three empty series for a record without columns.
-/// InvalidArgument when V or W is shorter than U.
-std::array<std::vector<double>, SAdvProbe::kComponents> workingFluctuations(const SAdvProbe& probe);
-
-/// The same of one component.
+/// Working velocities of one component less the probe's fluctuation mean, cm/s; empty for a record without columns.
+/// InvalidArgument when the column is shorter than U.
 std::vector<double> workingFluctuation(const SAdvProbe& probe, int component);
 
 /// What every analysis of the stresses starts with: forms the stress series when the probe has none, all three in the

@@ -13,7 +13,7 @@ Outcome CVorl_ADVDoc::ChangeSeries(const ProbeOperation& change) {
             const Outcome changed = change(copy, progress);
             if (changed == Outcome::Done) {
                 ApplyChangeRule(copy, progress);
-                computeProbeMoments(copy);
+                computeProbeMoments(copy, progress);
             }
             return changed;
         },

@@ -1,10 +1,12 @@
 #include <iostream>
 
+#include "app/ProcessMemory.h"
 #include "batch/BatchError.h"
 #include "batch/BatchProgram.h"
 #include "batch/Interrupt.h"
 
 int main(int argc, char** argv) {
+    vorlan::keepFreedMemory();
     vorlan::installInterruptHandler();
     const int status = vorlan::runBatch({argv + 1, argv + argc}, std::cout, std::cerr);
     if (status == static_cast<int>(vorlan::ExitStatus::Interrupted)) {

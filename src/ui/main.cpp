@@ -1,5 +1,6 @@
 #include <cstdio>
 
+#include "app/ProcessMemory.h"
 #include "ui/CVorl_ADVApp.h"
 
 int main(int argc, char** argv) {
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
         std::fputs(line.message->toLocal8Bit().constData(), line.status == 0 ? stdout : stderr);
         return line.status;
     }
+    vorlan::keepFreedMemory();
     vorlan::CVorl_ADVApp application(argc, argv);
     application.start(line.workspace);
     return vorlan::CVorl_ADVApp::exec();
