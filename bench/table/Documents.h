@@ -1,0 +1,54 @@
+#pragma once
+
+#include <algorithm>
+
+#include "app/CVorl_ADVDoc.h"
+#include "table/Measure.h"
+
+namespace bench {
+
+/// A port that measures the longest processor time between two of its calls.
+class GapPort : public vorlan::SilentPort {
+  public:
+    /// Done stages are not repeated.
+    bool confirm(const std::string&) override { return false; }
+    void beginRun(int) override {
+        last_ = threadSeconds();
+        running_ = true;
+    }
+    void endRun() override {
+        note();
+        running_ = false;
+    }
+    bool pump() override {
+        note();
+        ++breaths_;
+        return true;
+    }
+
+    void forget() {
+        longest_ = 0.0;
+        breaths_ = 0;
+    }
+    double longestGap() const { return longest_; }
+    int breaths() const { return breaths_; }
+
+  private:
+    void note() {
+        const double now = threadSeconds();
+        if (running_) {
+            longest_ = std::max(longest_, now - last_);
+        }
+        last_ = now;
+    }
+
+    double last_ = 0.0;
+    double longest_ = 0.0;
+    int breaths_ = 0;
+    bool running_ = false;
+};
+
+/// A document with one selected probe of so many samples: velocities, scores, compass and pressure.
+void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples);
+
+}  // namespace bench

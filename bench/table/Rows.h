@@ -1,0 +1,22 @@
+#pragma once
+
+#include "table/Measure.h"
+
+namespace bench {
+
+/// Kernels of every instruction set against the peak of the registers and against plain loops.
+void kernelRows(Table& table);
+/// Spectra, co- and quadrature spectra against loops of cosines; whole spectral analysis of a probe.
+void spectralRows(Table& table);
+/// Quadrants against plain loops.
+void quadrantRows(Table& table);
+/// Document commands on a record of a million samples: time, and the longest time without a breath.
+void millionRows(Table& table);
+/// Opening, saving, exporting.
+void fileRows(Table& table);
+/// Painting four panes of a million samples.
+void paintRows(Table& table);
+/// Start of the window, opening a large workspace to drawn panes.
+void startRows(Table& table);
+
+}  // namespace bench
