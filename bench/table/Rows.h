@@ -16,6 +16,8 @@ void millionRows(Table& table);
 void fileRows(Table& table);
 /// Painting four panes of a million samples.
 void paintRows(Table& table);
+/// The command line over several workspaces.
+void jobRows(Table& table);
 /// Start of the window, opening a large workspace to drawn panes.
 void startRows(Table& table);
 

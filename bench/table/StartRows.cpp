@@ -18,8 +18,9 @@ CVorl_ADVApp& startToolkit() {
     static int argc = 1;
     static char name[] = "vorlan";
     static char* argv[] = {name, nullptr};
-    static CVorl_ADVApp app(argc, argv);
-    return app;
+    // Never destroyed: the toolkit must not outlive the end of the program in an unknown order.
+    static auto* app = new CVorl_ADVApp(argc, argv);
+    return *app;
 }
 
 void startRows(Table& table) {

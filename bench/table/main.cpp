@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     using namespace bench;
     const std::pair<const char*, void (*)(Table&)> groups[] = {
         {"kernels", kernelRows}, {"spectral", spectralRows}, {"quadrants", quadrantRows}, {"million", millionRows},
-        {"files", fileRows},     {"paint", paintRows},       {"start", startRows},
+        {"files", fileRows},     {"paint", paintRows},       {"start", startRows},        {"jobs", jobRows},
     };
     vorlan::keepFreedMemory();
     Table table;

@@ -30,18 +30,39 @@ inline void advance(const PhaseCircle& circle, PhasePlaces& places, const PhaseP
     }
 }
 
+/// Cosines or sines of neighbouring places. Put together from registers: instructions that gather, and loads from what
+/// was just stored in smaller pieces, take longer.
+template <class... Index>
+inline Lanes gathered(const double* values, const std::size_t* places, Index... lane) {
+    return Lanes{values[2 * places[lane]]...};
+}
+
+inline Lanes gathered(const double* values, const std::size_t* places) {
+#if defined(__AVX512F__)
+    return gathered(values, places, 0, 1, 2, 3, 4, 5, 6, 7);
+#elif defined(__AVX2__)
+    return gathered(values, places, 0, 1, 2, 3);
+#else
+    return gathered(values, places, 0, 1);
+#endif
+}
+
 inline void lookUp(const PhaseCircle& circle, const PhasePlaces& places, std::size_t first, std::size_t lag,
                    PhaseRow& row) {
     // Exact: the products stay below 2^53.
-    const double frequency = static_cast<double>(first);
-    const double k = static_cast<double>(lag);
+    double frequencies[kFrequencyBlock];
     for (std::size_t f = 0; f < kFrequencyBlock; ++f) {
-        const double cosine = circle.points[places.at[f]].cosine;
-        const double sine = circle.points[places.at[f]].sine;
-        const double lack = (frequency + static_cast<double>(f)) * k * circle.lack;
-        const double loss = 0.5 * lack * lack;
-        row.cosine[f] = cosine + sine * lack - cosine * loss;
-        row.sine[f] = sine - cosine * lack - sine * loss;
+        frequencies[f] = static_cast<double>(first + f);
+    }
+    const Lanes k = spread(static_cast<double>(lag));
+    const Lanes perProduct = spread(circle.lack);
+    for (std::size_t f = 0; f < kFrequencyBlock; f += kLanes) {
+        const Lanes cosine = gathered(&circle.points->cosine, places.at + f);
+        const Lanes sine = gathered(&circle.points->sine, places.at + f);
+        const Lanes lack = load(frequencies + f) * k * perProduct;
+        const Lanes loss = spread(0.5) * lack * lack;
+        store(row.cosine + f, cosine + sine * lack - cosine * loss);
+        store(row.sine + f, sine - cosine * lack - sine * loss);
     }
 }
 
