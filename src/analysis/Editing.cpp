@@ -5,8 +5,10 @@
 #include <cmath>
 #include <utility>
 
+#include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/StoreValue.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -21,10 +23,12 @@ class Columns {
   public:
     Columns(SMultiArray& table, int samples) : table_(table) {
         for (int c = 0; c < 3; ++c) {
-            read(c);
-            if (table.GetAt(c).GetSize() < samples) {
+            const SArray& column = table.GetAt(c);
+            if (column.GetSize() < samples) {
                 throw InvalidArgument();
             }
+            units_[static_cast<std::size_t>(c)] = column.view().data();
+            scales_[static_cast<std::size_t>(c)] = column.GetScale();
         }
     }
 
@@ -32,10 +36,12 @@ class Columns {
 
     /// Puts the mean of its neighbours in the place of a value.
     void interpolate(std::size_t c, int i) {
-        const int column = static_cast<int>(c);
-        table_.ElementAt(column).SetValue(i, (value(c, i - 1) + value(c, i + 1)) * 0.5);
-        // The column may have been shared until now.
-        read(column);
+        if (own_[c] == nullptr) {
+            // The column may have been shared until now.
+            own_[c] = table_.ElementAt(static_cast<int>(c)).view().data();
+            units_[c] = own_[c];
+        }
+        own_[c][i] = truncateToInt32((value(c, i - 1) + value(c, i + 1)) * 0.5 / scales_[c]);
     }
     void interpolateAll(int i) {
         for (std::size_t c = 0; c < units_.size(); ++c) {
@@ -44,28 +50,37 @@ class Columns {
     }
 
   private:
-    void read(int column) {
-        const SArray& samples = table_.GetAt(column);
-        units_[static_cast<std::size_t>(column)] = samples.view().data();
-        scales_[static_cast<std::size_t>(column)] = samples.GetScale();
-    }
-
     SMultiArray& table_;
     std::array<const std::int32_t*, 3> units_{};
+    std::array<std::int32_t*, 3> own_{};  // null until a value is replaced
     std::array<double, 3> scales_{};
 };
 
-/// Visits the samples that are tested, 1..N-2, in order; returns their number.
-template <class Visit>
-int forEachTested(int samples, Progress& progress, Visit visit) {
-    constexpr int kPart = 1 << 18;
+/// Visits the samples of those tested, 1..N-2, that suspect(i) names, in order; returns the number of the tested. Many
+/// samples are looked at before the first of them is visited, as several are looked at together: where a visit changes
+/// what the next sample is suspected for, it returns true, and that one is visited too.
+template <class Suspect, class Visit>
+int visitSuspects(int samples, Progress& progress, Suspect suspect, Visit visit) {
+    constexpr int kPart = 4096;
+    constexpr int kPartsPerBreath = 64;
+    std::array<bool, kPart> suspects;
+    bool next = false;
+    int parts = 0;
     for (int first = 1; first < samples - 1; first += kPart) {
-        const int end = std::min(first + kPart, samples - 1);
-        for (int i = first; i < end; ++i) {
-            visit(i);
+        const int count = std::min(kPart, samples - 1 - first);
+        for (int i = 0; i < count; ++i) {
+            suspects[static_cast<std::size_t>(i)] = suspect(first + i);
         }
-        progress.breathe();
+        for (int i = 0; i < count; ++i) {
+            if (suspects[static_cast<std::size_t>(i)] || next) {
+                next = visit(first + i);
+            }
+        }
+        if (++parts % kPartsPerBreath == 0) {
+            progress.breathe();
+        }
     }
+    progress.breathe();
     return std::max(samples - 2, 0);
 }
 
@@ -111,21 +126,26 @@ CriterionResult testScores(SAdvProbe& probe, std::size_t scoreTable, ScoreStatis
     }
     const Columns scores(probe.workTables[scoreTable], samples);
     Columns velocities(probe.workTables[SAdvProbe::kVelocities], samples);
-    const bool average = statistic == ScoreStatistic::Average;
-    result.tested = forEachTested(samples, progress, [&](int i) {
-        const double c1 = scores.value(0, i);
-        const double c2 = scores.value(1, i);
-        const double c3 = scores.value(2, i);
-        const bool bad = average ? (c1 + c2 + c3) / 3 < threshold : c1 < threshold || c2 < threshold || c3 < threshold;
-        if (!bad) {
-            return;
-        }
+    const auto reject = [&](int i) {
         if (probe.UsesAllSamples()) {
             velocities.interpolateAll(i);
         }
         probe.sampleFlags.SetAt(i, 0);
         ++result.bad;
-    });
+        return false;
+    };
+    if (statistic == ScoreStatistic::Average) {
+        const auto low = [scores, threshold](int i) {
+            return (scores.value(0, i) + scores.value(1, i) + scores.value(2, i)) / 3 < threshold;
+        };
+        result.tested = visitSuspects(samples, progress, low, reject);
+    } else {
+        const auto low = [scores, threshold](int i) {
+            return (scores.value(0, i) < threshold) | (scores.value(1, i) < threshold) |
+                   (scores.value(2, i) < threshold);
+        };
+        result.tested = visitSuspects(samples, progress, low, reject);
+    }
     return result;
 }
 
@@ -142,30 +162,35 @@ CriterionResult filterSpikes(SAdvProbe& probe, double accelerationThreshold, Pro
     const bool repairs = probe.UsesAllSamples() && threshold < std::fabs(-1.0 / interval);
     const double small = surelySmall(threshold, interval);
     Columns velocities(probe.workTables[SAdvProbe::kVelocities], samples);
-    const auto turn = [&velocities](std::size_t c, int i) {
-        const double left = velocities.value(c, i) - velocities.value(c, i - 1);
-        const double right = velocities.value(c, i + 1) - velocities.value(c, i);
-        return left - right;
-    };
-    result.tested = forEachTested(samples, progress, [&](int i) {
-        double u = turn(0, i);
-        double v = turn(1, i);
-        double w = turn(2, i);
-        // Nearly all samples are far below the threshold: divisions and root are for those that may not be.
-        if (u * u + v * v + w * w < small) {
-            return;
+    using Turns = std::array<double, 3>;
+    const auto turnsAt = [](const Columns& columns, int i) {
+        Turns turns;
+        for (std::size_t c = 0; c < turns.size(); ++c) {
+            const double left = columns.value(c, i) - columns.value(c, i - 1);
+            const double right = columns.value(c, i + 1) - columns.value(c, i);
+            turns[c] = left - right;
         }
+        return turns;
+    };
+    // Nearly all samples are far below the threshold: divisions and root are for those that may not be.
+    const auto suspect = [&velocities, turnsAt, small](int i) {
+        const auto [u, v, w] = turnsAt(velocities, i);
+        return !(u * u + v * v + w * w < small);
+    };
+    result.tested = visitSuspects(samples, progress, suspect, [&](int i) {
+        auto [u, v, w] = turnsAt(velocities, i);
         u /= interval;
         v /= interval;
         w /= interval;
         if (!(threshold < std::sqrt(u * u + v * v + w * w))) {
-            return;
+            return false;
         }
         if (repairs) {
             velocities.interpolateAll(i);
         }
         probe.sampleFlags.SetAt(i, 0);
         ++result.bad;
+        return repairs;
     });
     return result;
 }
@@ -184,9 +209,13 @@ CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress) {
         limits[c] = k * std::sqrt(moments.variance);
     }
     Columns velocities(probe.workTables[SAdvProbe::kVelocities], samples);
-    result.tested = SAdvProbe::kComponents * forEachTested(samples, progress, [&](int i) {
+    const auto farOff = [&velocities, means, limits](std::size_t c, int i) {
+        return std::fabs(velocities.value(c, i) - means[c]) > limits[c];
+    };
+    const auto suspect = [farOff](int i) { return farOff(0, i) | farOff(1, i) | farOff(2, i); };
+    result.tested = SAdvProbe::kComponents * visitSuspects(samples, progress, suspect, [&](int i) {
                         for (std::size_t c = 0; c < means.size(); ++c) {
-                            if (!(std::fabs(velocities.value(c, i) - means[c]) > limits[c])) {
+                            if (!farOff(c, i)) {
                                 continue;
                             }
                             if (probe.UsesAllSamples()) {
@@ -195,6 +224,7 @@ CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress) {
                             probe.sampleFlags.SetAt(i, 0);
                             ++result.bad;
                         }
+                        return false;
                     });
     return result;
 }
@@ -233,6 +263,8 @@ EditingResult editSeries(SAdvProbe& probe, const EditingSettings& settings, Prog
     }
     setRecordTitle(probe, kTitle);
     formStresses(probe, StressResolution::SamePosition, progress);
+    // Only now: the velocity test is against the moments of the record as it was.
+    computeProbeMoments(probe, progress);
     return result;
 }
 

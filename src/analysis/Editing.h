@@ -38,9 +38,9 @@ CriterionResult filterSpikes(SAdvProbe& probe, double accelerationThreshold, Pro
 /// component by itself.
 CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress = noProgress());
 
-/// Treatment, the tests that are on (correlation, signal to noise, spikes, velocity), caption, frame title and
-/// stresses. Removal ends the use of all samples, clears the done marks of stationarity, spectral, cross-spectral and
-/// quadrant analysis and deletes their last tabs. The probe's moments are left: recompute them when the command ends.
+/// Treatment, the tests that are on (correlation, signal to noise, spikes, velocity), caption, frame title, stresses
+/// and velocity moments. Removal ends the use of all samples, clears the done marks of stationarity, spectral,
+/// cross-spectral and quadrant analysis and deletes their last tabs.
 EditingResult editSeries(SAdvProbe& probe, const EditingSettings& settings, Progress& progress = noProgress());
 
 }  // namespace vorlan

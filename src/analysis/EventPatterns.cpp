@@ -6,6 +6,38 @@
 
 namespace vorlan {
 
+namespace {
+
+/// Where every event's surroundings start: its neighbour -reach, with count values to read. They lie in the record
+/// itself, or near its ends in copies with zeros beyond: adding a zero changes no sum.
+class Surroundings {
+  public:
+    Surroundings(std::span<const std::size_t> events, std::span<const double> x, std::size_t reach, std::size_t count) {
+        const std::size_t size = x.size();
+        head_.resize(reach + count);
+        std::copy_n(x.begin(), std::min(size, count), head_.begin() + static_cast<std::ptrdiff_t>(reach));
+        // Events from here on have neighbours behind the end.
+        const std::size_t last = std::max(reach, size + reach + 1 - std::min(count, size + reach + 1));
+        tail_.resize(last < size ? size - last + count : 0);
+        if (!tail_.empty()) {
+            std::copy(x.begin() + static_cast<std::ptrdiff_t>(last - reach), x.end(), tail_.begin());
+        }
+        starts_.resize(events.size());
+        std::transform(events.begin(), events.end(), starts_.begin(), [&](std::size_t e) {
+            return e < reach ? &head_[e] : e < last ? &x[e - reach] : &tail_[e - last];
+        });
+    }
+
+    std::span<const double* const> starts() const { return starts_; }
+
+  private:
+    std::vector<double> head_;
+    std::vector<double> tail_;
+    std::vector<const double*> starts_;
+};
+
+}  // namespace
+
 std::vector<double> averageAround(std::span<const std::size_t> events, std::span<const double> x, int lag,
                                   Progress& progress, const KernelSet& kernels) {
     if (lag < 0) {
@@ -19,27 +51,32 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     // No event has a neighbour farther away than the record is long.
     const std::size_t reach = std::min(wanted, x.size() - 1);
     const std::size_t lags = 2 * reach + 1;
-    const std::size_t block = kernels.maxLags;
-    const std::size_t rounded = (lags + block - 1) / block * block;
-    // Zeros around the record make its ends regular: adding them changes no sum.
-    std::vector<double> padded(x.size() + reach + rounded);
-    std::copy(x.begin(), x.end(), padded.begin() + static_cast<std::ptrdiff_t>(reach));
+    const std::size_t rounded = (lags + kernels.lanes - 1) / kernels.lanes * kernels.lanes;
+    const Surroundings surroundings(events, x, reach, rounded);
+    const std::span<const double* const> starts = surroundings.starts();
     std::vector<double> sums(rounded);
-    constexpr std::size_t kPiece = std::size_t{1} << 15;
+    // So few events at a time that what surrounds them stays near while all lags take it.
+    constexpr std::size_t kTerms = std::size_t{1} << 16;
+    const std::size_t piece = std::clamp<std::size_t>(kTerms / rounded, 1, 1024);
     Pacer pacer(progress);
-    for (std::size_t first = 0; first < rounded; first += block) {
-        for (std::size_t e = 0; e < events.size(); e += kPiece) {
-            const std::size_t count = std::min(kPiece, events.size() - e);
-            kernels.eventSums(padded.data() + first, events.data() + e, count, sums.data() + first);
-            pacer.worked(count * block);
-        }
+    for (std::size_t e = 0; e < starts.size(); e += piece) {
+        const std::size_t count = std::min(piece, starts.size() - e);
+        kernels.eventSums(starts.data() + e, count, rounded, sums.data());
+        pacer.worked(count * rounded);
     }
 
+    // Events e with 0 <= e + i - reach < N: as the lag rises, the first and the last of them move forward.
+    std::size_t first =
+        static_cast<std::size_t>(std::lower_bound(events.begin(), events.end(), reach) - events.begin());
+    std::size_t last = events.size();
     for (std::size_t i = 0; i < lags; ++i) {
-        // Events e with 0 <= e + i - reach < N.
-        const auto first = std::lower_bound(events.begin(), events.end(), i < reach ? reach - i : 0);
-        const auto last = std::lower_bound(first, events.end(), i > reach ? x.size() - (i - reach) : x.size());
-        if (first != last) {
+        while (first > 0 && events[first - 1] + i >= reach) {
+            --first;
+        }
+        while (last > 0 && events[last - 1] + i >= x.size() + reach) {
+            --last;
+        }
+        if (first < last) {
             pattern[wanted - reach + i] = sums[i] / static_cast<double>(last - first);
         }
     }

@@ -16,26 +16,17 @@ Moments momentsFrom(double mean, const PowerSums& sums, double n) {
     return moments;
 }
 
-/// add(value, sum) for every sample of every column, j ascending; what one column has more comes after.
-template <class Sum, class Add>
-void addSideBySide(const ThreeColumns& columns, std::array<Sum, 3>& sums, Add add) {
-    const auto& [x, y, z] = columns;
-    const std::size_t common = std::min({x.units.size(), y.units.size(), z.units.size()});
-    // Sums in variables of their own stay in registers.
-    Sum first = sums[0];
-    Sum second = sums[1];
-    Sum third = sums[2];
-    for (std::size_t j = 0; j < common; ++j) {
-        add(x.units[j] * x.scale, 0, first);
-        add(y.units[j] * y.scale, 1, second);
-        add(z.units[j] * z.scale, 2, third);
+/// The samples that all columns have.
+std::size_t commonSize(const ThreeColumns& columns) {
+    return std::min({columns[0].units.size(), columns[1].units.size(), columns[2].units.size()});
+}
+
+std::array<UnitColumn, 3> unitColumns(const ThreeColumns& columns, const std::array<double, 3>& means) {
+    std::array<UnitColumn, 3> summed;
+    for (std::size_t c = 0; c < summed.size(); ++c) {
+        summed[c] = {columns[c].units.data(), columns[c].scale, means[c]};
     }
-    sums = {first, second, third};
-    for (std::size_t c = 0; c < sums.size(); ++c) {
-        for (std::size_t j = common; j < columns[c].units.size(); ++j) {
-            add(columns[c].units[j] * columns[c].scale, c, sums[c]);
-        }
-    }
+    return summed;
 }
 
 }  // namespace
@@ -54,22 +45,35 @@ Moments momentsOf(std::span<const double> samples) {
     return momentsFrom(mean, sums, n);
 }
 
-std::array<double, 3> columnMeans(const ThreeColumns& columns) {
+std::array<double, 3> columnMeans(const ThreeColumns& columns, const KernelSet& kernels) {
+    const std::size_t common = commonSize(columns);
+    ColumnSums totals{};
+    kernels.columnTotals(unitColumns(columns, {}).data(), common, totals);
     std::array<double, 3> means{};
-    addSideBySide(columns, means, [](double value, std::size_t, double& sum) { sum += value; });
     for (std::size_t c = 0; c < means.size(); ++c) {
-        means[c] /= static_cast<double>(columns[c].units.size());
+        const auto& [units, scale] = columns[c];
+        // What one column has more comes after.
+        for (std::size_t j = common; j < units.size(); ++j) {
+            totals.of[c] += units[j] * scale;
+        }
+        means[c] = totals.of[c] / static_cast<double>(units.size());
     }
     return means;
 }
 
-std::array<Moments, 3> columnMoments(const ThreeColumns& columns) {
-    const std::array<double, 3> means = columnMeans(columns);
-    std::array<PowerSums, 3> sums;
-    addSideBySide(columns, sums, [means](double value, std::size_t c, PowerSums& sum) { sum.add(value - means[c]); });
+std::array<Moments, 3> columnMoments(const ThreeColumns& columns, const KernelSet& kernels) {
+    const std::array<double, 3> means = columnMeans(columns, kernels);
+    const std::size_t common = commonSize(columns);
+    std::array<ColumnSums, 3> powers{};
+    kernels.columnPowers(unitColumns(columns, means).data(), common, powers.data());
     std::array<Moments, 3> moments;
     for (std::size_t c = 0; c < moments.size(); ++c) {
-        moments[c] = momentsFrom(means[c], sums[c], static_cast<double>(columns[c].units.size()));
+        const auto& [units, scale] = columns[c];
+        PowerSums sums{powers[0].of[c], powers[1].of[c], powers[2].of[c]};
+        for (std::size_t j = common; j < units.size(); ++j) {
+            sums.add(units[j] * scale - means[c]);
+        }
+        moments[c] = momentsFrom(means[c], sums, static_cast<double>(units.size()));
     }
     return moments;
 }

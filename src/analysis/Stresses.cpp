@@ -7,6 +7,7 @@
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
 #include "analysis/StressPairs.h"
+#include "analysis/kernels/KernelSet.h"
 
 namespace vorlan {
 
@@ -27,19 +28,28 @@ ThreeColumns workingVelocities(const SAdvProbe& probe) {
     return columns;
 }
 
-/// (x - mean of x) (y - mean of y) of every sample, stored in the resolution of column.
-void storeProducts(SArray& column, const ColumnSamples& x, double meanX, const ColumnSamples& y, double meanY) {
-    // Some at a time, so that the values stay near.
-    constexpr std::size_t kPart = 1024;
-    std::array<double, kPart> products;
-    column.ResizeForOverwrite(x.units.size());
-    const std::span<std::int32_t> stored = column.view();
-    for (std::size_t first = 0; first < stored.size(); first += kPart) {
-        const std::size_t count = std::min(kPart, stored.size() - first);
-        for (std::size_t i = 0; i < count; ++i) {
-            products[i] = (x.units[first + i] * x.scale - meanX) * (y.units[first + i] * y.scale - meanY);
+/// (x - mean of x) (y - mean of y) of every sample and pair, stored in the resolution of the pair's column.
+void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std::array<double, 3>& means) {
+    const std::size_t samples = columns.front().units.size();
+    std::array<std::span<std::int32_t>, kStressPairs> stored;
+    for (int pair = 0; pair < kStressPairs; ++pair) {
+        SArray& column = stresses.ElementAt(pair);
+        column.ResizeForOverwrite(samples);
+        stored[static_cast<std::size_t>(pair)] = column.view();
+    }
+    // Some samples at a time, which stay near for the pairs to come.
+    constexpr std::size_t kPart = 4096;
+    for (std::size_t first = 0; first < samples; first += kPart) {
+        const std::size_t count = std::min(kPart, samples - first);
+        const auto part = [&](std::size_t c) {
+            return UnitColumn{columns[c].units.data() + first, columns[c].scale, means[c]};
+        };
+        for (std::size_t pair = 0; pair < stored.size(); ++pair) {
+            const StressPair& components = kStressPairComponents[pair];
+            kernelsInUse().unitProducts(
+                part(static_cast<std::size_t>(components.first)), part(static_cast<std::size_t>(components.second)),
+                stresses.GetAt(static_cast<int>(pair)).GetScale(), count, stored[pair].data() + first);
         }
-        truncateToUnits(std::span(products).first(count), column.GetScale(), stored.data() + first);
     }
 }
 
@@ -54,18 +64,12 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
     const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
     SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
     stresses.Reshape(kStressPairs, 1.0);
-    for (int pair = 0; pair < kStressPairs; ++pair) {
-        const StressPair& components = kStressPairComponents[static_cast<std::size_t>(pair)];
-        const auto x = static_cast<std::size_t>(components.first);
-        const auto y = static_cast<std::size_t>(components.second);
-        SArray& column = stresses.ElementAt(pair);
-        if (!velocities.IsEmpty()) {
-            const int lender = resolution == StressResolution::SamePosition ? pair : 0;
-            column.SetScale(velocities.GetAt(lender).GetScale());
-        }
-        storeProducts(column, columns[x], means[x], columns[y], means[y]);
-        progress.breathe();
+    for (int pair = 0; pair < kStressPairs && !velocities.IsEmpty(); ++pair) {
+        const int lender = resolution == StressResolution::SamePosition ? pair : 0;
+        stresses.ElementAt(pair).SetScale(velocities.GetAt(lender).GetScale());
     }
+    storeProducts(stresses, columns, means);
+    progress.breathe();
 
     // The moments are those of the stored products, of the samples that count.
     std::array<SArray, 3> counted = countedColumns(probe, {&stresses.GetAt(0), &stresses.GetAt(1), &stresses.GetAt(2)});

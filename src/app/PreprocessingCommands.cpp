@@ -1,7 +1,6 @@
 // The document's commands that change the working record.
 #include "analysis/Clipping.h"
 #include "analysis/Filtration.h"
-#include "analysis/ProbeMoments.h"
 #include "analysis/Rotation.h"
 #include "app/CVorl_ADVDoc.h"
 
@@ -13,7 +12,6 @@ Outcome CVorl_ADVDoc::ChangeSeries(const ProbeOperation& change) {
             const Outcome changed = change(copy, progress);
             if (changed == Outcome::Done) {
                 ApplyChangeRule(copy, progress);
-                computeProbeMoments(copy, progress);
             }
             return changed;
         },

@@ -1,13 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 #include "analysis/kernels/SlidingProducts.h"
 #include "analysis/kernels/SquaredDifferences.h"
 #include "analysis/kernels/TrigonometricSums.h"
 #include "model/Errors.h"
+#include "model/StoreValue.h"
 
 namespace vorlan {
 namespace {
@@ -119,6 +122,56 @@ TEST_P(EverySet, PowerSumsHaveTheBytesOfThePlainLoop) {
             fourths += d * d * d * d;
         }
         EXPECT_EQ(bytesOf({sums.squares[b], sums.cubes[b], sums.fourths[b]}), bytesOf({squares, cubes, fourths})) << b;
+    }
+}
+
+TEST_P(EverySet, ColumnSumsAndProductsHaveTheBytesOfThePlainLoops) {
+    constexpr std::size_t kSamples = 1003;
+    std::vector<std::vector<std::int32_t>> units;
+    for (const std::uint32_t seed : {21U, 22U, 23U}) {
+        units.emplace_back();
+        for (const double v : roughSeries(kSamples, seed)) {
+            units.back().push_back(static_cast<std::int32_t>(1e4 * v));
+        }
+    }
+    const std::array<UnitColumn, 3> columns = {
+        {{units[0].data(), 0.01, 0.3}, {units[1].data(), 0.001, -7.1}, {units[2].data(), 0.02, 0.0}}};
+    const auto deviation = [&](std::size_t c, std::size_t i) {
+        return columns[c].units[i] * columns[c].scale - columns[c].mean;
+    };
+    ColumnSums totals{};
+    std::array<ColumnSums, 3> powers{};
+    // In pieces that are no multiple of a register: the sums go on.
+    for (const auto& [first, count] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 402), std::pair(403, 600)}) {
+        std::array<UnitColumn, 3> part = columns;
+        for (UnitColumn& column : part) {
+            column.units += first;
+        }
+        kernels().columnTotals(part.data(), static_cast<std::size_t>(count), totals);
+        kernels().columnPowers(part.data(), static_cast<std::size_t>(count), powers.data());
+    }
+    for (std::size_t c = 0; c < columns.size(); ++c) {
+        Values expected(4);
+        for (std::size_t i = 0; i < kSamples; ++i) {
+            const double d = deviation(c, i);
+            expected[0] += d;
+            expected[1] += d * d;
+            expected[2] += d * d * d;
+            expected[3] += d * d * d * d;
+        }
+        EXPECT_EQ(bytesOf({totals.of[c], powers[0].of[c], powers[1].of[c], powers[2].of[c]}), bytesOf(expected)) << c;
+    }
+    // The smallest resolution makes products that no integer holds.
+    for (const double resolution : {0.01, 1e-9}) {
+        for (const std::size_t count : {std::size_t{3}, kSamples}) {
+            std::vector<std::int32_t> stored(kSamples, 77);
+            kernels().unitProducts(columns[0], columns[1], resolution, count, stored.data());
+            for (std::size_t i = 0; i < kSamples; ++i) {
+                const std::int32_t expected =
+                    i < count ? truncateToInt32(deviation(0, i) * deviation(1, i) / resolution) : 77;
+                ASSERT_EQ(stored[i], expected) << i;
+            }
+        }
     }
 }
 

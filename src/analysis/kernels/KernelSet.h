@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "analysis/kernels/InstructionSet.h"
 
@@ -9,7 +10,7 @@ namespace vorlan {
 /// Frequencies that one call of KernelSet::trigonometricSums works on.
 inline constexpr std::size_t kFrequencyBlock = 16;
 /// Lags of one block, half of them on either side of its middle.
-inline constexpr std::size_t kPhaseSteps = 64;
+inline constexpr std::size_t kPhaseSteps = 128;
 /// Distances from a block's middle, 0 included.
 inline constexpr std::size_t kFoldedSteps = kPhaseSteps / 2 + 1;
 /// Series that share their cosines in one call.
@@ -51,6 +52,21 @@ struct alignas(64) BandSums {
     double fourths[kMostBands];
 };
 
+/// A column as it is stored, and the mean that its deviations are from: d[i] = units[i] scale - mean.
+struct UnitColumn {
+    const std::int32_t* units;
+    double scale;
+    double mean;
+};
+
+/// Columns that are summed side by side.
+inline constexpr std::size_t kSummedColumns = 3;
+
+/// One sum of each of them.
+struct ColumnSums {
+    double of[kSummedColumns];
+};
+
 /// Phases of the distances 0..kPhaseSteps / 2 and of the middles of the blocks.
 struct PhaseTables {
     const PhaseRow* steps;
@@ -73,13 +89,23 @@ struct KernelSet {
     void (*squaredDifferences)(const double* d, std::size_t size, std::size_t firstLag, std::size_t lags,
                                std::size_t first, std::size_t last, double* sums);
 
-    /// sums[l] += x[events[e] + l] for e = 0..count-1 in order, l = 0..maxLags-1.
-    void (*eventSums)(const double* x, const std::size_t* events, std::size_t count, double* sums);
+    /// sums[l] += around[e][l] for e = 0..count-1 in order, l = 0..lags-1; lags is a multiple of lanes.
+    void (*eventSums)(const double* const* around, std::size_t count, std::size_t lags, double* sums);
 
     std::size_t bands;  ///< that one call of powerSums works on
     /// squares[b] += d d, cubes[b] += (d d) d, fourths[b] += ((d d) d) d with d = x[i] - means[b] for i = 0..count-1 in
     /// order, b = 0..bands-1.
     void (*powerSums)(const double* x, std::size_t count, BandSums& sums);
+
+    /// totals.of[c] += d for i = 0..count-1 in order, of each of the columns.
+    void (*columnTotals)(const UnitColumn* columns, std::size_t count, ColumnSums& totals);
+
+    /// powers[0].of[c] += d d, powers[1].of[c] += (d d) d, powers[2].of[c] += ((d d) d) d, as columnTotals.
+    void (*columnPowers)(const UnitColumn* columns, std::size_t count, ColumnSums* powers);
+
+    /// units[i] = dx[i] dy[i] / resolution, truncated as truncateToInt32() does.
+    void (*unitProducts)(const UnitColumn& x, const UnitColumn& y, double resolution, std::size_t count,
+                         std::int32_t* units);
 
     /// The phases of frequencies first..first+kFrequencyBlock-1 and lags start, start + stride, ... (rows of them).
     void (*phaseRows)(const PhaseCircle& circle, std::size_t first, std::size_t start, std::size_t stride,

@@ -69,7 +69,7 @@ inline void lookUp(const PhaseCircle& circle, const PhasePlaces& places, std::si
 void phaseRowsLoop(const PhaseCircle& circle, std::size_t first, std::size_t start, std::size_t stride,
                    std::size_t rows, PhaseRow* table) {
     // Row a * kGroup + b adds two phases: looking all of them up would take as long as the sums.
-    constexpr std::size_t kGroup = 16;
+    constexpr std::size_t kGroup = 8;
     PhaseRow inner[kGroup];
     PhasePlaces places = placesOf(circle, first, 0);
     const PhasePlaces innerStep = placesOf(circle, first, stride);

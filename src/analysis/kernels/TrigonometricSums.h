@@ -12,7 +12,7 @@ namespace vorlan {
 ///   sum[s][i] = sum over k = 0..n-1 of terms[s][k] * cos(kPi i k / length).
 /// Give the terms that do not take part the value 0. InvalidArgument for series of different sizes or length 0.
 ///
-/// Lanes are neighbouring frequencies. The lags go in ascending blocks of 64. Within a block the terms at the same
+/// Lanes are neighbouring frequencies. The lags go in ascending blocks of 128. Within a block the terms at the same
 /// distance t before and behind the middle m are first added and subtracted, which no frequency takes part in; their
 /// sums with cos(t) and sin(t) are formed for t ascending, and turned to the middle by
 ///   cos(m +- t) = cos m cos t -+ sin m sin t.
