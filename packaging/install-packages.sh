@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs the distribution packages that building and testing need; asks for sudo only when not root and when
-# something is missing.
+# Installs the distribution packages that building and testing need, and those that the arguments name; asks for
+# sudo only when not root and when something is missing.
 set -euo pipefail
 cd "$(dirname "$0")"
 
 mapfile -t wanted < packages.txt
+wanted+=("$@")
 missing=()
 for package in "${wanted[@]}"; do
     status=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)

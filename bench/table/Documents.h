@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/CVorl_ADVDoc.h"
-#include "table/Measure.h"
+#include "table/Clock.h"
 
 namespace bench {
 
@@ -48,7 +48,8 @@ class GapPort : public vorlan::SilentPort {
     bool running_ = false;
 };
 
-/// A document with one selected probe of so many samples: velocities, scores, compass and pressure.
-void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples);
+/// A document with one selected probe of so many samples: velocities, scores, compass and pressure. With
+/// lags cross-spectra can be taken at once.
+void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples, std::uint32_t lags = 0);
 
 }  // namespace bench

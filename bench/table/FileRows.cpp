@@ -7,11 +7,13 @@
 #include <cstring>
 #include <memory>
 #include <sstream>
+#include <stdexcept>
 
 #include "export/VelocitiesExport.h"
 #include "io/DelimitedTable.h"
 #include "io/WorkspaceFile.h"
 #include "table/Folder.h"
+#include "table/Measure.h"
 #include "table/Rows.h"
 
 namespace bench {
@@ -20,7 +22,6 @@ namespace {
 
 using namespace vorlan;
 
-constexpr int kRounds = 7;
 constexpr int kColumns = 50;
 constexpr int kSamples = 1 << 20;  // 4 MiB a column, 200 MiB in all
 constexpr int kTextRows = 1'000'000;
@@ -38,108 +39,114 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-std::string millisecondsOf(double ours, double theirs) {
-    char note[80];
-    std::snprintf(note, sizeof note, "%.4g ms against %.4g ms", 1e3 * ours, 1e3 * theirs);
-    return note;
-}
-
-void workspaces(Table& table) {
-    const Folder folder;
+struct LargeFile {
+    Folder folder;
+    std::filesystem::path path = folder.path() / "large.avp";
+    std::filesystem::path out = folder.path() / "out";
     Workspace workspace;
-    SMultiArray& columns = workspace.dataFiles.files.GrowTo(0).probes.GrowTo(0).workTables[0];
-    columns.Reshape(kColumns, 0.001);
-    for (int c = 0; c < kColumns; ++c) {
-        fill(columns.ElementAt(c), kSamples, static_cast<std::uint32_t>(c + 1));
-    }
-    const std::filesystem::path path = folder.path() / "large.avp";
-    saveWorkspace(workspace, path);
+    Workspace loaded;
+    std::size_t size = 0;
+    std::unique_ptr<char[]> bytes;
+    /// Touched once: the process keeps the memory that it opens files into, too.
+    std::unique_ptr<char[]> copy;
 
-    const std::size_t size = std::filesystem::file_size(path);
-    auto bytes = std::make_unique_for_overwrite<char[]>(size);
-    {
+    LargeFile() {
+        SMultiArray& columns = workspace.dataFiles.files.GrowTo(0).probes.GrowTo(0).workTables[0];
+        columns.Reshape(kColumns, 0.001);
+        for (int c = 0; c < kColumns; ++c) {
+            fill(columns.ElementAt(c), kSamples, static_cast<std::uint32_t>(c + 1));
+        }
+        saveWorkspace(workspace, path);
+        size = std::filesystem::file_size(path);
+        bytes = std::make_unique_for_overwrite<char[]>(size);
+        copy = std::make_unique<char[]>(size);
         const File file(std::fopen(path.c_str(), "rb"));
         if (std::fread(bytes.get(), 1, size, file.get()) != size) {
-            std::abort();
+            throw std::runtime_error("The file of 200 MiB cannot be read back");
         }
     }
-    Workspace loaded;
-    std::unique_ptr<char[]> copy;
-    const auto drop = [&] {
-        loaded = Workspace();
-        copy.reset();
-    };
-    // Both fill memory that nobody has touched yet.
-    const auto opened = rounds(kRounds,
-                               {[&] { loaded = openWorkspace(path); },
-                                [&] {
-                                    copy = std::make_unique_for_overwrite<char[]>(size);
-                                    std::memcpy(copy.get(), bytes.get(), size);
-                                }},
-                               threadSeconds, drop);
-    table.row("open 200 MiB, file in the cache", medianRatio(opened[0], opened[1]), "x a memcpy", Goal::AtMost, 2.5,
-              millisecondsOf(median(opened[0]), median(opened[1])));
+};
 
-    const std::filesystem::path out = folder.path() / "out";
-    const auto remove = [&] { std::filesystem::remove(out); };
-    const auto saved = rounds(kRounds,
-                              {[&] { saveWorkspace(workspace, out); },
-                               [&] {
-                                   const File file(std::fopen(out.c_str(), "wb"));
-                                   keep(std::fwrite(bytes.get(), 1, size, file.get()));
-                                   std::fflush(file.get());
-                                   ::fsync(::fileno(file.get()));
-                               }},
-                              wallSeconds, remove);
-    table.row("save 200 MiB, flushed to the disk", medianRatio(saved[0], saved[1]), "x one fwrite", Goal::AtMost, 1.3,
-              millisecondsOf(median(saved[0]), median(saved[1])));
+void workspaces(Table& table) {
+    const Lazy<LargeFile> large;
+    measureAfter(
+        "files/open", large, [](LargeFile& l) { l.loaded = Workspace(); },
+        [](LargeFile& l) { l.loaded = openWorkspace(l.path); });
+    measure("files/open/memcpy", large, [](LargeFile& l) {
+        std::memcpy(l.copy.get(), l.bytes.get(), l.size);
+        benchmark::ClobberMemory();
+    });
+    table.ratio("open 200 MiB, file in the cache", "files/open", "files/open/memcpy", "x a memcpy", atMost(2.5));
+
+    const auto remove = [](LargeFile& l) { std::filesystem::remove(l.out); };
+    measureAfter(
+        "files/save", large, remove, [](LargeFile& l) { saveWorkspace(l.workspace, l.out); }, wallSeconds);
+    measureAfter(
+        "files/save/fwrite", large, remove,
+        [](LargeFile& l) {
+            const File file(std::fopen(l.out.c_str(), "wb"));
+            benchmark::DoNotOptimize(std::fwrite(l.bytes.get(), 1, l.size, file.get()));
+            std::fflush(file.get());
+            ::fsync(::fileno(file.get()));
+        },
+        wallSeconds);
+    table.ratio("save 200 MiB, flushed to the disk", "files/save", "files/save/fwrite", "x one fwrite", atMost(1.3));
+}
+
+struct Text {
+    SAdvProbe probe;
+    std::string table;
+
+    Text() {
+        probe.samplingInterval = 0.04;
+        probe.workTables[0].Reshape(3, 0.001);
+        for (int c = 0; c < 3; ++c) {
+            fill(probe.workTables[0].ElementAt(c), kTextRows, static_cast<std::uint32_t>(c + 1));
+        }
+        std::ostringstream stream;
+        stream << kHeading;
+        writeVelocities(stream, {"bench", 1, probe}, {false, false, Separator::Comma});
+        table = stream.str();
+    }
+
+    static constexpr std::string_view kHeading = "u,v,w\n";
+};
+
+void printRows(const SMultiArray& velocities) {
+    char* text = nullptr;
+    std::size_t length = 0;
+    File memory(::open_memstream(&text, &length));
+    for (int i = 0; i < kTextRows; ++i) {
+        std::fprintf(memory.get(), "%.2f %.2f %.2f %.2f\n", i * 0.04, velocities.GetAt(0).GetValue(i),
+                     velocities.GetAt(1).GetValue(i), velocities.GetAt(2).GetValue(i));
+    }
+    memory.reset();
+    std::free(text);
+}
+
+double sumOfValues(const char* at) {
+    double sum = 0.0;
+    for (int i = 0; i < 3 * kTextRows; ++i) {
+        char* end = nullptr;
+        sum += std::strtod(at, &end);
+        at = end + 1;
+    }
+    return sum;
 }
 
 void texts(Table& table) {
-    SAdvProbe probe;
-    probe.samplingInterval = 0.04;
-    probe.workTables[0].Reshape(3, 0.001);
-    for (int c = 0; c < 3; ++c) {
-        fill(probe.workTables[0].ElementAt(c), kTextRows, static_cast<std::uint32_t>(c + 1));
-    }
-    const std::string name = "bench";
-    const SMultiArray& velocities = probe.workTables[0];
-    const auto exports = rounds(
-        3, {[&] {
-                std::ostringstream stream;
-                writeVelocities(stream, {name, 1, probe}, {false, true, Separator::Space});
-            },
-            [&] {
-                char* text = nullptr;
-                std::size_t length = 0;
-                File memory(::open_memstream(&text, &length));
-                for (int i = 0; i < kTextRows; ++i) {
-                    std::fprintf(memory.get(), "%.2f %.2f %.2f %.2f\n", i * 0.04, velocities.GetAt(0).GetValue(i),
-                                 velocities.GetAt(1).GetValue(i), velocities.GetAt(2).GetValue(i));
-                }
-                memory.reset();
-                std::free(text);
-            }});
-    table.row("export 1,000,000 rows of velocities", medianRatio(exports[0], exports[1]), "x fprintf", Goal::None, 0.0,
-              millisecondsOf(median(exports[0]), median(exports[1])));
-
-    std::ostringstream stream;
-    stream << "u,v,w\n";
-    writeVelocities(stream, {name, 1, probe}, {false, false, Separator::Comma});
-    const std::string text = stream.str();
-    const auto tables = rounds(3, {[&] { keep(parseDelimitedTable(text, "bench.csv", {})); },
-                                   [&] {
-                                       const char* at = text.c_str() + 6;
-                                       double sum = 0.0;
-                                       for (int i = 0; i < 3 * kTextRows; ++i) {
-                                           char* end = nullptr;
-                                           sum += std::strtod(at, &end);
-                                           at = end + 1;
-                                       }
-                                       keep(sum);
-                                   }});
-    table.row("read a table of 1,000,000 rows", medianRatio(tables[0], tables[1]), "x strtod", Goal::None, 0.0,
-              millisecondsOf(median(tables[0]), median(tables[1])));
+    const Lazy<Text> text;
+    measure("files/export", text, [](const Text& t) {
+        std::ostringstream stream;
+        writeVelocities(stream, {"bench", 1, t.probe}, {false, true, Separator::Space});
+    });
+    measure("files/export/fprintf", text, [](const Text& t) { printRows(t.probe.workTables[0]); });
+    table.ratio("export 1,000,000 rows of velocities", "files/export", "files/export/fprintf", "x fprintf");
+    measure("files/read", text,
+            [](const Text& t) { benchmark::DoNotOptimize(parseDelimitedTable(t.table, "bench.csv", {})); });
+    measure("files/read/strtod", text,
+            [](const Text& t) { benchmark::DoNotOptimize(sumOfValues(t.table.c_str() + Text::kHeading.size())); });
+    table.ratio("read a table of 1,000,000 rows", "files/read", "files/read/strtod", "x strtod");
 }
 
 }  // namespace

@@ -1,18 +1,22 @@
 #pragma once
 
-#include <unistd.h>
-
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace bench {
 
 /// A folder of its own that goes with its owner, where TMPDIR says.
 class Folder {
   public:
-    Folder() : path_(std::filesystem::temp_directory_path() / ("vorlan-bench-" + std::to_string(::getpid()))) {
-        std::filesystem::create_directories(path_);
+    Folder() {
+        std::string name = std::filesystem::temp_directory_path() / "vorlan-bench-XXXXXX";
+        if (::mkdtemp(name.data()) == nullptr) {
+            throw std::system_error(errno, std::generic_category(), name);
+        }
+        path_ = name;
     }
     ~Folder() {
         std::error_code error;

@@ -1,11 +1,11 @@
-// Kernels of lags against multiplications and additions on registers only, measured between the rounds.
+// Kernels of lags against multiplications and additions on registers only.
 
-#include <algorithm>
 #include <cstring>
 
-#include "Peak.h"
 #include "analysis/kernels/SlidingProducts.h"
 #include "analysis/kernels/SquaredDifferences.h"
+#include "table/Measure.h"
+#include "table/PeakRate.h"
 #include "table/PlainLoops.h"
 #include "table/Rows.h"
 
@@ -18,103 +18,118 @@ using plain::Values;
 
 constexpr std::size_t kSamples = 100'000;
 constexpr std::size_t kLags = 10'000;
-constexpr int kRounds = 9;
+constexpr double kTerms = 0.5 * kLags * (2.0 * kSamples - kLags + 1.0);
 // The plain loops take every so many lags: an odd number meets all lanes.
 constexpr std::size_t kStride = 97;
 
-/// What a set is to reach, per cent of its peak.
-struct SetGoals {
-    double products;
-    double differences;
+struct Series {
+    Values x = plain::record(kSamples, 1);
+    Values y = plain::record(kSamples, 2);
+    Values shorter{x.begin(), x.end() - 1};
+    Values weights = plain::record(6000, 3);
+    /// What the kernels gave, by benchmark.
+    std::map<std::string, Values> sums;
+
+    std::span<const double> later() const { return std::span(x).subspan(1); }
 };
 
-SetGoals goalsOf(InstructionSet set) {
-    switch (set) {
-        case InstructionSet::Avx512:
-            return {85.0, 90.0};
-        case InstructionSet::Avx2:
-            return {75.0, 70.0};
-        default:
-            return {50.0, 0.0};
-    }
+struct Loop {
+    const char* name;
+    const char* what;
+    /// Floating-point operations of the definition.
+    double operations;
+    Values (*kernel)(const Series&, const KernelSet&);
+    Values (*plainLags)(const Series&);
+    /// Per cent of the peak, by instruction set, or of the best one that there is.
+    Goal goals[3];
+    Goal best = {};
+};
+
+template <std::size_t taps>
+constexpr double kFilterOperations = 2.0 * (kSamples - taps) * taps;
+
+template <std::size_t taps>
+Values filter(const Series& s, const KernelSet& kernels) {
+    return slidingProducts(s.later(), std::span(s.weights).first(taps), kSamples - taps, noProgress(), kernels);
 }
 
-std::string equality(const Values& kernel, const Values& plainLags) {
+template <std::size_t taps>
+Values plainFilter(const Series& s) {
+    return plain::products(s.later(), std::span(s.weights).first(taps), 0, kSamples - taps, kStride);
+}
+
+const Loop kLoops[] = {
+    {"autocovariance",
+     "autocovariance",
+     2.0 * kTerms,
+     [](const Series& s, const KernelSet& kernels) { return slidingProducts(s.x, s.x, kLags, noProgress(), kernels); },
+     [](const Series& s) { return plain::products(s.x, s.x, 0, kLags, kStride); },
+     {atLeast(50), atLeast(75), atLeast(85)}},
+    {"correlation",
+     "cross-correlation, one direction",
+     2.0 * kTerms,
+     [](const Series& s, const KernelSet& kernels) {
+         return slidingProducts(s.shorter, s.y, kLags, noProgress(), kernels);
+     },
+     [](const Series& s) { return plain::products(s.shorter, s.y, 0, kLags, kStride); },
+     {atLeast(50), atLeast(75), atLeast(85)}},
+    {"structure",
+     "structure function",
+     3.0 * kTerms,
+     [](const Series& s, const KernelSet& kernels) { return squaredDifferences(s.x, kLags, noProgress(), kernels); },
+     [](const Series& s) { return plain::squaredDifferences(s.x, 0, kLags, kStride); },
+     {{}, atLeast(70), atLeast(90)}},
+    {"filter500", "filter of 500 taps", kFilterOperations<500>, filter<500>, plainFilter<500>, {}, atLeast(65)},
+    {"filter6000", "filter of 6000 taps", kFilterOperations<6000>, filter<6000>, plainFilter<6000>, {}, atLeast(85)},
+};
+
+std::string benchmarkName(const Loop& loop, InstructionSet set) {
+    return std::string("kernels/") + loop.name + "/" + nameOf(set);
+}
+
+bool bitsEqual(double a, double b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+/// Against the plain loop and against every other set that ran.
+bool equalBits(const Series& series, const Loop& loop, const Values& sums) {
+    const Values plainLags = loop.plainLags(series);
     for (std::size_t i = 0; i < plainLags.size(); ++i) {
-        if (std::memcmp(&kernel[i * kStride], &plainLags[i], sizeof(double)) != 0) {
-            return "BITS DIFFER";
+        if (!bitsEqual(sums[i * kStride], plainLags[i])) {
+            return false;
         }
     }
-    return "bits equal";
+    for (const InstructionSet set : availableInstructionSets()) {
+        const auto other = series.sums.find(benchmarkName(loop, set));
+        if (other != series.sums.end() &&
+            !std::equal(sums.begin(), sums.end(), other->second.begin(), other->second.end(), bitsEqual)) {
+            return false;
+        }
+    }
+    return true;
 }
-
-class SetRows {
-  public:
-    SetRows(Table& table, InstructionSet set) : table_(table), set_(set) {}
-
-    /// operations: floating-point operations of the definition. result(): the kernel's sums.
-    template <class Kernel>
-    void row(const std::string& what, double operations, const Values& expected, double goal, Kernel kernel) {
-        Values result;
-        const auto peak = [this] { rounds_ = peakLoop()(kPeakRounds, peakOut_); };
-        const auto times = rounds(kRounds, {peak, [&] { result = kernel(); }, peak});
-        // The best of either: what the registers can do is not less because somebody else used the core.
-        const double peakTime = std::min(best(times[0]), best(times[2]));
-        const double peakRate = static_cast<double>(rounds_) / peakTime;
-        const double share = 100.0 * operations / best(times[1]) / peakRate;
-        char note[80];
-        std::snprintf(note, sizeof note, "%s, %.4g ms, peak %.3g Gflop/s", equality(result, expected).c_str(),
-                      1e3 * median(times[1]), peakRate / 1e9);
-        table_.row(what + ", " + nameOf(set_), share, "% of peak", goal > 0.0 ? Goal::AtLeast : Goal::None, goal, note);
-    }
-    const KernelSet& kernels() const { return kernelsOf(set_); }
-    SetGoals goals() const { return goalsOf(set_); }
-
-  private:
-    using PeakLoop = std::size_t (*)(std::size_t, double*);
-    static constexpr std::size_t kPeakRounds = 300'000;
-
-    PeakLoop peakLoop() const {
-        return set_ == InstructionSet::Avx512 ? peakAvx512 : set_ == InstructionSet::Avx2 ? peakAvx2 : peakPlain;
-    }
-
-    Table& table_;
-    InstructionSet set_;
-    double peakOut_[3] = {0.999, 0.001, 0.0};
-    std::size_t rounds_ = 0;
-};
 
 }  // namespace
 
 void kernelRows(Table& table) {
     table.section("Kernels of lags, 100,000 samples, 10,000 lags, one series, one thread");
-    const Values x = plain::record(kSamples, 1);
-    const Values y = plain::record(kSamples, 2);
-    const std::span<const double> shortX = std::span(x).first(kSamples - 1);
-    const Values covariance = plain::products(x, x, 0, kLags, kStride);
-    const Values crossed = plain::products(shortX, y, 0, kLags, kStride);
-    const Values structure = plain::squaredDifferences(x, 0, kLags, kStride);
-    const double terms = 0.5 * kLags * (2.0 * kSamples - kLags + 1.0);
-    NoProgress progress;
+    const Lazy<Series> series;
     for (const InstructionSet set : availableInstructionSets()) {
-        SetRows rows(table, set);
-        const KernelSet& kernels = rows.kernels();
-        rows.row("autocovariance", 2.0 * terms, covariance, rows.goals().products,
-                 [&] { return slidingProducts(x, x, kLags, progress, kernels); });
-        rows.row("cross-correlation, one direction", 2.0 * terms, crossed, rows.goals().products,
-                 [&] { return slidingProducts(shortX, y, kLags, progress, kernels); });
-        rows.row("structure function", 3.0 * terms, structure, rows.goals().differences,
-                 [&] { return squaredDifferences(x, kLags, progress, kernels); });
-        for (const std::size_t taps : {500U, 6000U}) {
-            const Values weights = plain::record(taps, 3);
-            const std::size_t outputs = kSamples - taps;
-            const bool best = set == availableInstructionSets().back();
-            rows.row("filter of " + std::to_string(taps) + " taps", 2.0 * static_cast<double>(outputs * taps),
-                     plain::products(std::span(x).subspan(1), weights, 0, outputs, kStride),
-                     !best         ? 0.0
-                     : taps < 6000 ? 65.0
-                                   : 85.0,
-                     [&] { return slidingProducts(std::span(x).subspan(1), weights, outputs, progress, kernels); });
+        const bool best = set == availableInstructionSets().back();
+        const std::string peak = registerPeak("kernels", set);
+        for (const Loop& loop : kLoops) {
+            const std::string name = benchmarkName(loop, set);
+            measure(name, series, [=, &loop](Series& s) { s.sums[name] = loop.kernel(s, kernelsOf(set)); });
+            const Goal goal = best && loop.best.kind != Goal::None ? loop.best : loop.goals[static_cast<int>(set)];
+            table.row(loop.what + std::string(", ") + nameOf(set), {name, peak}, "% of peak", goal,
+                      [=, &loop](const Times& times) {
+                          const double rate = peakRate(times, peak, set);
+                          const Finding bits = equality(equalBits(series(), loop, series().sums[name]), "bits");
+                          return Cell{100.0 * loop.operations / times.best(name) / rate,
+                                      format("%s, %.4g ms, peak %.3g Gflop/s", bits.text.c_str(),
+                                             1e3 * times.median(name), rate / 1e9),
+                                      bits.right};
+                      });
         }
     }
 }

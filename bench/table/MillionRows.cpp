@@ -1,6 +1,9 @@
 // Commands on a record of a million samples, through the document.
 
+#include <stdexcept>
+
 #include "table/Documents.h"
+#include "table/Measure.h"
 #include "table/PlainLoops.h"
 #include "table/Rows.h"
 
@@ -11,101 +14,123 @@ namespace {
 using namespace vorlan;
 
 constexpr std::size_t kSamples = 1'000'000;
+constexpr std::uint32_t kLags = 10'000;
 // The window takes its events when at least 12 ms have passed at a breath: what lies between two breaths comes on top.
 constexpr double kWindowInterval = 12.0;
 
 using Columns = std::vector<std::span<const std::int32_t>>;
 
-class MillionTable {
+void append(Columns& columns, const SMultiArray& table) {
+    for (const SArray& column : table) {
+        columns.push_back(column.view());
+    }
+}
+
+struct Million {
+    GapPort port;
+    CVorl_ADVDoc document{port};
+    // Copies keep what is read while the commands replace their own.
+    SMultiArray tables[3];
+    Columns velocities;
+    Columns all;
+    /// Longest times between two breaths, by benchmark.
+    std::map<std::string, double> longestGaps;
+
+    Million() {
+        openRecord(document, kSamples, kLags);
+        const std::size_t which[] = {SAdvProbe::kVelocities, SAdvProbe::kCorrelation, SAdvProbe::kSignalToNoise};
+        for (std::size_t t = 0; t < 3; ++t) {
+            tables[t] = document.Probe().workTables[which[t]];
+            append(all, tables[t]);
+        }
+        append(velocities, tables[0]);
+    }
+};
+
+class MillionRows {
   public:
-    explicit MillionTable(Table& table) : table_(table), document_(port_) { openRecord(document_, kSamples); }
+    static constexpr const char* kThree = "million/reading/3";
+    static constexpr const char* kNine = "million/reading/9";
 
-    const SAdvProbe& probe() const { return document_.Probe(); }
+    explicit MillionRows(Table& table) : table_(table) {
+        measure(kThree, million_,
+                [](const Million& m) { benchmark::DoNotOptimize(plain::readOnce(m.velocities, 0.01)); });
+        measure(kNine, million_, [](const Million& m) { benchmark::DoNotOptimize(plain::readOnce(m.all, 0.01)); });
+    }
 
-    /// Runs the command on the record as it was; limit is in readings of the columns, 0 without one.
-    void row(const std::string& what, const Columns& read, double limit,
-             const std::function<void(CVorl_ADVDoc&)>& command, int count = 5) {
-        port_.forget();
-        const auto times = rounds(count, {[&] { keep(plain::readOnce(read, 0.01)); }, [&] { command(document_); }},
-                                  threadSeconds, [this] { document_.ResetTimeSeries(); });
-        char note[120];
-        std::snprintf(note, sizeof note, "%.4g ms, one reading in order %.3g ms", 1e3 * median(times[1]),
-                      1e3 * median(times[0]));
-        table_.row(what, medianRatio(times[1], times[0]), "x a reading", limit > 0.0 ? Goal::AtMost : Goal::None, limit,
-                   note);
-        table_.row("    longest time to the next events", kWindowInterval + 1e3 * port_.longestGap(), "ms",
-                   Goal::AtMost, 20.0);
+    /// Runs the command on the record as it was. Returns the benchmark, to say how often.
+    template <class Command>
+    Registered row(const std::string& shortName, const std::string& what, Goal goal, Command command,
+                   const char* reading = kThree) {
+        const std::string name = "million/" + shortName;
+        table_.ratio(what, name, reading, "x a reading", goal);
+        const Lazy<Million> million = million_;
+        table_.row("    longest time to the next events", {name}, "ms", atMost(20.0), [=](const Times&) {
+            return Cell{kWindowInterval + 1e3 * million().longestGaps.at(name), {}};
+        });
+        return measureAfter(
+            name, million_, [](Million& m) { m.document.ResetTimeSeries(); },
+            [=](Million& m) {
+                m.port.forget();
+                if (command(m.document) != Outcome::Done) {
+                    throw std::runtime_error(name + ": the command was refused");
+                }
+                double& longest = m.longestGaps[name];
+                longest = std::max(longest, m.port.longestGap());
+            });
     }
 
   private:
     Table& table_;
-    GapPort port_;
-    CVorl_ADVDoc document_;
+    Lazy<Million> million_;
 };
-
-Columns columnsOf(const SMultiArray& table) {
-    Columns columns;
-    for (const SArray& column : table) {
-        columns.push_back(column.view());
-    }
-    return columns;
-}
 
 }  // namespace
 
 void millionRows(Table& table) {
     table.section("Commands of the document on 1,000,000 samples");
-    MillionTable rows(table);
-    // Copies keep what is read while the commands replace their own.
-    const SMultiArray velocities = rows.probe().workTables[SAdvProbe::kVelocities];
-    Columns edited = columnsOf(velocities);
-    const SMultiArray correlation = rows.probe().workTables[SAdvProbe::kCorrelation];
-    const SMultiArray signal = rows.probe().workTables[SAdvProbe::kSignalToNoise];
-    for (const SMultiArray* scores : {&correlation, &signal}) {
-        const Columns more = columnsOf(*scores);
-        edited.insert(edited.end(), more.begin(), more.end());
-    }
-    const Columns three = columnsOf(velocities);
-
-    rows.row("reset: stresses and moments", three, 0.0, [](CVorl_ADVDoc& d) { d.ResetTimeSeries(); });
-    rows.row("editing, four criteria, stresses and moments", edited, 0.0, [](CVorl_ADVDoc& d) {
-        EditingSettings settings;
-        settings.correlation = {true, ScoreStatistic::Average, 76.0, 70.0};
-        settings.signalToNoise = {true, ScoreStatistic::Minimum, 10.0, 12.5};
-        settings.spikeFilter = settings.velocityTest = true;
-        settings.accelerationThreshold = 3.5;
-        d.EditTimeSeries(settings);
-    });
-    rows.row("stationarity, 10 fixed bands", three, 3.0, [](CVorl_ADVDoc& d) {
-        d.StationarityAnalysis({BandMode::Fixed, 10});
-    });
-    rows.row("stationarity, 1000 cumulative bands", three, 0.0, [](CVorl_ADVDoc& d) {
-        d.StationarityAnalysis({BandMode::Cumulative, 1000});
-    });
-    rows.row("distributions, 20 grades", three, 3.0, [](CVorl_ADVDoc& d) { d.Distributions({20, 90, true}); });
-    rows.row("distributions, 1000 grades", three, 3.0, [](CVorl_ADVDoc& d) { d.Distributions({1000, 90, true}); });
+    MillionRows rows(table);
+    rows.row("reset", "reset: stresses and moments", {}, [](CVorl_ADVDoc& d) { return d.ResetTimeSeries(); });
     rows.row(
-        "rotation by three angles", three, 0.0,
+        "editing", "editing, four criteria, stresses and moments", {},
         [](CVorl_ADVDoc& d) {
-            RotationSettings settings;
-            settings.heading = settings.pitch = settings.roll = 3.0;
-            d.ChangeCoordinateSystem(settings);
+            EditingSettings settings;
+            settings.correlation = {true, ScoreStatistic::Average, 76.0, 70.0};
+            settings.signalToNoise = {true, ScoreStatistic::Minimum, 10.0, 12.5};
+            settings.spikeFilter = settings.velocityTest = true;
+            settings.accelerationThreshold = 3.5;
+            return d.EditTimeSeries(settings);
         },
-        3);
-    rows.row(
-        "filter of 2000 taps", three, 0.0, [](CVorl_ADVDoc& d) { d.FilterTimeSeries({}); }, 3);
-    rows.row(
-        "quadrants", three, 0.0, [](CVorl_ADVDoc& d) { d.QuadrantsAnalysis({}); }, 3);
-    rows.row(
-        "spectral analysis, 10,000 lags", three, 0.0,
-        [](CVorl_ADVDoc& d) {
-            SpectralSettings settings;
-            settings.percent = 1;
-            d.SpectralAnalysis(settings);
-        },
-        1);
-    rows.row(
-        "cross-spectral analysis, 10,000 lags", three, 0.0, [](CVorl_ADVDoc& d) { d.CrossSpectralAnalysis(); }, 1);
+        MillionRows::kNine);
+    rows.row("stationarity/10", "stationarity, 10 fixed bands", atMost(3.0), [](CVorl_ADVDoc& d) {
+        return d.StationarityAnalysis({BandMode::Fixed, 10});
+    });
+    rows.row("stationarity/1000", "stationarity, 1000 cumulative bands", {}, [](CVorl_ADVDoc& d) {
+        return d.StationarityAnalysis({BandMode::Cumulative, 1000});
+    });
+    rows.row("distributions/20", "distributions, 20 grades", atMost(3.0), [](CVorl_ADVDoc& d) {
+        return d.Distributions({20, 90, true});
+    });
+    rows.row("distributions/1000", "distributions, 1000 grades", atMost(3.0), [](CVorl_ADVDoc& d) {
+        return d.Distributions({1000, 90, true});
+    });
+    rows.row("rotation", "rotation by three angles", {}, [](CVorl_ADVDoc& d) {
+        RotationSettings settings;
+        settings.heading = settings.pitch = settings.roll = 3.0;
+        return d.ChangeCoordinateSystem(settings);
+    });
+    rows.row("filter", "filter of 2000 taps", {}, [](CVorl_ADVDoc& d) { return d.FilterTimeSeries({}); });
+    rows.row("quadrants", "quadrants", {}, [](CVorl_ADVDoc& d) { return d.QuadrantsAnalysis({}); });
+    rows.row("spectral", "spectral analysis, 10,000 lags", {},
+             [](CVorl_ADVDoc& d) {
+                 SpectralSettings settings;
+                 settings.percent = static_cast<int>(100 * kLags / kSamples);
+                 return d.SpectralAnalysis(settings);
+             })
+        ->Repetitions(2);
+    rows.row("cross", "cross-spectral analysis, 10,000 lags", {},
+             [](CVorl_ADVDoc& d) { return d.CrossSpectralAnalysis(); })
+        ->Repetitions(2);
 }
 
 }  // namespace bench

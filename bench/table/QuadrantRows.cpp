@@ -1,11 +1,11 @@
 // Hole sweep and event patterns against plain loops of the same definitions.
 
-#include <array>
 #include <cmath>
 
 #include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
 #include "model/StoreValue.h"
+#include "table/Measure.h"
 #include "table/PlainLoops.h"
 #include "table/Rows.h"
 
@@ -27,6 +27,11 @@ struct QuadrantRecord {
     Values b = plain::record(kSamples, 2);
     Values r;
     std::vector<std::size_t> events;
+
+    HoleSums expectedHoles;
+    HoleSums holes;
+    Values expectedPattern;
+    Values pattern;
 
     QuadrantRecord() {
         for (std::size_t j = 0; j < kSamples; ++j) {
@@ -79,20 +84,21 @@ Values plainPattern(const QuadrantRecord& record) {
 
 void quadrantRows(Table& table) {
     table.section("Quadrants, 100,000 samples");
-    const QuadrantRecord record;
-    HoleSums expected;
-    HoleSums sums;
-    const auto holes = rounds(9, {[&] { expected = plainHoles(record); },
-                                  [&] { sums = sweepHoles(record.r, record.a, record.b, kIncrement, kSizes, kUnit); }});
-    const bool same = sums.units == expected.units && sums.samples == expected.samples;
-    table.row("hole sweep, 100 sizes", medianRatio(holes[0], holes[1]), "x the loop", Goal::AtLeast, 50.0,
-              same ? "integers equal" : "INTEGERS DIFFER");
-    Values expectedPattern;
-    Values pattern;
-    const auto patterns = rounds(9, {[&] { expectedPattern = plainPattern(record); },
-                                     [&] { pattern = averageAround(record.events, record.a, kReach); }});
-    table.row("event patterns, 501 lags", medianRatio(patterns[0], patterns[1]), "x the loop", Goal::AtLeast, 15.0,
-              pattern == expectedPattern ? "bits equal" : "BITS DIFFER");
+    const Lazy<QuadrantRecord> record;
+    measure("quadrants/holes/loop", record, [](QuadrantRecord& r) { r.expectedHoles = plainHoles(r); });
+    measure("quadrants/holes/sweep", record,
+            [](QuadrantRecord& r) { r.holes = sweepHoles(r.r, r.a, r.b, kIncrement, kSizes, kUnit); });
+    measure("quadrants/events/loop", record, [](QuadrantRecord& r) { r.expectedPattern = plainPattern(r); });
+    measure("quadrants/events/average", record,
+            [](QuadrantRecord& r) { r.pattern = averageAround(r.events, r.a, kReach); });
+    table.ratio(
+        "hole sweep, 100 sizes", "quadrants/holes/loop", "quadrants/holes/sweep", "x the loop", atLeast(50.0), [=] {
+            const QuadrantRecord& r = record();
+            return equality(r.holes.units == r.expectedHoles.units && r.holes.samples == r.expectedHoles.samples,
+                            "integers");
+        });
+    table.ratio("event patterns, 501 lags", "quadrants/events/loop", "quadrants/events/average", "x the loop",
+                atLeast(15.0), [=] { return equality(record().pattern == record().expectedPattern, "bits"); });
 }
 
 }  // namespace bench

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "table/Measure.h"
+#include "table/Table.h"
+
+// Each registers the benchmarks of a group and adds the rows that are made of their times.
 
 namespace bench {
 
@@ -20,5 +22,7 @@ void paintRows(Table& table);
 void jobRows(Table& table);
 /// Start of the window, opening a large workspace to drawn panes.
 void startRows(Table& table);
+/// One autocovariance by numpy and scipy.
+void peerRows(Table& table);
 
 }  // namespace bench

@@ -5,6 +5,7 @@
 #include "io/WorkspaceFile.h"
 #include "table/Documents.h"
 #include "table/Folder.h"
+#include "table/Measure.h"
 #include "table/Rows.h"
 #include "table/Toolkit.h"
 #include "ui/CVorl_ADVApp.h"
@@ -13,43 +14,80 @@ namespace bench {
 
 using namespace vorlan;
 
-CVorl_ADVApp& startToolkit() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "vorlan";
-    static char* argv[] = {name, nullptr};
-    // Never destroyed: the toolkit must not outlive the end of the program in an unknown order.
-    static auto* app = new CVorl_ADVApp(argc, argv);
-    return *app;
+const Toolkit& toolkit() {
+    static const Toolkit started = [] {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static int argc = 1;
+        static char name[] = "vorlan";
+        static char* argv[] = {name, nullptr};
+        const double start = threadSeconds();
+        // Never destroyed: the toolkit must not outlive the end of the program in an unknown order.
+        auto* app = new CVorl_ADVApp(argc, argv);
+        return Toolkit{*app, threadSeconds() - start};
+    }();
+    return started;
 }
 
-void startRows(Table& table) {
-    table.section("Start, on a screen in memory");
-    CVorl_ADVApp* app = nullptr;
-    const auto toolkit = rounds(1, {[&] { app = &startToolkit(); }});
-    table.row("toolkit ready (once a process)", 1e3 * toolkit[0][0], "ms");
-    const auto started = rounds(5, {[&] {
-                                    app->start(std::nullopt);
-                                    QCoreApplication::processEvents();
-                                }});
-    table.row("window built, shown and painted", 1e3 * median(started[0]), "ms");
+namespace {
 
-    const Folder folder;
-    const QString path = QFile::decodeName((folder.path() / "million.avp").c_str());
-    {
+struct MillionFile {
+    Folder folder;
+    std::filesystem::path path = folder.path() / "million.avp";
+
+    MillionFile() {
         GapPort port;
         CVorl_ADVDoc document(port);
         openRecord(document, 1'000'000);
-        document.SaveWorkspace(QFile::encodeName(path).toStdString());
+        document.SaveWorkspace(path);
     }
-    const auto opened = rounds(5, {[&] {
-                                       app->frame().files().openPath(path);
-                                       QCoreApplication::processEvents();
-                                   },
-                                   [&] { keep(openWorkspace(QFile::encodeName(path).toStdString())); }});
-    char note[80];
-    std::snprintf(note, sizeof note, "of which reading the file %.4g ms", 1e3 * median(opened[1]));
-    table.row("open 1,000,000 samples to drawn panes", 1e3 * median(opened[0]), "ms", Goal::None, 0.0, note);
+};
+
+/// The application with a new window that holds nothing.
+CVorl_ADVApp& freshWindow() {
+    CVorl_ADVApp& app = toolkit().app;
+    app.start(std::nullopt);
+    QCoreApplication::processEvents();
+    return app;
+}
+
+}  // namespace
+
+void startRows(Table& table) {
+    table.section("Start, on a screen in memory");
+    benchmark::RegisterBenchmark("start/toolkit",
+                                 [](benchmark::State& state) {
+                                     for (auto _ : state) {
+                                         state.SetIterationTime(toolkit().seconds);
+                                     }
+                                 })
+        ->UseManualTime()
+        ->Iterations(1)
+        ->Repetitions(1);
+    table.milliseconds("toolkit ready (once a process)", "start/toolkit");
+
+    benchmark::RegisterBenchmark("start/window", [](benchmark::State& state) {
+        freshWindow();
+        for (auto _ : state) {
+            freshWindow();
+        }
+    });
+    table.milliseconds("window built, shown and painted", "start/window");
+
+    const Lazy<MillionFile> file;
+    benchmark::RegisterBenchmark("start/open", [=](benchmark::State& state) {
+        const QString path = QFile::decodeName(file().path.c_str());
+        CVorl_ADVApp& app = freshWindow();
+        for (auto _ : state) {
+            app.frame().files().openPath(path);
+            QCoreApplication::processEvents();
+        }
+    });
+    measure("start/open/read", file, [](const MillionFile& f) { benchmark::DoNotOptimize(openWorkspace(f.path)); });
+    table.row("open 1,000,000 samples to drawn panes", {"start/open", "start/open/read"}, "ms", {},
+              [](const Times& times) {
+                  return Cell{1e3 * times.median("start/open"),
+                              format("of which reading the file %.4g ms", 1e3 * times.median("start/open/read"))};
+              });
 }
 
 }  // namespace bench

@@ -6,7 +6,13 @@ class CVorl_ADVApp;
 
 namespace bench {
 
-/// The application, made at the first call: a program can have only one. It paints into memory.
-vorlan::CVorl_ADVApp& startToolkit();
+struct Toolkit {
+    vorlan::CVorl_ADVApp& app;
+    /// Processor time of its start.
+    double seconds;
+};
+
+/// The application, made at the first call: a process can have only one. It paints into memory.
+const Toolkit& toolkit();
 
 }  // namespace bench
