@@ -60,6 +60,9 @@ class PanePainter {
         STable table(content);
         table.fitInto(paneBox(), measure_);
         const TableShapes shapes = table.shapes(paneBox(), measure_);
+        if (!shapes.complete) {
+            return (*this)(PaneMessage{kTooSmall});
+        }
         drawLines(shapes.rules, linePen(0, 1, 0, options_.lengthScale));
         drawTexts(painter_, shapes.texts, measure_, options_.fontScale);
         return std::nullopt;

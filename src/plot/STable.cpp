@@ -11,6 +11,7 @@ namespace vorlan {
 namespace {
 
 constexpr double kSmallestShare = 0.6;
+constexpr double kShareStep = 0.02;
 constexpr int kTextGap = 6;  // kept free beside a row title
 constexpr char kDefaultFormat[] = "%.2f";
 
@@ -129,8 +130,16 @@ void STable::fitInto(const Box& box, const TextMeasure& measure) {
 
 double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
     const int lines = 3 + 2 * static_cast<int>(rows.size());
-    const int needed = lines * measure.height(font);
-    return needed <= box.height() ? 1.0 : std::max(kSmallestShare, static_cast<double>(box.height()) / needed);
+    const auto needed = [&](double share) { return lines * measure.height(font, share); };
+    if (needed(1.0) <= box.height()) {
+        return 1.0;
+    }
+    double share = std::max(kSmallestShare, static_cast<double>(box.height()) / needed(1.0));
+    // Heights are whole pixels: the rounded one can still be too high.
+    while (needed(share) > box.height() && share > kSmallestShare) {
+        share = std::max(kSmallestShare, share - kShareStep);
+    }
+    return share;
 }
 
 TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
@@ -146,6 +155,8 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         const int x = columnLeft + width / 2 - textWidth / 2;
         if (!shown.empty()) {
             result.texts.push_back({shown, {x, y, x + textWidth, y + height}, font, share});
+        } else if (!text.empty()) {
+            result.complete = false;
         }
     };
     const auto columnLeft = [&](int column) {
@@ -160,7 +171,7 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         add(header(column), columnLeft(column), columnSpan(column), y);
     }
     y += rowHeight;
-    for (int row = 0; row < static_cast<int>(rows.size()) && y + 2 * rowHeight <= box.bottom; ++row) {
+    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
         y += rowHeight;
         add(rowTitle(row), columnLeft(0), columnSpan(0), y - rowHeight / 2);
         for (int column = 1; column < columns; ++column) {
@@ -169,6 +180,7 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         y += rowHeight;
         result.rules.push_back({{left, y}, {left + tableWidth, y}});
     }
+    result.complete = result.complete && y <= box.bottom;
     return result;
 }
 

@@ -15,6 +15,7 @@ namespace vorlan {
 struct TableShapes {
     std::vector<PlacedText> texts;
     std::vector<Line> rules;
+    bool complete = true;  ///< every row lies in the box and every text is there, be it shortened
 };
 
 /// A ruled text table. A row takes two row heights: the text stands in the middle of them, the rule below. Columns
@@ -48,7 +49,6 @@ class STable : public SObject {
     void fitInto(const Box& box, const TextMeasure& measure);
     /// Share of the font's size at which every row fits the height of box; not below 0.6.
     double fittingShare(const Box& box, const TextMeasure& measure) const;
-    /// Rows that would cross the lower edge of box are left out.
     TableShapes shapes(const Box& box, const TextMeasure& measure) const;
 
   private:

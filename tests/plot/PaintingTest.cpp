@@ -231,6 +231,8 @@ class PaintingTest : public QObject {
             rules += painted.image.pixel(1, y) == QRgb(0xFF000000) && painted.image.pixel(498, y) == QRgb(0xFF000000);
         }
         QCOMPARE(rules, 2);
+        const QSize low(500, 40);
+        QVERIFY(paint(table, low).image == paint(PaneMessage{"Increase Size to View Data"}, low).image);
         QVERIFY(inked(paint(TextPanel{{"one", "two"}, {}}).image) > 2 * inked(paint(TextPanel{{"o"}, {}}).image));
     }
 

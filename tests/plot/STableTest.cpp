@@ -68,15 +68,22 @@ TEST(STable, LongRowTitlesWidenTheirColumnAndKeepTheProbe) {
     EXPECT_LE(shown.box.right, 250);
 }
 
-TEST(STable, ManyRowsShrinkBeforeTheyAreLeftOut) {
+TEST(STable, ManyRowsShrinkAndNeverGoUnnoticed) {
     TableContent content = statistics();
     content.rows.resize(16, content.rows[0]);
-    EXPECT_EQ(shapesOf(content).rules.size(), 16U);
     EXPECT_LT(shapesOf(content).texts[0].share, 1.0);
-    content.rows.resize(100, content.rows[0]);
-    const TableShapes shapes = shapesOf(content);
-    EXPECT_LT(shapes.rules.size(), 100U);
-    EXPECT_LE(shapes.rules.back().from.y, 330);
+    // Whatever the height: either all rows are in the pane or the table says that they are not.
+    bool complete = false;
+    for (int height = 20; height < 450; ++height) {
+        const Box pane{0, 0, 500, height};
+        const TableShapes shapes = shapesOf(content, pane);
+        ASSERT_EQ(shapes.rules.size(), 16U);
+        EXPECT_EQ(shapes.complete, shapes.rules.back().from.y <= height) << height;
+        EXPECT_GE(shapes.complete, complete) << "a higher pane holds what a lower one does: " << height;
+        complete = shapes.complete;
+    }
+    EXPECT_TRUE(complete);
+    EXPECT_FALSE(shapesOf(statistics(), {0, 0, 20, 330}).complete) << "no room for a single letter";
 }
 
 TEST(STable, IndexesAndFormatsAreChecked) {
