@@ -1,10 +1,13 @@
 #include <QCloseEvent>
+#include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTest>
 #include <QUrl>
+#include <algorithm>
 
 #include "FrameDriver.h"
 #include "ui/CVorl_ADVApp.h"
@@ -25,6 +28,13 @@ class FrameFiles : public QObject {
             }
         }
         return texts;
+    }
+
+    static bool showsText(FrameDriver& driver, const char* text) {
+        const QList<QLabel*> labels = driver.frame->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [text](const QLabel* label) {
+            return label->isVisible() && label->text() == QString::fromUtf8(text);
+        });
     }
 
   private Q_SLOTS:
@@ -105,11 +115,22 @@ class FrameFiles : public QObject {
         driver.trigger(Command::NewWorkspace);
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(driver.path("notes.txt")), QUrl::fromLocalFile(driver.path("dropped.avp"))});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        // Whatever a file manager proposes: it must not remove the file.
+        const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(QPoint(5, 5), offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        enter.setDropAction(Qt::MoveAction);
         QApplication::sendEvent(driver.frame.get(), &enter);
         QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCOMPARE(enter.dropAction(), Qt::CopyAction);
+        QDragMoveEvent move(QPoint(9, 9), offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        move.setDropAction(Qt::MoveAction);
+        QApplication::sendEvent(driver.frame.get(), &move);
+        QCOMPARE(move.dropAction(), Qt::CopyAction);
+        QDropEvent drop(QPointF(9, 9), offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        drop.setDropAction(Qt::MoveAction);
         QApplication::sendEvent(driver.frame.get(), &drop);
+        QVERIFY(drop.isAccepted());
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QVERIFY(driver.document().HasProbe());
     }
 
@@ -126,15 +147,33 @@ class FrameFiles : public QObject {
             QVERIFY(driver.frame->statusPane().progressBar().isVisible());
             driver.frame->close();
             QVERIFY2(driver.frame->isVisible(), "a busy window stays");
+            QVERIFY2(showsText(driver, "Closing when the calculation ends"), "and says what it waits for");
             QTest::keyClick(driver.frame.get(), Qt::Key_Escape);
         });
         QCOMPARE(driver.document().SpectralAnalysis(settings), Outcome::Cancelled);
         QVERIFY(disabled);
         QVERIFY(driver.document().Probe() == before);
         QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QVERIFY(!showsText(driver, "Closing when the calculation ends"));
         QVERIFY(driver.enabled(Command::SimulateTimeSeries));
         QTRY_VERIFY2(!driver.frame->isVisible(), "the close that was asked for follows");
         QCOMPARE(driver.boxes.saveQuestions.size(), 1);
+    }
+
+    void escapeClosesAnOpenMenuBeforeItCancels() {
+        FrameDriver driver;
+        driver.simulate(1000.0);
+        SpectralSettings settings;
+        settings.percent = 50;
+        bool closed = false;
+        QTimer::singleShot(0, driver.frame.get(), [&] {
+            QMenu* menu = driver.frame->menuBar()->actions().first()->menu();
+            menu->popup(driver.frame->mapToGlobal(QPoint(10, 30)));
+            QTest::keyClick(menu, Qt::Key_Escape);
+            closed = driver.document().IsRunning() && !menu->isVisible();
+        });
+        QCOMPARE(driver.document().SpectralAnalysis(settings), Outcome::Done);
+        QVERIFY(closed);
     }
 
     void commandLinesAreReadWithoutADisplay() {

@@ -85,6 +85,30 @@ class FrameMouse : public QObject {
         QCOMPARE(driver.document().Probe().WorkingSamples(), 1000);
     }
 
+    void aDragEndsAtTheEdgeAndEscapeForgetsIt() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.trigger(Command::ZoomAndClipping);
+        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
+        view.grab();
+        const CScreenUtils g = view.geometry().value();
+        QTest::mousePress(&view, Qt::LeftButton, {}, inPlot(view, 0.5));
+        QTest::mouseMove(&view, QPoint(g.originX + g.width + 500, g.originY));
+        const QString end = QStringLiteral("to: %1 s").arg(g.xValue(g.originX + g.width), 0, 'f', 2);
+        QVERIFY2(driver.status().endsWith(end), qPrintable(driver.status()));
+
+        QTest::keyClick(&view, Qt::Key_Escape);
+        QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QTest::mouseRelease(&view, Qt::LeftButton, {}, inPlot(view, 0.9));
+        QCOMPARE(driver.document().Probe().WorkingSamples(), 1000);
+
+        QTest::mousePress(&view, Qt::LeftButton, {}, inPlot(view, 0.5));
+        QTest::mouseMove(&view, inPlot(view, 0.7));
+        QTest::keyClick(&view, Qt::Key_Escape);
+        QVERIFY2(driver.status().startsWith(QLatin1String("Time: ")), qPrintable(driver.status()));
+        QTest::mouseRelease(&view, Qt::LeftButton, {}, inPlot(view, 0.7));
+    }
+
     void aDragFromBeforeTheRecordIsRefused() {
         FrameDriver driver;
         driver.simulate();

@@ -29,6 +29,12 @@ QString droppedWorkspace(const QMimeData& data) {
     return {};
 }
 
+// The file stays where it is: a source that is told of a move may delete it.
+void acceptCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 }  // namespace
 
 CMainFrame::CMainFrame(QWidget* parent)
@@ -41,6 +47,7 @@ CMainFrame::CMainFrame(QWidget* parent)
       tabs_(new StageTabs(this)),
       panes_(new PaneGrid(this)),
       statusPane_(new StatusPane(this)),
+      waiting_(new QLabel(this)),
       commands_(document_, files_, *panes_, *this) {
     setAcceptDrops(true);
     auto* centre = new QWidget(this);
@@ -76,18 +83,29 @@ void CMainFrame::buildBars() {
         spectralBar_->addAction(actions_->of(command));
     }
     statusBar()->addWidget(statusPane_, 1);
+    statusBar()->addPermanentWidget(waiting_);
+    waiting_->setTextFormat(Qt::PlainText);
+    waiting_->hide();
     port_.setStatusPane(statusPane_);
 
     const auto bindSwitch = [this](Command command, QWidget* bar) {
         QAction* action = actions_->of(command);
         action->setChecked(true);
-        connect(action, &QAction::toggled, bar, &QWidget::setVisible);
+        connect(action, &QAction::toggled, this, [this, bar](bool on) { showBar(*bar, on); });
     };
     bindSwitch(Command::SelectionToolbar, selectionBar_);
     bindSwitch(Command::SpectralToolbar, spectralBar_);
     bindSwitch(Command::StatusBar, statusBar());
     // The bars' own context menu and close handles would bypass the View menu.
     setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+void CMainFrame::showBar(QWidget& bar, bool on) {
+    // A selector that goes with its bar must not pass the focus to just any pane, which would become the active view.
+    if (!on && focusWidget() != nullptr && bar.isAncestorOf(focusWidget())) {
+        panes_->view(document_.ActivePane()).setFocus();
+    }
+    bar.setVisible(on);
 }
 
 void CMainFrame::buildShortcuts() {
@@ -177,6 +195,7 @@ void CMainFrame::runStateChanged(bool running) {
     if (running) {
         return;
     }
+    waiting_->hide();
     // Disabled controls pass the focus on; it belongs to where the user left it.
     if (focusBeforeRun_ != nullptr) {
         focusBeforeRun_->setFocus();
@@ -193,6 +212,11 @@ void CMainFrame::runStateChanged(bool running) {
             close();
         }
     });
+}
+
+void CMainFrame::showWaiting(const QString& text) {
+    waiting_->setText(text);
+    waiting_->show();
 }
 
 void CMainFrame::showCursorValues(Pane pane, QPoint position) {
@@ -250,7 +274,9 @@ void CMainFrame::cyclePane(int step) {
 
 void CMainFrame::closeEvent(QCloseEvent* event) {
     if (document_.IsRunning()) {
+        // The run goes on: its result may be what the user wants to save before leaving.
         closeWhenDone_ = true;
+        showWaiting(QStringLiteral("Closing when the calculation ends"));
         event->ignore();
         return;
     }
@@ -259,8 +285,12 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
 
 void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
     if (!droppedWorkspace(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
+        acceptCopy(*event);
     }
+}
+
+void CMainFrame::dragMoveEvent(QDragMoveEvent* event) {
+    acceptCopy(*event);
 }
 
 void CMainFrame::dropEvent(QDropEvent* event) {
@@ -268,9 +298,10 @@ void CMainFrame::dropEvent(QDropEvent* event) {
     if (path.isEmpty()) {
         return;
     }
-    event->acceptProposedAction();
+    acceptCopy(*event);
     if (document_.IsRunning()) {
         dropWhenDone_ = path;
+        showWaiting(QStringLiteral("%1: opening when the calculation ends").arg(QFileInfo(path).fileName()));
         return;
     }
     files_.openPath(path);

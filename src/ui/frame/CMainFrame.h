@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
 #include <memory>
@@ -36,15 +37,18 @@ class CMainFrame : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
     void buildBars();
+    void showBar(QWidget& bar, bool on);
     void buildShortcuts();
     void connectWidgets();
     void runCommand(Command command);
     void documentChanged(Change change);
     void runStateChanged(bool running);
+    void showWaiting(const QString& text);
     void refreshCommands();
     void refreshTitle();
     void showCursorValues(Pane pane, QPoint position);
@@ -63,6 +67,7 @@ class CMainFrame : public QMainWindow {
     StageTabs* tabs_;
     PaneGrid* panes_;
     StatusPane* statusPane_;
+    QLabel* waiting_;  ///< what follows the run
     UserCommands commands_;
     QPointer<QWidget> focusBeforeRun_;
     bool closeWhenDone_ = false;

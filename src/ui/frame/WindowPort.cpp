@@ -82,8 +82,9 @@ bool WindowPort::pump() {
 }
 
 bool WindowPort::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && QApplication::activeModalWidget() == nullptr &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    // A box or an open menu takes the key first.
+    const bool forTheRun = QApplication::activeModalWidget() == nullptr && QApplication::activePopupWidget() == nullptr;
+    if (event->type() == QEvent::KeyPress && forTheRun && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         cancelled_ = true;
         return true;
     }

@@ -77,6 +77,10 @@ void CVorl_ADVView::showBand(int toX) {
     band_->show();
 }
 
+int CVorl_ADVView::withinPlot(int x) const {
+    return geometry_ ? std::clamp(x, geometry_->originX, geometry_->originX + geometry_->width) : x;
+}
+
 void CVorl_ADVView::endDrag() {
     dragFrom_.reset();
     if (band_ != nullptr) {
@@ -90,24 +94,26 @@ void CVorl_ADVView::mousePressEvent(QMouseEvent* event) {
     if (intervalSelection_ && event->button() == Qt::LeftButton && geometry_.has_value() &&
         geometry_->contains(position.x(), position.y())) {
         dragFrom_ = position.x();
+        cursor_ = position;
     }
     QWidget::mousePressEvent(event);
 }
 
 void CVorl_ADVView::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint position = event->position().toPoint();
+    cursor_ = event->position().toPoint();
     if (dragFrom_.has_value() && geometry_.has_value()) {
-        showBand(position.x());
-        Q_EMIT intervalDragged(pane_, *dragFrom_, position.x());
+        const int to = withinPlot(cursor_.x());
+        showBand(to);
+        Q_EMIT intervalDragged(pane_, *dragFrom_, to);
         return;
     }
-    Q_EMIT cursorMoved(pane_, position);
+    Q_EMIT cursorMoved(pane_, cursor_);
 }
 
 void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && dragFrom_.has_value()) {
         const int from = *dragFrom_;
-        const int to = event->position().toPoint().x();
+        const int to = withinPlot(event->position().toPoint().x());
         endDrag();
         if (std::abs(to - from) >= kSmallestDrag) {
             Q_EMIT intervalChosen(pane_, std::min(from, to), std::max(from, to));
@@ -119,6 +125,12 @@ void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
 void CVorl_ADVView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && dragFrom_.has_value()) {
         endDrag();
+        // The interval is forgotten: what is read is under the cursor again, or nothing.
+        if (rect().contains(cursor_)) {
+            Q_EMIT cursorMoved(pane_, cursor_);
+        } else {
+            Q_EMIT cursorLeft(pane_);
+        }
         return;
     }
     QWidget::keyPressEvent(event);

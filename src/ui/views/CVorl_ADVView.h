@@ -59,6 +59,8 @@ class CVorl_ADVView : public QWidget {
   private:
     QRect pageArea() const;
     void showBand(int toX);
+    /// A drag that leaves the plot area reaches to its edge.
+    int withinPlot(int x) const;
     void endDrag();
 
     Pane pane_;
@@ -67,6 +69,7 @@ class CVorl_ADVView : public QWidget {
     bool active_ = false;
     bool intervalSelection_ = false;
     std::optional<int> dragFrom_;
+    QPoint cursor_;  ///< where the mouse was last
     QRubberBand* band_ = nullptr;
 };
 
