@@ -23,6 +23,7 @@ const QString kHelp = QStringLiteral(
     "\n"
     "  -h, --help       print this help and leave\n"
     "  -v, --version    print the version and leave\n"
+    "Options of the toolkit, such as -style and -geometry, are accepted too.\n"
     "\n"
     "vorlan-batch runs the same commands without a window.\n");
 
@@ -65,26 +66,32 @@ QIcon programIcon() {
 
 }  // namespace
 
+std::optional<QString> requestedText(const QStringList& arguments) {
+    for (const QString& argument : arguments.mid(1)) {
+        if (argument == QLatin1String("--")) {
+            break;
+        }
+        if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
+            return kHelp;
+        }
+        if (argument == QLatin1String("--version") || argument == QLatin1String("-v")) {
+            return QStringLiteral("Vorlan %1\n").arg(QString::fromLatin1(kVersionText).section(QLatin1Char(' '), 1));
+        }
+    }
+    return std::nullopt;
+}
+
 CommandLine readCommandLine(const QStringList& arguments) {
     CommandLine line;
     bool options = true;
     for (const QString& argument : arguments.mid(1)) {
         if (options && argument == QLatin1String("--")) {
             options = false;
-        } else if (options && (argument == QLatin1String("--help") || argument == QLatin1String("-h"))) {
-            line.message = kHelp;
-            return line;
-        } else if (options && (argument == QLatin1String("--version") || argument == QLatin1String("-v"))) {
-            line.message =
-                QStringLiteral("Vorlan %1\n").arg(QString::fromLatin1(kVersionText).section(QLatin1Char(' '), 1));
-            return line;
         } else if (options && argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
-            line.message = QStringLiteral("vorlan: unknown option %1\n").arg(argument) + kHelp;
-            line.status = 2;
+            line.refusal = QStringLiteral("vorlan: unknown option %1\n").arg(argument) + kHelp;
             return line;
         } else if (line.workspace.has_value()) {
-            line.message = QStringLiteral("vorlan: one workspace only\n") + kHelp;
-            line.status = 2;
+            line.refusal = QStringLiteral("vorlan: one workspace only\n") + kHelp;
             return line;
         } else {
             line.workspace = argument;

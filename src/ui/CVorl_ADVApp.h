@@ -12,12 +12,14 @@ namespace vorlan {
 /// What the program was started with.
 struct CommandLine {
     std::optional<QString> workspace;
-    /// Set when the program has nothing to start: the text to print and the exit status.
-    std::optional<QString> message;
-    int status = 0;
+    /// Set when the program must not start: why, and the help.
+    std::optional<QString> refusal;
 };
 
-/// Reads the command line: an optional workspace, --help, --version. Needs no display.
+/// The text that --help or --version ask for, wherever they stand before "--". Needs no display.
+std::optional<QString> requestedText(const QStringList& arguments);
+
+/// Reads what the toolkit has left of the command line: an optional workspace.
 CommandLine readCommandLine(const QStringList& arguments);
 
 /// The application: starts the program, registers the workspace type, shows the window.

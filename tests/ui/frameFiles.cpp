@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QProcess>
 #include <QTest>
 #include <QUrl>
 #include <algorithm>
@@ -176,18 +177,43 @@ class FrameFiles : public QObject {
         QVERIFY(closed);
     }
 
-    void commandLinesAreReadWithoutADisplay() {
-        const auto read = [](const char* argument) {
-            return readCommandLine({QStringLiteral("vorlan"), QString::fromUtf8(argument)});
+    void commandLinesAreRead() {
+        const auto read = [](std::initializer_list<const char*> arguments) {
+            QStringList line{QStringLiteral("vorlan")};
+            for (const char* argument : arguments) {
+                line.append(QString::fromUtf8(argument));
+            }
+            return line;
         };
-        QCOMPARE(read("a.avp").workspace.value(), QStringLiteral("a.avp"));
-        QVERIFY(read("--help").message->contains(QLatin1String("Usage: vorlan")));
-        QCOMPARE(read("--version").message.value(), QStringLiteral("Vorlan 1.59\n"));
-        QCOMPARE(read("--nonsense").status, 2);
-        QCOMPARE(readCommandLine({QStringLiteral("vorlan"), QStringLiteral("--"), QStringLiteral("-x.avp")})
-                     .workspace.value(),
-                 QStringLiteral("-x.avp"));
-        QCOMPARE(readCommandLine({QStringLiteral("vorlan"), QStringLiteral("a"), QStringLiteral("b")}).status, 2);
+        QCOMPARE(readCommandLine(read({"a.avp"})).workspace.value(), QStringLiteral("a.avp"));
+        QCOMPARE(readCommandLine(read({"--", "-x.avp"})).workspace.value(), QStringLiteral("-x.avp"));
+        QVERIFY(readCommandLine(read({"--nonsense"})).refusal->contains(QLatin1String("unknown option --nonsense")));
+        QVERIFY(readCommandLine(read({"a", "b"})).refusal.has_value());
+        QVERIFY(requestedText(read({"-style", "fusion", "--help"}))->contains(QLatin1String("Usage: vorlan")));
+        QCOMPARE(requestedText(read({"--version"})).value(), QStringLiteral("Vorlan 1.59\n"));
+        QVERIFY(!requestedText(read({"a.avp", "--", "--help"})).has_value());
+    }
+
+    void theToolkitTakesItsOptionsFirst() {
+        const auto run = [](const QStringList& arguments, const char* platform) {
+            QProcess program;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QString::fromUtf8(platform));
+            program.setProcessEnvironment(environment);
+            program.start(QStringLiteral(VORLAN_PROGRAM), arguments);
+            program.waitForFinished();
+            return std::pair(program.exitCode(), program.readAllStandardOutput() + program.readAllStandardError());
+        };
+        const QStringList options = QStringLiteral("-platform offscreen -style fusion --style=fusion").split(u' ');
+        const auto [unknown, why] = run(options + QStringList{QStringLiteral("--nonsense")}, "none");
+        QCOMPARE(unknown, 2);
+        QVERIFY2(why.contains("unknown option --nonsense"), why.constData());
+        const auto [two, whyTwo] = run(options + QStringList{QStringLiteral("a"), QStringLiteral("b")}, "none");
+        QCOMPARE(two, 2);
+        QVERIFY2(whyTwo.contains("one workspace only"), whyTwo.constData());
+        const auto [help, text] = run({QStringLiteral("--help")}, "none");
+        QCOMPARE(help, 0);
+        QVERIFY2(text.startsWith("Usage: vorlan"), "help needs no display");
     }
 
     void theDocumentTypeIsRegisteredOnce() {
