@@ -113,6 +113,7 @@ Subcommand addImportCommand(CLI::App& program) {
                 options->table.velocityResolution = options->settings.resolution;
                 options->table.missing =
                     options->missing == 1 ? TableOptions::Missing::Mark : TableOptions::Missing::Error;
+                requireReplaceable(options->out);
                 SilentPort port;
                 CVorl_ADVDoc document(port);
                 if (options->append) {

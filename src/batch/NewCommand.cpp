@@ -15,10 +15,11 @@ Subcommand addNewCommand(CLI::App& program) {
                }
                *path = text;
            },
-           "The workspace to write; an existing file is replaced")
+           "The workspace to write; an existing one is replaced")
         ->required()
         ->type_name("");
     return {app, [path](Console&) {
+                requireReplaceable(*path);
                 SilentPort port;
                 CVorl_ADVDoc document(port);
                 saveDocument(document, *path);

@@ -44,6 +44,12 @@ std::string identityOf(const std::filesystem::path& path) {
     return error ? path.lexically_normal().string() : whole.string();
 }
 
+void requireOtherThanWorkspace(const std::string& output) {
+    if (kindOf(output) == FileKind::Workspace) {
+        throw usageError(output + " is a workspace: nothing else takes its place");
+    }
+}
+
 void PendingOutputs::add(const std::string& path, std::string bytes) {
     const auto same =
         std::find_if(outputs_.begin(), outputs_.end(), [&](const Output& output) { return output.path == path; });

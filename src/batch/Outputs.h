@@ -19,6 +19,9 @@ void writeOutput(const std::string& path, std::string_view bytes, Console& conso
 /// One name per file, however it is spelled: absolute, links followed as far as there are any.
 std::string identityOf(const std::filesystem::path& path);
 
+/// Refuses to put a table or a picture in the place of a workspace.
+void requireOtherThanWorkspace(const std::string& output);
+
 /// The files that a run makes. They are held back until everything succeeded, so a refused step leaves all of them as
 /// they were.
 class PendingOutputs {

@@ -75,6 +75,9 @@ void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
     for (std::size_t i = 0; i < arguments.inputs.size(); ++i) {
         inputs.insert(identityOf(arguments.inputs[i]));
         if (!targets[i].empty()) {
+            if (!arguments.inPlace) {
+                requireReplaceable(targets[i]);
+            }
             owners.claim(targets[i].string(), i, arguments);
         }
         for (const RecipeStep& step : recipe.steps) {
@@ -89,6 +92,7 @@ void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
         if (inputs.count(identityOf(path)) != 0) {
             throw usageError(path + " is an input: a step cannot write over it");
         }
+        requireOtherThanWorkspace(path);
     }
     for (std::size_t i = 0; i < targets.size() && !arguments.outDir.empty(); ++i) {
         if (inputs.count(identityOf(targets[i])) != 0) {

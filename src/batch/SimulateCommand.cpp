@@ -142,6 +142,7 @@ Subcommand addSimulateCommand(CLI::App& program) {
     const CLI::Option* noise = app->get_option("--noise-variance");
     return {app, [options, compass, noise](Console&) {
                 options->parameters.compass = compass->count() > 0;
+                requireReplaceable(options->out);
                 SilentPort port;
                 CVorl_ADVDoc document(port);
                 if (options->append) {

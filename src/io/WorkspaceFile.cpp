@@ -48,6 +48,17 @@ Workspace openWorkspace(const std::filesystem::path& path) {
     return workspace;
 }
 
+bool isWorkspaceFile(const std::filesystem::path& path) {
+    InputFile file(path);
+    Archive archive = Archive::loading(file);
+    try {
+        serializeVersion(archive);
+    } catch (const ArchiveError&) {
+        return false;
+    }
+    return true;
+}
+
 void saveWorkspace(Workspace& workspace, const std::filesystem::path& path) {
     AtomicFile file(path);
     AtomicFileSink sink(file);

@@ -10,12 +10,29 @@ Workspace::Workspace() {
     pages.SetSize(kStageCount);
 }
 
-void Workspace::Serialize(Archive& archive) {
+namespace {
+
+/// Other files begin with something that reads as a text, too, but hardly with a printable one.
+bool isVersionText(const std::string& text) {
+    const bool number = text.find_first_of("0123456789.") != std::string::npos;
+    return number && std::none_of(text.begin(), text.end(), [](char c) {
+               const auto code = static_cast<unsigned char>(c);
+               return code < 0x20 || code == 0x7f;
+           });
+}
+
+}  // namespace
+
+void serializeVersion(Archive& archive) {
     std::string version = kVersionText;
     archive.value(version);
-    if (archive.isLoading() && version.find_first_of("0123456789.") == std::string::npos) {
+    if (archive.isLoading() && !isVersionText(version)) {
         throw InvalidVersionError();
     }
+}
+
+void Workspace::Serialize(Archive& archive) {
+    serializeVersion(archive);
     settings.Serialize(archive);
     dataFiles.Serialize(archive);
     boundaries.Serialize(archive);

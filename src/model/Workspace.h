@@ -17,11 +17,14 @@ namespace vorlan {
 /// The program's version text, written at the head of every workspace.
 inline constexpr const char* kVersionText = "Version 1.59";
 
-/// The version text of the file holds no number.
+/// The version text of the file holds no number, or bytes that no text has.
 class InvalidVersionError : public FormatError {
   public:
     InvalidVersionError() : FormatError("Invalid Workspace format.", 0) {}
 };
+
+/// Writes the version text, or reads one: any with a number will do, older or newer. InvalidVersionError.
+void serializeVersion(Archive& archive);
 
 /// Everything that a workspace file holds.
 class Workspace : public SObject {
@@ -30,8 +33,7 @@ class Workspace : public SObject {
 
     const char* ClassName() const override { return "Workspace"; }
     /// Version text, document block, data files, boundaries, then the page records when there are any to keep.
-    /// While loading, a version text without a number raises InvalidVersionError; bytes behind
-    /// what this program knows are kept and stored again. Load into a new object only.
+    /// Bytes behind what this program knows are kept and stored again. Load into a new object only.
     void Serialize(Archive& archive) override;
 
     WorkspaceSettings settings;

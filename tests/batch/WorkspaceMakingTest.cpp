@@ -218,6 +218,41 @@ TEST_F(WorkspaceMakingTest, WorkspacesThatCannotBeReadEndWithThree) {
     EXPECT_FALSE(std::filesystem::exists(path("o.avp")));
 }
 
+TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
+    const std::string avp = simulated("a.avp");
+    const std::string other = simulated("b.avp", "2");
+    const std::string table = write("t.csv", "u,v,w\n1,2,3\n4,5,6\n7,8,9\n");
+    const std::string recipe = write("r.toml", "[[step]]\ndo = \"reset\"\n");
+    const std::string exporting =
+        write("e.toml", "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + other + "\"\n");
+    const std::string before = read(avp);
+    const std::string beside = read(other);
+    const struct {
+        std::vector<std::string> arguments;
+        std::string named;
+    } rows[] = {
+        {{"import", "--interval", "1", "--out", table, table}, table},
+        {{"simulate", "--out", table}, table},
+        {{"new", table}, table},
+        {{"run", "--recipe", recipe, "--out", table, avp}, table},
+        {{"export", "velocities", "--out", avp, avp}, avp},
+        {{"export", "velocities", "--out", other, avp}, other},
+        {{"run", "--recipe", exporting, avp}, other},
+    };
+    for (const auto& row : rows) {
+        const Result result = run(row.arguments);
+        EXPECT_EQ(result.status, 2) << row.arguments[0];
+        EXPECT_TRUE(holds(result.err, row.named + " is ")) << result.err;
+    }
+    EXPECT_EQ(read(table), "u,v,w\n1,2,3\n4,5,6\n7,8,9\n");
+    EXPECT_EQ(read(avp), before);
+    EXPECT_EQ(read(other), beside);
+    // Workspaces and tables that were made before are replaced by their like, empty files by anything.
+    done({"import", "--interval", "1", "--out", write("empty", ""), table});
+    done({"export", "velocities", "--out", write("old.dat", "old"), avp});
+    done({"run", "--recipe", recipe, "--out", other, avp});
+}
+
 TEST_F(WorkspaceMakingTest, OutputsThatCannotBeWrittenEndWithFour) {
     const std::string avp = simulated("a.avp");
     const std::string table = write("t.csv", "u,v,w\n1,2,3\n");
