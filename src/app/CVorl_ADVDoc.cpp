@@ -59,14 +59,18 @@ void CVorl_ADVDoc::Tell(Change change) const {
 void CVorl_ADVDoc::NewWorkspace() {
     workspace_ = Workspace();
     path_.clear();
+    stamp_.reset();
     modified_ = false;
     Tell(Change::Workspace);
 }
 
 void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
+    // Before it is read: what is written meanwhile is a change.
+    const std::optional<FileStamp> stamp = fileStampOf(path);
     Workspace fresh = vorlan::openWorkspace(path);
     workspace_ = std::move(fresh);
     path_ = path;
+    stamp_ = stamp;
     modified_ = false;
     Tell(Change::Workspace);
 }
@@ -74,8 +78,14 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
 void CVorl_ADVDoc::SaveWorkspace(const std::filesystem::path& path) {
     vorlan::saveWorkspace(workspace_, path);
     path_ = path;
+    stamp_ = fileStampOf(path);
     modified_ = false;
     Tell(Change::View);
+}
+
+bool CVorl_ADVDoc::IsChangedOnDisk() const {
+    const std::optional<FileStamp> now = fileStampOf(path_);
+    return stamp_ && now && *now != *stamp_;
 }
 
 Outcome CVorl_ADVDoc::RunOnProbe(const ProbeOperation& operation, int progressOffset) {

@@ -17,6 +17,7 @@
 #include "analysis/SpectralSettings.h"
 #include "analysis/StationaritySettings.h"
 #include "app/DocumentPort.h"
+#include "io/FileStamp.h"
 #include "model/Workspace.h"
 
 namespace vorlan {
@@ -60,6 +61,8 @@ class CVorl_ADVDoc {
     const WorkspaceSettings& Settings() const { return workspace_.settings; }
     const std::filesystem::path& GetPath() const { return path_; }
     bool IsModified() const { return modified_; }
+    /// True when another program has written the file since it was opened or saved here.
+    bool IsChangedOnDisk() const;
     /// True while a calculation runs: no command may start.
     bool IsRunning() const { return running_; }
 
@@ -167,6 +170,7 @@ class CVorl_ADVDoc {
     Listener listener_;
     Workspace workspace_;
     std::filesystem::path path_;
+    std::optional<FileStamp> stamp_;  // of the file at path_ when it was opened or saved
     bool modified_ = false;
     bool running_ = false;
     EditingResult lastEditing_;

@@ -211,6 +211,25 @@ TEST_F(Commands, AFailedOpenLeavesTheWorkspace) {
     std::filesystem::remove(path);
 }
 
+TEST_F(Commands, WhatOthersWroteOnTheFileIsNoticed) {
+    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "two.avp";
+    EXPECT_FALSE(document.IsChangedOnDisk());
+    document.SaveWorkspace(path);
+    EXPECT_FALSE(document.IsChangedOnDisk());
+    SilentPort otherPort;
+    CVorl_ADVDoc second(otherPort);
+    second.OpenWorkspace(path);
+    second.CloseFile();
+    second.SaveWorkspace(path);
+    EXPECT_TRUE(document.IsChangedOnDisk());
+    EXPECT_FALSE(second.IsChangedOnDisk());
+    document.SaveWorkspace(path);
+    EXPECT_FALSE(document.IsChangedOnDisk());
+    // A file that is gone is no change to keep.
+    std::filesystem::remove(path);
+    EXPECT_FALSE(document.IsChangedOnDisk());
+}
+
 TEST_F(Commands, FramesAreCreatedFromTheDefaults) {
     FrameAttributesType frame;
     frame.plotTitle = "mine";
