@@ -237,6 +237,7 @@ EditingResult editSeries(SAdvProbe& probe, const EditingSettings& settings, Prog
         probe.useAllSamples = 1;
     }
 
+    progress.status("Time series editing: ");
     EditingResult result;
     if (settings.correlation.on) {
         result.correlation = testScores(probe, SAdvProbe::kCorrelation, settings.correlation.statistic,

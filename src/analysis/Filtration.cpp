@@ -66,6 +66,7 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     if (!(m >= 0.0 && 2.0 * m < probe.WorkingSamples())) {
         throw InvalidArgument();
     }
+    progress.status("Digital filtration calculations: ");
     const std::vector<double> weights =
         filterWeights(settings.shape, static_cast<int>(m), settings.cutoff * probe.samplingInterval);
     SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];

@@ -91,6 +91,7 @@ void computeHistogram(STimeSeries& series, int grades) {
 }
 
 void analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, Progress& progress) {
+    progress.status("Distribution calculations: ");
     formAnalysedSeries(probe);
     const bool empty = probe.seriesU.values.IsEmpty();
     const bool earlier = !probe.seriesU.histogram.IsEmpty();

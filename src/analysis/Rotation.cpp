@@ -48,6 +48,7 @@ void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll, Pr
 }
 
 void changeCoordinateSystem(SAdvProbe& probe, const RotationSettings& settings, Progress& progress) {
+    progress.status("Coordinate rotation calculations: ");
     probe.samplingVolumeX = settings.position[0] / kMetresPerMillimetre;
     probe.samplingVolumeY = settings.position[1] / kMetresPerMillimetre;
     probe.samplingVolumeZ = settings.position[2] / kMetresPerMillimetre;

@@ -119,6 +119,7 @@ void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progr
 }
 
 void analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress) {
+    progress.status("Stationarity calculations: ");
     formAnalysedSeries(probe);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
