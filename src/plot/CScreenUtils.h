@@ -17,6 +17,8 @@ class CScreenUtils {
     double xMax = 1.0;
     double yMin = 0.0;
     double yMax = 1.0;
+    double xStep = 1.0;  ///< between marks of a linear axis, data units
+    double yStep = 1.0;
     double xScale = 1.0;
     double yScale = 1.0;
     ScaleType scaleType = ScaleType::Linear;

@@ -206,6 +206,8 @@ class Composer {
         g.xMax = x_.maximum;
         g.yMin = y_.minimum;
         g.yMax = y_.maximum;
+        g.xStep = x_.markStep;
+        g.yStep = y_.markStep;
         g.xScale = logX_ ? x_.pixelsPerMark : x_.markStep / x_.pixelsPerMark;
         g.yScale = logY_ ? y_.pixelsPerMark : y_.markStep / y_.pixelsPerMark;
         x_.originX = y_.originX = g.originX;

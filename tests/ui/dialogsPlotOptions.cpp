@@ -134,6 +134,33 @@ class DialogsPlotOptions : public QObject {
         QCOMPARE(dialog.values().gridMode, static_cast<std::int32_t>(GridMode::Both));
     }
 
+    void automaticValuesStartFromWhatIsDrawn() {
+        FrameAttributesType frame;
+        frame.xMin = 3.0;
+        frame.yMinMode = 1;
+        frame.yMin = -7.0;
+        DrawnAxes drawn;
+        drawn.xMin = -40.0;
+        drawn.xMax = 0.0;
+        drawn.xStep = 5.0;
+        drawn.yMin = -8.0;
+        CPlotOptDlg untouched(frame, kLinear, drawn);
+        QVERIFY(DialogDriver(untouched).accepted());
+        QVERIFY2(untouched.values() == frame, "what is only shown is not stored");
+
+        CPlotOptDlg dialog(frame, kLinear, drawn);
+        DialogDriver driver(dialog);
+        QCOMPARE(value(driver, "     X", 0)->text(), QStringLiteral("-40"));
+        QCOMPARE(value(driver, "     Y", 0)->text(), QStringLiteral("-7"));
+        driver.click("     X", 1);
+        driver.click("     X", 2);
+        QVERIFY2(driver.accepted(), "the drawn ends are not equal, whatever is stored");
+        QCOMPARE(dialog.values().xMaxMode, 1);
+        QCOMPARE(dialog.values().xMax, 0.0);
+        QCOMPARE(dialog.values().xStep, 5.0);
+        QCOMPARE(dialog.values().xMin, 3.0);
+    }
+
     void refusesEqualLimitsOnly() {
         FrameAttributesType frame;
         frame.xMinMode = frame.xMaxMode = frame.yMinMode = frame.yMaxMode = 1;
@@ -189,6 +216,20 @@ class DialogsPlotOptions : public QObject {
         QVERIFY(dialog.values().labelFont == big);
         QVERIFY(dialog.values().plotTitleFont == FontDescription());
         QVERIFY(dialog.values().legendFont == FontDescription());
+    }
+
+    void largeFontsAreToldNotShown() {
+        FrameAttributesType frame;
+        CPlotOptDlg usual(frame, kLinear);
+        frame.plotTitleFont = FontDescription("ARIAL", -96, 700, true);
+        frame.axisTitleFont = frame.labelFont = frame.legendFont = frame.plotTitleFont;
+        CPlotOptDlg dialog(frame, kLinear);
+        DialogDriver driver(dialog);
+        QVERIFY2(dialog.sizeHint().height() < usual.sizeHint().height() + 100,
+                 qPrintable(QString::number(dialog.sizeHint().height())));
+        QVERIFY(driver.shows("ARIAL, 96 px, bold italic"));
+        QVERIFY(driver.accepted());
+        QVERIFY(dialog.values() == frame);
     }
 
     void storesAPickedColour() {

@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -124,6 +125,25 @@ class FrameCommands : public QObject {
         QCOMPARE(driver.document().CurrentStage(), Stage::Spectral);
     }
 
+    void plotOptionsStartFromTheAxesThatAreSeen() {
+        FrameDriver driver;
+        driver.simulate();
+        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
+        view.grab();
+        const double top = view.geometry().value().yMax;
+        QVERIFY(driver.withDialog(Command::PlotFrameOptions, "Plot Frame Options", [](QDialog& dialog) {
+            int row = 0;
+            for (QCheckBox* box : dialog.findChildren<QCheckBox*>()) {
+                if (box->text() == QLatin1String("     Y") && row++ == 1) {
+                    box->click();
+                }
+            }
+        }));
+        const FrameAttributesType& frame = driver.document().Probe().frameAttributes[0].GetAt(0);
+        QCOMPARE(frame.yMaxMode, 1);
+        QCOMPARE(frame.yMax, top);
+    }
+
     void cancelledDialogsChangeNothing() {
         FrameDriver driver;
         driver.simulate();
@@ -217,6 +237,10 @@ class FrameCommands : public QObject {
         QCOMPARE(std::get<Diagram>(driver.content(Pane::LeftBottom)).frame.plotTitle, std::string("Quality"));
         driver.document().SelectActivePane(Pane::RightBottom);
         QVERIFY2(!driver.enabled(Command::PlotFrameOptions), "the pane shows a table");
+        driver.trigger(Command::ResultsTable);
+        QVERIFY2(!driver.enabled(Command::PlotFrameOptions), "the pane says that there is no pressure");
+        QVERIFY(driver.withDialog(Command::Histograms, "Univariate Distributions | Histogram Parameters"));
+        QVERIFY(!driver.enabled(Command::PlotFrameOptions));
         driver.trigger(Command::ResultsTable);
         QVERIFY(driver.enabled(Command::PlotFrameOptions));
     }

@@ -3,10 +3,12 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "model/FrameLimits.h"
 #include "ui/dialogs/FieldLayout.h"
@@ -20,6 +22,7 @@ namespace {
 
 constexpr int kLargestCount = 32767;
 constexpr int kLargestDigits = 9;
+constexpr int kLargestPreview = 24;  // pixels
 
 enum FontRow { kPlotTitleFont, kAxisTitleFont, kLabelFont, kLegendFont };
 
@@ -36,6 +39,13 @@ FontDescription& fontOfRow(FrameAttributesType& frame, int row) {
     }
 }
 
+// Large letters must not drive the dialog off the screen.
+QFont previewFont(const FontDescription& description) {
+    QFont font = platformFont(description);
+    font.setPixelSize(std::min(font.pixelSize(), kLargestPreview));
+    return font;
+}
+
 std::int32_t gridModeOf(bool onMarks, bool onTicks) {
     return static_cast<std::int32_t>(onMarks ? GridMode::Marks : GridMode::None) |
            static_cast<std::int32_t>(onTicks ? GridMode::Ticks : GridMode::None);
@@ -43,8 +53,9 @@ std::int32_t gridModeOf(bool onMarks, bool onTicks) {
 
 }  // namespace
 
-CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales, QWidget* parent)
-    : CParameterDialog(QStringLiteral("Plot Frame Options"), parent), values_(frame), chosen_(frame) {
+CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales,
+                         const DrawnAxes& drawn, QWidget* parent)
+    : CParameterDialog(QStringLiteral("Plot Frame Options"), parent), values_(frame), drawn_(drawn), chosen_(frame) {
     auto* left = new QVBoxLayout;
     left->addWidget(typeBox(allowedScales));
     left->addWidget(limitsBox());
@@ -79,10 +90,17 @@ QLineEdit* CPlotOptDlg::newTitle(const std::string& text) {
 }
 
 void CPlotOptDlg::showFonts() {
-    plotTitle_->setFont(platformFont(chosen_.plotTitleFont));
-    xTitle_->setFont(platformFont(chosen_.axisTitleFont));
-    yTitle_->setFont(platformFont(chosen_.axisTitleFont));
-    legendTitle_->setFont(platformFont(chosen_.legendFont));
+    plotTitle_->setFont(previewFont(chosen_.plotTitleFont));
+    xTitle_->setFont(previewFont(chosen_.axisTitleFont));
+    yTitle_->setFont(previewFont(chosen_.axisTitleFont));
+    legendTitle_->setFont(previewFont(chosen_.legendFont));
+    showFontText();
+}
+
+void CPlotOptDlg::showFontText() {
+    const QString text = fontText(fontOfRow(chosen_, fonts_->currentRow()));
+    fontText_->setText(text);
+    fontText_->setToolTip(text);
 }
 
 void CPlotOptDlg::showColour() {
@@ -112,6 +130,12 @@ void CPlotOptDlg::AutomaticValue::read(FieldReader& reader, double& into, std::i
         mode = automatic->isChecked() ? 0 : 1;
     }
     reader.number(value, into);
+}
+
+void CPlotOptDlg::AutomaticValue::keepStored(double& into, double stored) const {
+    if (automatic->isChecked() && value->untouched()) {
+        into = stored;
+    }
 }
 
 void CPlotOptDlg::readChoices(FrameAttributesType& read) const {
@@ -157,6 +181,12 @@ bool CPlotOptDlg::takeFields(FieldReader& reader) {
     if (!reader.require(refusal, field, QMessageBox::Ok).good()) {
         return false;
     }
+    xMin_.keepStored(read.xMin, chosen_.xMin);
+    yMin_.keepStored(read.yMin, chosen_.yMin);
+    xMax_.keepStored(read.xMax, chosen_.xMax);
+    yMax_.keepStored(read.yMax, chosen_.yMax);
+    xStep_.keepStored(read.xStep, chosen_.xStep);
+    yStep_.keepStored(read.yStep, chosen_.yStep);
     values_ = read;
     return true;
 }

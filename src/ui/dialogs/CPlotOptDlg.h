@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "model/FrameAttributes.h"
@@ -11,6 +12,7 @@ class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -20,13 +22,25 @@ namespace vorlan {
 class IntegerField;
 class NumberField;
 
-/// "Plot Frame Options". Stored words that the dialog cannot show stay as they are until their control is changed.
+/// Ends and mark steps of the axes as they are drawn; empty where nothing is drawn or an axis has no such thing.
+struct DrawnAxes {
+    std::optional<double> xMin;
+    std::optional<double> xMax;
+    std::optional<double> xStep;
+    std::optional<double> yMin;
+    std::optional<double> yMax;
+    std::optional<double> yStep;
+};
+
+/// "Plot Frame Options". Stored words that the dialog cannot show stay as they are until their control is changed. A
+/// value that is left to the diagram shows what is drawn, so that a user who takes it over starts from there.
 class CPlotOptDlg : public CParameterDialog {
     Q_OBJECT
   public:
     /// The scale types that the diagram allows are offered in the order linear, logarithmic, logarithmic Y,
     /// logarithmic X, whatever their order in the argument.
-    CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales, QWidget* parent = nullptr);
+    CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales, const DrawnAxes& drawn = {},
+                QWidget* parent = nullptr);
     const FrameAttributesType& values() const { return values_; }
 
     void setFontPicker(FontPicker pick) { pickFont_ = std::move(pick); }
@@ -42,6 +56,8 @@ class CPlotOptDlg : public CParameterDialog {
         NumberField* value = nullptr;
 
         void read(FieldReader& reader, double& into, std::int32_t& mode) const;
+        /// What was only shown is not stored.
+        void keepStored(double& into, double stored) const;
     };
 
     QWidget* typeBox(std::span<const ScaleType> allowedScales);
@@ -53,10 +69,12 @@ class CPlotOptDlg : public CParameterDialog {
     QWidget* fontsBox();
     QWidget* gridBox();
     QWidget* legendBox();
-    AutomaticValue addAutomatic(QGridLayout* grid, int row, int column, const QString& axis, double value, int mode);
+    AutomaticValue addAutomatic(QGridLayout* grid, int row, int column, const QString& axis, double value, int mode,
+                                const std::optional<double>& drawn);
     IntegerField* newCount(int value);
     QLineEdit* newTitle(const std::string& text);
     void showFonts();
+    void showFontText();
     void showColour();
     void chooseFont();
     void chooseColour();
@@ -64,6 +82,7 @@ class CPlotOptDlg : public CParameterDialog {
     void readChoices(FrameAttributesType& read) const;
 
     FrameAttributesType values_;
+    DrawnAxes drawn_;
     FrameAttributesType chosen_;  ///< holds the fonts and the colour that were picked
     FontPicker pickFont_ = pickFont;
     ColourPicker pickColour_ = pickColour;
@@ -86,6 +105,7 @@ class CPlotOptDlg : public CParameterDialog {
     IntegerField* xDigits_ = nullptr;
     IntegerField* yDigits_ = nullptr;
     QListWidget* fonts_ = nullptr;
+    QLabel* fontText_ = nullptr;
     QCheckBox* gridOnTicks_ = nullptr;
     QCheckBox* gridOnMarks_ = nullptr;
     QComboBox* lineStyle_ = nullptr;

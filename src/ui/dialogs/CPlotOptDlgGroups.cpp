@@ -73,15 +73,16 @@ QWidget* CPlotOptDlg::typeBox(std::span<const ScaleType> allowedScales) {
 }
 
 CPlotOptDlg::AutomaticValue CPlotOptDlg::addAutomatic(QGridLayout* grid, int row, int column, const QString& axis,
-                                                      double value, int mode) {
+                                                      double value, int mode, const std::optional<double>& drawn) {
     AutomaticValue controls;
     controls.automatic = new QCheckBox(axis, this);
-    controls.automatic->setChecked(mode == 0);
+    const bool isAutomatic = mode == 0;
+    controls.automatic->setChecked(isAutomatic);
     controls.automatic->setToolTip(QStringLiteral("Automatic: taken from the data"));
     controls.value = new NumberField(this);
-    controls.value->setNumber(value);
+    controls.value->setNumber(isAutomatic ? drawn.value_or(value) : value);
     controls.value->setCursorPosition(0);
-    controls.value->setEnabled(mode != 0);
+    controls.value->setEnabled(!isAutomatic);
     connect(controls.automatic, &QCheckBox::toggled, controls.value, &QWidget::setDisabled);
     grid->addWidget(controls.automatic, row, column);
     grid->addWidget(controls.value, row, column + 1);
@@ -101,10 +102,10 @@ QWidget* CPlotOptDlg::limitsBox() {
     auto* maximum = new QLabel(QStringLiteral("M&aximum:"), this);
     grid->addWidget(minimum, 1, 0);
     grid->addWidget(maximum, 2, 0);
-    xMin_ = addAutomatic(grid, 1, 1, x, values_.xMin, values_.xMinMode);
-    yMin_ = addAutomatic(grid, 1, 3, y, values_.yMin, values_.yMinMode);
-    xMax_ = addAutomatic(grid, 2, 1, x, values_.xMax, values_.xMaxMode);
-    yMax_ = addAutomatic(grid, 2, 3, y, values_.yMax, values_.yMaxMode);
+    xMin_ = addAutomatic(grid, 1, 1, x, values_.xMin, values_.xMinMode, drawn_.xMin);
+    yMin_ = addAutomatic(grid, 1, 3, y, values_.yMin, values_.yMinMode, drawn_.yMin);
+    xMax_ = addAutomatic(grid, 2, 1, x, values_.xMax, values_.xMaxMode, drawn_.xMax);
+    yMax_ = addAutomatic(grid, 2, 3, y, values_.yMax, values_.yMaxMode, drawn_.yMax);
     minimum->setBuddy(xMin_.automatic);
     maximum->setBuddy(xMax_.automatic);
     grid->setColumnStretch(0, 1);
@@ -114,8 +115,8 @@ QWidget* CPlotOptDlg::limitsBox() {
 QWidget* CPlotOptDlg::stepBox() {
     auto* box = new QGroupBox(QStringLiteral("Mark Step:"), this);
     auto* grid = new QGridLayout(box);
-    xStep_ = addAutomatic(grid, 0, 1, QStringLiteral("     X"), values_.xStep, values_.xStepMode);
-    yStep_ = addAutomatic(grid, 0, 3, QStringLiteral("     Y"), values_.yStep, values_.yStepMode);
+    xStep_ = addAutomatic(grid, 0, 1, QStringLiteral("     X"), values_.xStep, values_.xStepMode, drawn_.xStep);
+    yStep_ = addAutomatic(grid, 0, 3, QStringLiteral("     Y"), values_.yStep, values_.yStepMode, drawn_.yStep);
     // The columns stand under those of the limits.
     const int width = QLabel(QStringLiteral("Automatic")).sizeHint().width();
     grid->setColumnMinimumWidth(1, width);
@@ -177,9 +178,17 @@ QWidget* CPlotOptDlg::fontsBox() {
     auto* button = new QPushButton(QStringLiteral("&Font..."), this);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, &CPlotOptDlg::chooseFont);
-    auto* row = new QHBoxLayout(box);
+    fontText_ = new QLabel(this);
+    fontText_->setTextFormat(Qt::PlainText);
+    // A long face name must not widen the dialog.
+    fontText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    connect(fonts_, &QListWidget::currentRowChanged, this, &CPlotOptDlg::showFontText);
+    auto* row = new QHBoxLayout;
     row->addWidget(fonts_, 1);
     row->addWidget(button, 0, Qt::AlignTop);
+    auto* column = new QVBoxLayout(box);
+    column->addLayout(row);
+    column->addWidget(fontText_);
     return box;
 }
 

@@ -1,6 +1,7 @@
 #include "ui/dialogs/FontConversion.h"
 
 #include <QFontInfo>
+#include <QStringList>
 #include <algorithm>
 
 #include "ui/dialogs/RawText.h"
@@ -24,6 +25,20 @@ QFont platformFont(const FontDescription& description) {
     font.setUnderline(description.underline());
     font.setStrikeOut(description.strikeOut());
     return font;
+}
+
+QString fontText(const FontDescription& description) {
+    constexpr int kBoldFrom = 600;
+    QStringList style;
+    if (description.weight() >= kBoldFrom) {
+        style.append(QStringLiteral("bold"));
+    }
+    if (description.italic()) {
+        style.append(QStringLiteral("italic"));
+    }
+    const QString text =
+        QStringLiteral("%1, %2 px").arg(displayText(description.face()), QString::number(description.pixelSize()));
+    return style.isEmpty() ? text : text + QStringLiteral(", ") + style.join(QLatin1Char(' '));
 }
 
 FontDescription pickedFont(const FontDescription& before, const QFont& opened, const QFont& picked) {

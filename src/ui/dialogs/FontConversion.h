@@ -9,6 +9,9 @@ namespace vorlan {
 /// The platform's font for a stored description.
 QFont platformFont(const FontDescription& description);
 
+/// Face, size and style in words: "ARIAL, 12 px, bold italic".
+QString fontText(const FontDescription& description);
+
 /// The description after the user has picked a font in a dialog that opened on another one. Only what the user
 /// changed is encoded again: family, letter height (stored negative, in pixels), weight, italic, underline and
 /// strike-out; every other byte stays.

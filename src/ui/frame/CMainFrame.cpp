@@ -178,6 +178,10 @@ void CMainFrame::documentChanged(Change change) {
 
 void CMainFrame::refreshCommands() {
     actions_->update(document_);
+    // A pane that only says why it has no diagram offers no options for it.
+    if (!panes_->view(document_.ActivePane()).showsDiagram()) {
+        actions_->of(Command::PlotFrameOptions)->setEnabled(false);
+    }
 }
 
 void CMainFrame::refreshTitle() {

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <cmath>
 #include <ctime>
 #include <ostream>
 
@@ -27,6 +28,27 @@
 #include "ui/frame/AboutBox.h"
 
 namespace vorlan {
+
+namespace {
+
+DrawnAxes drawnAxes(const std::optional<CScreenUtils>& geometry) {
+    DrawnAxes axes;
+    if (geometry.has_value()) {
+        axes.xMin = geometry->xMin;
+        axes.xMax = geometry->xMax;
+        axes.yMin = geometry->yMin;
+        axes.yMax = geometry->yMax;
+        if (!geometry->logX()) {
+            axes.xStep = std::fabs(geometry->xStep);
+        }
+        if (!geometry->logY()) {
+            axes.yStep = std::fabs(geometry->yStep);
+        }
+    }
+    return axes;
+}
+
+}  // namespace
 
 void UserCommands::run(Command command) {
     try {
@@ -179,13 +201,13 @@ void UserCommands::plotFrameOptions() {
     const Pane pane = document_.ActivePane();
     const std::optional<FrameSlot> slot =
         frameSlotOf(document_.CurrentStage(), pane, document_.CurrentValue(), document_.ShowsTable());
-    const auto* diagram = std::get_if<Diagram>(&panes_.view(pane).content());
-    if (!slot.has_value()) {
+    const CVorl_ADVView& view = panes_.view(pane);
+    const auto* diagram = std::get_if<Diagram>(&view.content());
+    if (!slot.has_value() || diagram == nullptr) {
         return;
     }
-    const std::vector<ScaleType> scales =
-        diagram != nullptr ? diagram->allowedScales : std::vector<ScaleType>{ScaleType::Linear};
-    CPlotOptDlg dialog(frameInSlot(document_.GetWorkspace().dataFiles, &document_.Probe(), *slot), scales, &window_);
+    CPlotOptDlg dialog(frameInSlot(document_.GetWorkspace().dataFiles, &document_.Probe(), *slot),
+                       diagram->allowedScales, drawnAxes(view.geometry()), &window_);
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }

@@ -23,6 +23,8 @@ class CVorl_ADVView : public QWidget {
     Pane pane() const { return pane_; }
     void setContent(PaneContent content);
     const PaneContent& content() const { return content_; }
+    /// False for a table, a text or nothing.
+    bool showsDiagram() const { return std::holds_alternative<Diagram>(content_); }
     /// The active view is framed in the desktop's highlight colour.
     void setActive(bool active);
     bool isActive() const { return active_; }
