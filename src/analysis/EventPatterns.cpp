@@ -8,32 +8,67 @@ namespace vorlan {
 
 namespace {
 
-/// Where every event's surroundings start: its neighbour -reach, with count values to read. They lie in the record
-/// itself, or near its ends in copies with zeros beyond: adding a zero changes no sum.
-class Surroundings {
-  public:
-    Surroundings(std::span<const std::size_t> events, std::span<const double> x, std::size_t reach, std::size_t count) {
-        const std::size_t size = x.size();
-        head_.resize(reach + count);
-        std::copy_n(x.begin(), std::min(size, count), head_.begin() + static_cast<std::ptrdiff_t>(reach));
-        // Events from here on have neighbours behind the end.
-        const std::size_t last = std::max(reach, size + reach + 1 - std::min(count, size + reach + 1));
-        tail_.resize(last < size ? size - last + count : 0);
-        if (!tail_.empty()) {
-            std::copy(x.begin() + static_cast<std::ptrdiff_t>(last - reach), x.end(), tail_.begin());
-        }
-        starts_.resize(events.size());
-        std::transform(events.begin(), events.end(), starts_.begin(), [&](std::size_t e) {
-            return e < reach ? &head_[e] : e < last ? &x[e - reach] : &tail_[e - last];
-        });
-    }
+using Events = std::span<const std::size_t>;
 
-    std::span<const double* const> starts() const { return starts_; }
+/// The sums of x around events for lags -reach, -reach + 1, ..., as they go on from event to event.
+class SumsAround {
+  public:
+    SumsAround(std::span<const double> x, std::size_t reach, std::size_t lags, Progress& progress,
+               const KernelSet& kernels)
+        : x_(x),
+          reach_(reach),
+          lags_((lags + kernels.lanes - 1) / kernels.lanes * kernels.lanes),
+          kernels_(kernels),
+          pacer_(progress),
+          sums_(lags_) {}
+
+    void add(Events events) {
+        const auto from = [events](std::size_t sample) {
+            return static_cast<std::size_t>(std::lower_bound(events.begin(), events.end(), sample) - events.begin());
+        };
+        const std::size_t end = x_.size() + reach_ + 1;
+        const std::size_t head = from(reach_);
+        const std::size_t tail = std::max(head, from(end - std::min(end, lags_)));
+        addOutside(events.first(head));
+        addInside(x_.data(), reach_, events.subspan(head, tail - head));
+        addOutside(events.subspan(tail));
+    }
+    const std::vector<double>& sums() const { return sums_; }
 
   private:
-    std::vector<double> head_;
-    std::vector<double> tail_;
-    std::vector<const double*> starts_;
+    /// Events with all their lags in x, x[0] being back samples behind the place of sample 0.
+    void addInside(const double* x, std::size_t back, Events events) {
+        // So few events at a time that what surrounds them stays near while all lags take it.
+        constexpr std::size_t kTerms = std::size_t{1} << 16;
+        const std::size_t piece = std::clamp<std::size_t>(kTerms / lags_, 1, 1024);
+        for (std::size_t e = 0; e < events.size(); e += piece) {
+            const std::size_t count = std::min(piece, events.size() - e);
+            kernels_.eventSums(x, events.data() + e, count, back, lags_, sums_.data());
+            pacer_.worked(count * lags_);
+        }
+    }
+    /// Events near the ends: what surrounds them is copied, with zeros beyond the ends. Adding these changes no sum.
+    void addOutside(Events events) {
+        if (events.empty()) {
+            return;
+        }
+        const std::size_t first = events.front();
+        std::vector<double> around(events.back() - first + lags_);
+        // around[i] is sample first - reach + i.
+        const std::size_t skipped = reach_ > first ? reach_ - first : 0;
+        const std::size_t start = first + skipped - reach_;
+        const std::size_t count = std::min(around.size() - skipped, x_.size() - start);
+        std::copy_n(x_.begin() + static_cast<std::ptrdiff_t>(start), count,
+                    around.begin() + static_cast<std::ptrdiff_t>(skipped));
+        addInside(around.data(), first, events);
+    }
+
+    std::span<const double> x_;
+    std::size_t reach_;
+    std::size_t lags_;  // rounded up to whole registers
+    const KernelSet& kernels_;
+    Pacer pacer_;
+    std::vector<double> sums_;
 };
 
 }  // namespace
@@ -51,19 +86,9 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     // No event has a neighbour farther away than the record is long.
     const std::size_t reach = std::min(wanted, x.size() - 1);
     const std::size_t lags = 2 * reach + 1;
-    const std::size_t rounded = (lags + kernels.lanes - 1) / kernels.lanes * kernels.lanes;
-    const Surroundings surroundings(events, x, reach, rounded);
-    const std::span<const double* const> starts = surroundings.starts();
-    std::vector<double> sums(rounded);
-    // So few events at a time that what surrounds them stays near while all lags take it.
-    constexpr std::size_t kTerms = std::size_t{1} << 16;
-    const std::size_t piece = std::clamp<std::size_t>(kTerms / rounded, 1, 1024);
-    Pacer pacer(progress);
-    for (std::size_t e = 0; e < starts.size(); e += piece) {
-        const std::size_t count = std::min(piece, starts.size() - e);
-        kernels.eventSums(starts.data() + e, count, rounded, sums.data());
-        pacer.worked(count * rounded);
-    }
+    SumsAround around(x, reach, lags, progress, kernels);
+    around.add(events);
+    const std::vector<double>& sums = around.sums();
 
     // Events e with 0 <= e + i - reach < N: as the lag rises, the first and the last of them move forward.
     std::size_t first =

@@ -13,39 +13,46 @@ using EventLanes = double __attribute__((vector_size(kEventLanes * sizeof(double
 using UnalignedEventLanes = double __attribute__((vector_size(kEventLanes * sizeof(double)), aligned(8), may_alias));
 
 template <std::size_t R>
-void eventSumsOf(const double* const* around, std::size_t count, std::size_t first, double* sums) {
+void eventSumsOf(const double* x, const std::size_t* events, std::size_t count, std::size_t back, double* sums) {
     EventLanes sum[R];
 #pragma GCC unroll 16
     for (std::size_t r = 0; r < R; ++r) {
-        sum[r] = *reinterpret_cast<const UnalignedEventLanes*>(sums + first + r * kEventLanes);
+        sum[r] = *reinterpret_cast<const UnalignedEventLanes*>(sums + r * kEventLanes);
     }
     for (std::size_t e = 0; e < count; ++e) {
-        const double* x = around[e] + first;
-        keepApart(x);
+        const double* around = x + (events[e] - back);
 #pragma GCC unroll 16
         for (std::size_t r = 0; r < R; ++r) {
-            sum[r] += *reinterpret_cast<const UnalignedEventLanes*>(x + r * kEventLanes);
+            sum[r] += *reinterpret_cast<const UnalignedEventLanes*>(around + r * kEventLanes);
         }
     }
 #pragma GCC unroll 16
     for (std::size_t r = 0; r < R; ++r) {
-        *reinterpret_cast<UnalignedEventLanes*>(sums + first + r * kEventLanes) = sum[r];
+        *reinterpret_cast<UnalignedEventLanes*>(sums + r * kEventLanes) = sum[r];
     }
 }
 
-/// Takes blocks of R registers of lags while there are so many, then smaller ones.
+/// The registers of lags that are left, fewer than R.
 template <std::size_t R>
-void eventSumsFrom(const double* const* around, std::size_t count, std::size_t first, std::size_t lags, double* sums) {
-    for (; first + R * kEventLanes <= lags; first += R * kEventLanes) {
-        eventSumsOf<R>(around, count, first, sums);
-    }
+void eventSumsOfRest(const double* x, const std::size_t* events, std::size_t count, std::size_t back,
+                     std::size_t registers, double* sums) {
     if constexpr (R > 1) {
-        eventSumsFrom<R / 2>(around, count, first, lags, sums);
+        if (registers == R - 1) {
+            eventSumsOf<R - 1>(x, events, count, back, sums);
+        } else {
+            eventSumsOfRest<R - 1>(x, events, count, back, registers, sums);
+        }
     }
 }
 
-void eventSumsLoop(const double* const* around, std::size_t count, std::size_t lags, double* sums) {
-    eventSumsFrom<kEventRegisters>(around, count, 0, lags, sums);
+void eventSumsLoop(const double* x, const std::size_t* events, std::size_t count, std::size_t back, std::size_t lags,
+                   double* sums) {
+    constexpr std::size_t kStep = kEventRegisters * kEventLanes;
+    std::size_t first = 0;
+    for (; first + kStep <= lags; first += kStep) {
+        eventSumsOf<kEventRegisters>(x, events, count, back - first, sums + first);
+    }
+    eventSumsOfRest<kEventRegisters>(x, events, count, back - first, (lags - first) / kEventLanes, sums + first);
 }
 
 }  // namespace

@@ -89,8 +89,10 @@ struct KernelSet {
     void (*squaredDifferences)(const double* d, std::size_t size, std::size_t firstLag, std::size_t lags,
                                std::size_t first, std::size_t last, double* sums);
 
-    /// sums[l] += around[e][l] for e = 0..count-1 in order, l = 0..lags-1; lags is a multiple of lanes.
-    void (*eventSums)(const double* const* around, std::size_t count, std::size_t lags, double* sums);
+    /// sums[l] += x[events[e] - back + l] for e = 0..count-1 in order, l = 0..lags-1; lags is a multiple of lanes.
+    /// Modulo 2^64: back may stand for a negative number.
+    void (*eventSums)(const double* x, const std::size_t* events, std::size_t count, std::size_t back, std::size_t lags,
+                      double* sums);
 
     std::size_t bands;  ///< that one call of powerSums works on
     /// squares[b] += d d, cubes[b] += (d d) d, fourths[b] += ((d d) d) d with d = x[i] - means[b] for i = 0..count-1 in
