@@ -56,6 +56,30 @@ class FrameFiles : public QObject {
         QVERIFY(std::holds_alternative<Diagram>(driver.content(Pane::LeftTop)));
     }
 
+    void whatAnotherWindowSavedIsNotReplacedUnasked() {
+        FrameDriver first;
+        first.simulate();
+        first.boxes.savePath = first.path("shared.avp");
+        first.trigger(Command::SaveWorkspace);
+        FrameDriver second;
+        QVERIFY(second.frame->files().openPath(first.boxes.savePath));
+        second.simulate();
+        second.trigger(Command::SaveWorkspace);
+        QVERIFY(second.boxes.questions.isEmpty());
+
+        first.simulate();
+        first.boxes.confirmAnswer = false;
+        first.trigger(Command::SaveWorkspace);
+        QCOMPARE(first.boxes.questions.size(), 1);
+        QVERIFY(first.boxes.questions.first().startsWith(QLatin1String("shared.avp was changed")));
+        QVERIFY(first.document().IsModified());
+        first.boxes.confirmAnswer = true;
+        first.trigger(Command::SaveWorkspace);
+        first.trigger(Command::SaveWorkspace);
+        QCOMPARE(first.boxes.questions.size(), 2);
+        QVERIFY(!first.document().IsModified());
+    }
+
     void unsavedChangesAreAskedAbout() {
         FrameDriver driver;
         driver.simulate();

@@ -73,7 +73,16 @@ bool WorkspaceFiles::load(const QString& path) {
 }
 
 bool WorkspaceFiles::save() {
-    return document_.GetPath().empty() ? saveAs() : saveTo(toText(document_.GetPath()));
+    if (document_.GetPath().empty()) {
+        return saveAs();
+    }
+    if (document_.IsChangedOnDisk() &&
+        !boxes_->confirm(&window_, QStringLiteral("%1 was changed by another program since it was opened here. Replace "
+                                                  "what is there?")
+                                       .arg(documentName()))) {
+        return false;
+    }
+    return saveTo(toText(document_.GetPath()));
 }
 
 bool WorkspaceFiles::saveAs() {
