@@ -5,7 +5,7 @@
 
 namespace bench {
 
-void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples, std::uint32_t lags) {
+void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples) {
     using vorlan::SAdvProbe;
     vorlan::SAdvFile file;
     SAdvProbe& probe = file.probes.GrowTo(0);
@@ -27,7 +27,6 @@ void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples, std::uint32
     fill(SAdvProbe::kSampledCompass, 3, 0.01, 0.0);
     fill(SAdvProbe::kSampledPressure, 1, 0.01, 100.0);
     probe.Reset();
-    probe.spectralLags = lags;
     vorlan::finishNewProbe(probe);
     document.AppendFile(std::move(file));
     document.SelectFile(document.GetWorkspace().dataFiles.files.GetSize() - 1);

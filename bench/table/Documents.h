@@ -48,8 +48,7 @@ class GapPort : public vorlan::SilentPort {
     bool running_ = false;
 };
 
-/// A document with one selected probe of so many samples: velocities, scores, compass and pressure. With
-/// lags cross-spectra can be taken at once.
-void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples, std::uint32_t lags = 0);
+/// A document with one selected probe of so many samples: velocities, scores, compass and pressure.
+void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples);
 
 }  // namespace bench

@@ -77,6 +77,7 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
         const std::vector<double> outputs = filtered(samples, weights, settings.type, progress);
         progress.breathe();
         column.StoreValues(outputs);
+        progress.breathe();
     }
 }
 

@@ -7,9 +7,6 @@ namespace vorlan {
 
 namespace {
 
-// Events are taken this often during a run: below one frame of the screen, above what taking them costs.
-constexpr int kMillisecondsBetweenEvents = 12;
-
 /// An arrow in place of the hourglass while a box waits for the user.
 class ArrowScope {
   public:
