@@ -4,6 +4,7 @@
 
 #include "batch/BatchError.h"
 #include "io/AtomicFile.h"
+#include "io/WorkspaceFile.h"
 
 namespace vorlan {
 
@@ -45,7 +46,7 @@ std::string identityOf(const std::filesystem::path& path) {
 }
 
 void requireOtherThanWorkspace(const std::string& output) {
-    if (kindOf(output) == FileKind::Workspace) {
+    if (kindOfFile(output) == FileKind::Workspace) {
         throw usageError(output + " is a workspace: nothing else takes its place");
     }
 }

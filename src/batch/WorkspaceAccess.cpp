@@ -19,20 +19,8 @@ void openDocument(CVorl_ADVDoc& document, const std::filesystem::path& path) {
     }
 }
 
-FileKind kindOf(const std::filesystem::path& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error) || std::filesystem::file_size(path, error) == 0) {
-        return FileKind::Nothing;
-    }
-    try {
-        return isWorkspaceFile(path) ? FileKind::Workspace : FileKind::Other;
-    } catch (const FileError&) {
-        return FileKind::Nothing;
-    }
-}
-
 void requireReplaceable(const std::filesystem::path& path) {
-    if (path.extension() != ".avp" && kindOf(path) == FileKind::Other) {
+    if (path.extension() != ".avp" && kindOfFile(path) == FileKind::Other) {
         throw usageError(path.string() + " is no workspace: a workspace does not take its place");
     }
 }

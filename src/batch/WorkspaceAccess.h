@@ -10,10 +10,6 @@ namespace vorlan {
 
 /// Opens the workspace in the document; BatchError Unreadable.
 void openDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
-/// What an output would replace. Nothing is what cannot be read, too: whether it can be replaced is seen when it is.
-enum class FileKind { Nothing, Workspace, Other };
-FileKind kindOf(const std::filesystem::path& path);
-
 /// Refuses to put a workspace in the place of a file that is none and is not named as one (.avp): a slip on the command
 /// line would cost a record.
 void requireReplaceable(const std::filesystem::path& path);

@@ -48,15 +48,25 @@ Workspace openWorkspace(const std::filesystem::path& path) {
     return workspace;
 }
 
-bool isWorkspaceFile(const std::filesystem::path& path) {
-    InputFile file(path);
-    Archive archive = Archive::loading(file);
-    try {
-        serializeVersion(archive);
-    } catch (const ArchiveError&) {
-        return false;
+FileKind kindOfFile(const std::filesystem::path& path) {
+    // Opening anything else may wait for another program.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        return FileKind::Nothing;
     }
-    return true;
+    try {
+        InputFile file(path);
+        if (file.size() == 0) {
+            return FileKind::Nothing;
+        }
+        Archive archive = Archive::loading(file);
+        serializeVersion(archive);
+        return FileKind::Workspace;
+    } catch (const FileError&) {
+        return FileKind::Nothing;
+    } catch (const ArchiveError&) {
+        return FileKind::Other;
+    }
 }
 
 void saveWorkspace(Workspace& workspace, const std::filesystem::path& path) {

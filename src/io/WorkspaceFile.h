@@ -12,8 +12,10 @@ namespace vorlan {
 /// "Invalid Workspace format.". A damaged count never costs more memory than a small multiple of the file.
 Workspace openWorkspace(const std::filesystem::path& path);
 
-/// Whether the file begins as a workspace does. FileError as InputFile.
-bool isWorkspaceFile(const std::filesystem::path& path);
+/// What writing a file would replace. Nothing: no file, an empty one, or one that cannot be read; whether that can be
+/// replaced is seen when it is.
+enum class FileKind { Nothing, Workspace, Other };
+FileKind kindOfFile(const std::filesystem::path& path);
 
 /// Replaces the file by the workspace, complete or not at all (see AtomicFile). Columns go to the file as they lie in
 /// the model: no second copy is held. The workspace is not changed.

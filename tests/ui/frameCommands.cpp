@@ -221,6 +221,17 @@ class FrameCommands : public QObject {
         QCOMPARE(file.readAll().count('\n'), 1000);
         QVERIFY(driver.boxes.proposals.last().endsWith(QLatin1String("vel.dat")));
 
+        QCOMPARE(driver.status(), QStringLiteral("vel.dat written"));
+
+        driver.boxes.savePath = driver.path("kept.avp");
+        driver.trigger(Command::SaveWorkspace);
+        driver.boxes.exportPath = driver.boxes.savePath;
+        QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
+        QCOMPARE(driver.boxes.refusals.size(), 1);
+        QVERIFY(driver.boxes.refusals.takeFirst().startsWith(driver.boxes.savePath + QLatin1String(" is a workspace")));
+        QCOMPARE(driver.document().GetWorkspace().dataFiles.files.GetSize(), 1);
+        QVERIFY(driver.frame->files().openPath(driver.boxes.savePath));
+
         driver.boxes.exportPath = QStringLiteral("/nonexistent/folder/vel.dat");
         QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
         QCOMPARE(driver.status(), QStringLiteral("Cannot write /nonexistent/folder/vel.dat"));

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <cmath>
 #include <ctime>
 #include <ostream>
@@ -12,6 +13,7 @@
 #include "export/WriteExport.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
+#include "io/WorkspaceFile.h"
 #include "stages/PaneDescription.h"
 #include "ui/dialogs/CCoordSysDlg.h"
 #include "ui/dialogs/CEditTSDlg.h"
@@ -244,10 +246,16 @@ void UserCommands::exportData(ExportKind kind) {
     if (path.isEmpty()) {
         return;
     }
+    const std::string file = QFile::encodeName(path).toStdString();
+    // No question stands before an overwritten table, so a wrong click would cost a workspace.
+    if (kindOfFile(file) == FileKind::Workspace) {
+        boxes_->refuse(&window_, QStringLiteral("%1 is a workspace: nothing else takes its place.").arg(path));
+        return;
+    }
     files_.setFolderOf(path);
     try {
-        writeFileAtomically(QFile::encodeName(path).toStdString(),
-                            [&](std::ostream& stream) { writeExport(stream, kind, job); });
+        writeFileAtomically(file, [&](std::ostream& stream) { writeExport(stream, kind, job); });
+        showStatus_(QStringLiteral("%1 written").arg(QFileInfo(path).fileName()));
     } catch (const FileError&) {
         // An export ends without a box; the line is all that is said.
         showStatus_(QStringLiteral("Cannot write %1").arg(path));
