@@ -141,8 +141,9 @@ TEST_P(EverySet, ColumnSumsAndProductsHaveTheBytesOfThePlainLoops) {
     };
     ColumnSums totals{};
     std::array<ColumnSums, 3> powers{};
-    // In pieces that are no multiple of a register: the sums go on.
-    for (const auto& [first, count] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 402), std::pair(403, 600)}) {
+    // In pieces that leave none to three samples over: the sums go on.
+    for (const auto& [first, count] :
+         {std::pair(0, 0), std::pair(0, 1), std::pair(1, 402), std::pair(403, 3), std::pair(406, 597)}) {
         std::array<UnitColumn, 3> part = columns;
         for (UnitColumn& column : part) {
             column.units += first;
@@ -161,9 +162,9 @@ TEST_P(EverySet, ColumnSumsAndProductsHaveTheBytesOfThePlainLoops) {
         }
         EXPECT_EQ(bytesOf({totals.of[c], powers[0].of[c], powers[1].of[c], powers[2].of[c]}), bytesOf(expected)) << c;
     }
-    // The smallest resolution makes products that no integer holds.
-    for (const double resolution : {0.01, 1e-9}) {
-        for (const std::size_t count : {std::size_t{3}, kSamples}) {
+    // Small resolutions make products that no integer holds, none makes infinite ones and such that are no number.
+    for (const double resolution : {0.01, 1e-9, 0.0}) {
+        for (const std::size_t count : {std::size_t{0}, std::size_t{3}, std::size_t{1002}, kSamples}) {
             std::vector<std::int32_t> stored(kSamples, 77);
             kernels().unitProducts(columns[0], columns[1], resolution, count, stored.data());
             for (std::size_t i = 0; i < kSamples; ++i) {
@@ -177,7 +178,10 @@ TEST_P(EverySet, ColumnSumsAndProductsHaveTheBytesOfThePlainLoops) {
 
 TEST_P(EverySet, TrigonometricSumsFollowTheWrittenPi) {
     constexpr long double kWrittenPi = 3.141592653589;  // the double
-    for (const std::size_t length : {1U, 2U, 63U, 64U, 65U, 200U, 1501U}) {
+    // Lags that end before, at and behind the middle and the end of a block, whose rows are looked up in groups.
+    constexpr std::size_t kMiddle = kPhaseSteps / 2;
+    for (const std::size_t length : {std::size_t{1}, std::size_t{2}, kMiddle, kMiddle + 1, kMiddle + 2, kPhaseSteps - 1,
+                                     kPhaseSteps, kPhaseSteps + 1, std::size_t{200}, 9 * kPhaseSteps + 1}) {
         const std::vector<Values> terms = {roughSeries(length, 5), roughSeries(length, 6), roughSeries(length, 7),
                                            roughSeries(length, 8)};
         const std::size_t frequencies = length + 1;

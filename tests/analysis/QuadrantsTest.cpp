@@ -347,32 +347,46 @@ TEST(Quadrants, TitleThePatternsByTheirEvents) {
     EXPECT_EQ(patternTitles(negative), "mine|Sweep (dimensionless velocities)|");
 }
 
-TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
-    const SAdvProbe probe = correlatedProbe(777, -0.4);
-    const std::vector<double> x = fluctuationsOf(probe)[0];
-    std::vector<std::size_t> events;
-    for (std::size_t j = 0; j < x.size(); j += 1 + j % 5) {
-        events.push_back(j);
+/// The definition, lag by lag.
+std::vector<double> plainAverageAround(const std::vector<std::size_t>& events, const std::vector<double>& x, int lag) {
+    std::vector<double> pattern;
+    for (int tau = -lag; tau <= lag; ++tau) {
+        double sum = 0.0;
+        int count = 0;
+        for (const std::size_t event : events) {
+            const long j = static_cast<long>(event) + tau;
+            if (j >= 0 && j < static_cast<long>(x.size())) {
+                sum += x[static_cast<std::size_t>(j)];
+                ++count;
+            }
+        }
+        pattern.push_back(count == 0 ? 0.0 : sum / count);
     }
-    for (const InstructionSet set : availableInstructionSets()) {
-        for (const int lag : {0, 1, 100, 776, 900}) {
-            const std::vector<double> pattern = averageAround(events, x, lag, noProgress(), kernelsOf(set));
-            ASSERT_EQ(pattern.size(), static_cast<std::size_t>(2 * lag + 1));
-            for (int tau = -lag; tau <= lag; ++tau) {
-                double sum = 0.0;
-                int count = 0;
-                for (const std::size_t event : events) {
-                    const long j = static_cast<long>(event) + tau;
-                    if (j >= 0 && j < 777) {
-                        sum += x[static_cast<std::size_t>(j)];
-                        ++count;
-                    }
+    return pattern;
+}
+
+TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
+    // Records shorter than a register and than the lags, and one with more events than are taken at a time.
+    for (const std::size_t size : {1U, 2U, 3U, 17U, 777U, 4001U}) {
+        const SAdvProbe probe = correlatedProbe(static_cast<int>(size), -0.4);
+        const std::vector<double> x = fluctuationsOf(probe)[0];
+        std::vector<std::size_t> some;
+        for (std::size_t j = 0; j < size; j += 1 + j % 5) {
+            some.push_back(j);
+        }
+        const std::vector<std::vector<std::size_t>> choices = {{}, {0}, {size / 2}, {size - 1}, some};
+        for (const InstructionSet set : availableInstructionSets()) {
+            for (const int lag : {0, 1, 15, 100, 776, 900}) {
+                for (const std::vector<std::size_t>& events : choices) {
+                    ASSERT_EQ(averageAround(events, x, lag, noProgress(), kernelsOf(set)),
+                              plainAverageAround(events, x, lag))
+                        << nameOf(set) << ", " << size << " samples, " << events.size() << " events, lag " << lag;
                 }
-                ASSERT_EQ(pattern[static_cast<std::size_t>(tau + lag)], count == 0 ? 0.0 : sum / count);
             }
         }
     }
-    EXPECT_TRUE(averageAround(events, x, -1).empty());
+    EXPECT_TRUE(averageAround(std::vector<std::size_t>{0}, std::vector<double>{1.0}, -1).empty());
+    EXPECT_EQ(averageAround({}, {}, 2), std::vector<double>(5));
 }
 
 TEST(QuadrantSettings, AreCheckedInOrderAndByTheirBounds) {
