@@ -18,7 +18,8 @@ namespace {
 constexpr double kGravity = 981.0;  // cm/s^2
 constexpr const char* kTitle = "Cleaned-up time series";
 
-/// Three columns that all cover the working record.
+/// Three columns that all cover the working record, read and written where they lie: nobody else may change or copy
+/// the table meanwhile.
 class Columns {
   public:
     Columns(SMultiArray& table, int samples) : table_(table) {

@@ -10,7 +10,8 @@ namespace {
 
 using Events = std::span<const std::size_t>;
 
-/// The sums of x around events for lags -reach, -reach + 1, ..., as they go on from event to event.
+/// The sums of x around events for lags -reach, -reach + 1, ...: every sum goes from event to event. What lies beyond
+/// the ends of x adds nothing.
 class SumsAround {
   public:
     SumsAround(std::span<const double> x, std::size_t reach, std::size_t lags, Progress& progress,
@@ -22,6 +23,7 @@ class SumsAround {
           pacer_(progress),
           sums_(lags_) {}
 
+    /// Events rise; they are added in their order.
     void add(Events events) {
         const auto from = [events](std::size_t sample) {
             return static_cast<std::size_t>(std::lower_bound(events.begin(), events.end(), sample) - events.begin());
@@ -36,7 +38,7 @@ class SumsAround {
     const std::vector<double>& sums() const { return sums_; }
 
   private:
-    /// Events with all their lags in x, x[0] being back samples behind the place of sample 0.
+    /// Events with all their lags in x: those of event e are x[e - back], x[e - back + 1], ...
     void addInside(const double* x, std::size_t back, Events events) {
         // So few events at a time that what surrounds them stays near while all lags take it.
         constexpr std::size_t kTerms = std::size_t{1} << 16;

@@ -35,8 +35,8 @@ struct ColumnSamples {
     static ColumnSamples of(const SArray& column) { return {column.view(), column.GetScale()}; }
 };
 
-/// Three columns at once: means, or all moments, each as momentsOf() gives them. The sums of one column need not wait
-/// for those of another, and no column is turned into doubles in memory.
+/// Three columns at once, of any sizes: means, or all moments, each as momentsOf() gives them. The sums of one column
+/// need not wait for those of another, and no column is turned into doubles in memory.
 using ThreeColumns = std::array<ColumnSamples, 3>;
 std::array<double, 3> columnMeans(const ThreeColumns& columns, const KernelSet& kernels = kernelsInUse());
 std::array<Moments, 3> columnMoments(const ThreeColumns& columns, const KernelSet& kernels = kernelsInUse());

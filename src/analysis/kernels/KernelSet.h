@@ -62,7 +62,7 @@ struct UnitColumn {
 /// Columns that are summed side by side.
 inline constexpr std::size_t kSummedColumns = 3;
 
-/// One sum of each of them.
+/// One sum of each of kSummedColumns columns.
 struct ColumnSums {
     double of[kSummedColumns];
 };
@@ -89,8 +89,8 @@ struct KernelSet {
     void (*squaredDifferences)(const double* d, std::size_t size, std::size_t firstLag, std::size_t lags,
                                std::size_t first, std::size_t last, double* sums);
 
-    /// sums[l] += x[events[e] - back + l] for e = 0..count-1 in order, l = 0..lags-1; lags is a multiple of lanes.
-    /// Modulo 2^64: back may stand for a negative number.
+    /// sums[l] += x[events[e] - back + l] for e = 0..count-1 in order, l = 0..lags-1. Every such place lies in x; lags
+    /// is a multiple of lanes.
     void (*eventSums)(const double* x, const std::size_t* events, std::size_t count, std::size_t back, std::size_t lags,
                       double* sums);
 
@@ -99,13 +99,14 @@ struct KernelSet {
     /// order, b = 0..bands-1.
     void (*powerSums)(const double* x, std::size_t count, BandSums& sums);
 
-    /// totals.of[c] += d for i = 0..count-1 in order, of each of the columns.
+    /// totals.of[c] += d for i = 0..count-1 in order, d the deviations of columns[c], c = 0..kSummedColumns-1.
     void (*columnTotals)(const UnitColumn* columns, std::size_t count, ColumnSums& totals);
 
-    /// powers[0].of[c] += d d, powers[1].of[c] += (d d) d, powers[2].of[c] += ((d d) d) d, as columnTotals.
+    /// The same for three powers: powers[0].of[c] += d d, powers[1].of[c] += (d d) d, powers[2].of[c] += ((d d) d) d.
     void (*columnPowers)(const UnitColumn* columns, std::size_t count, ColumnSums* powers);
 
-    /// units[i] = dx[i] dy[i] / resolution, truncated as truncateToInt32() does.
+    /// units[i] = dx[i] dy[i] / resolution for i = 0..count-1, dx and dy the deviations of x and y, truncated as
+    /// truncateToInt32() does. units lies apart from those of x and y.
     void (*unitProducts)(const UnitColumn& x, const UnitColumn& y, double resolution, std::size_t count,
                          std::int32_t* units);
 

@@ -34,6 +34,7 @@ void unitProductsLoop(const UnitColumn& x, const UnitColumn& y, double resolutio
         *reinterpret_cast<UnalignedFourUnits*>(units + i) = truncated(deviations(x, i) * deviations(y, i) / resolution);
     }
     for (std::size_t i = fours; i < count; ++i) {
+        // The same conversion, of one of four equal numbers.
         units[i] = truncated(Four{} + deviation(x, i) * deviation(y, i) / resolution)[0];
     }
 }
