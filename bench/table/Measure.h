@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <exception>
 #include <string>
 
 #include "table/Clock.h"
@@ -11,10 +12,22 @@ namespace bench {
 
 using Registered = benchmark::internal::Benchmark*;
 
+/// Registers run(state). What it throws fails this benchmark: the others still run, and folders are cleared.
+template <class Run>
+Registered measure(const std::string& name, Run run) {
+    return benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+        try {
+            run(state);
+        } catch (const std::exception& error) {
+            state.SkipWithError(error.what());
+        }
+    });
+}
+
 /// Registers work(data); what data holds is made before the timing.
 template <class T, class Work>
 Registered measure(const std::string& name, const Lazy<T>& data, Work work) {
-    return benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+    return measure(name, [=](benchmark::State& state) {
         T& made = data();
         for (auto _ : state) {
             work(made);
@@ -26,16 +39,16 @@ Registered measure(const std::string& name, const Lazy<T>& data, Work work) {
 template <class T, class Reset, class Work>
 Registered measureAfter(const std::string& name, const Lazy<T>& data, Reset reset, Work work,
                         Clock clock = threadSeconds) {
-    return benchmark::RegisterBenchmark(name.c_str(),
-                                        [=](benchmark::State& state) {
-                                            T& made = data();
-                                            for (auto _ : state) {
-                                                reset(made);
-                                                const double start = clock();
-                                                work(made);
-                                                state.SetIterationTime(clock() - start);
-                                            }
-                                        })
+    return measure(name,
+                   [=](benchmark::State& state) {
+                       T& made = data();
+                       for (auto _ : state) {
+                           reset(made);
+                           const double start = clock();
+                           work(made);
+                           state.SetIterationTime(clock() - start);
+                       }
+                   })
         ->UseManualTime();
 }
 

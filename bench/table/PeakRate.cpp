@@ -1,11 +1,7 @@
 #include "table/PeakRate.h"
 
-#include <benchmark/benchmark.h>
-
-#include <algorithm>
-
 #include "Peak.h"
-#include "table/Clock.h"
+#include "table/Measure.h"
 
 namespace bench {
 
@@ -28,23 +24,13 @@ std::size_t runPeak(InstructionSet set, std::size_t rounds) {
 
 std::string registerPeak(const std::string& group, InstructionSet set) {
     const std::string name = group + "/peak/" + nameOf(set);
-    benchmark::RegisterBenchmark(name.c_str(),
-                                 [set](benchmark::State& state) {
-                                     // Now and then the chains fall out of step and lose a cycle a round: the best of
-                                     // many short runs counts.
-                                     for (auto _ : state) {
-                                         double best = 1.0;
-                                         for (int run = 0; run < 20; ++run) {
-                                             const double start = threadSeconds();
-                                             runPeak(set, kRounds);
-                                             best = std::min(best, threadSeconds() - start);
-                                         }
-                                         state.SetIterationTime(best);
-                                     }
-                                 })
-        ->UseManualTime()
-        ->Iterations(1)
-        ->Repetitions(15);
+    const auto run = [set](benchmark::State& state) {
+        for (auto _ : state) {
+            runPeak(set, kRounds);
+        }
+    };
+    // Now and then the chains fall out of step and lose a cycle a round: the best of many short runs counts.
+    measure(name, run)->Iterations(1)->Repetitions(300);
     return name;
 }
 

@@ -1,12 +1,12 @@
 // One autocovariance elsewhere, where it is installed, against ours on the same sizes.
 
-#include <benchmark/benchmark.h>
-
 #include <cstdio>
 #include <memory>
 #include <sstream>
+#include <stdexcept>
 
 #include "analysis/kernels/SlidingProducts.h"
+#include "table/Measure.h"
 #include "table/PlainLoops.h"
 #include "table/Rows.h"
 
@@ -36,7 +36,7 @@ std::string askPeers(const std::string& arguments) {
 void peerRows(Table& table) {
     table.section("Peers, one autocovariance, 100,000 samples, 10,000 lags");
     const std::string ours = "peers/ours";
-    benchmark::RegisterBenchmark(ours.c_str(), [](benchmark::State& state) {
+    measure(ours, [](benchmark::State& state) {
         const plain::Values x = plain::record(kSamples, 1);
         for (auto _ : state) {
             benchmark::DoNotOptimize(vorlan::slidingProducts(x, x, kLags, vorlan::noProgress()));
@@ -45,20 +45,16 @@ void peerRows(Table& table) {
     std::istringstream installed(askPeers(""));
     for (std::string peer; std::getline(installed, peer);) {
         const std::string name = "peers/" + peer;
-        benchmark::RegisterBenchmark(name.c_str(),
-                                     [=](benchmark::State& state) {
-                                         for (auto _ : state) {
-                                             double seconds = 0.0;
-                                             if (!(std::istringstream(askPeers(peer)) >> seconds)) {
-                                                 state.SkipWithError("The peer failed");
-                                                 break;
-                                             }
-                                             state.SetIterationTime(seconds);
-                                         }
-                                     })
-            ->UseManualTime()
-            ->Iterations(1)
-            ->Repetitions(3);
+        const auto run = [=](benchmark::State& state) {
+            for (auto _ : state) {
+                double seconds = 0.0;
+                if (!(std::istringstream(askPeers(peer)) >> seconds)) {
+                    throw std::runtime_error("The peer failed");
+                }
+                state.SetIterationTime(seconds);
+            }
+        };
+        measure(name, run)->UseManualTime()->Iterations(1)->Repetitions(3);
         table.ratio(peer, name, ours, "x ours");
     }
 }

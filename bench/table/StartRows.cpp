@@ -54,18 +54,15 @@ CVorl_ADVApp& freshWindow() {
 
 void startRows(Table& table) {
     table.section("Start, on a screen in memory");
-    benchmark::RegisterBenchmark("start/toolkit",
-                                 [](benchmark::State& state) {
-                                     for (auto _ : state) {
-                                         state.SetIterationTime(toolkit().seconds);
-                                     }
-                                 })
-        ->UseManualTime()
-        ->Iterations(1)
-        ->Repetitions(1);
+    const auto ready = [](benchmark::State& state) {
+        for (auto _ : state) {
+            state.SetIterationTime(toolkit().seconds);
+        }
+    };
+    measure("start/toolkit", ready)->UseManualTime()->Iterations(1)->Repetitions(1);
     table.milliseconds("toolkit ready (once a process)", "start/toolkit");
 
-    benchmark::RegisterBenchmark("start/window", [](benchmark::State& state) {
+    measure("start/window", [](benchmark::State& state) {
         freshWindow();
         for (auto _ : state) {
             freshWindow();
@@ -74,7 +71,7 @@ void startRows(Table& table) {
     table.milliseconds("window built, shown and painted", "start/window");
 
     const Lazy<MillionFile> file;
-    benchmark::RegisterBenchmark("start/open", [=](benchmark::State& state) {
+    measure("start/open", [=](benchmark::State& state) {
         const QString path = QFile::decodeName(file().path.c_str());
         CVorl_ADVApp& app = freshWindow();
         for (auto _ : state) {
