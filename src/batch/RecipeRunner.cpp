@@ -41,9 +41,9 @@ std::vector<ProbePlace> selectedPlaces(const Recipe& recipe, const Workspace& wo
     return places;
 }
 
-/// One step must not overwrite what another step, or the same one for another probe, has written.
-void requireDistinctOutputs(const Recipe& recipe, const std::filesystem::path& input,
-                            const std::vector<ProbePlace>& places) {
+/// One step must not overwrite what another step, or the same one for another probe, has written, and none a workspace.
+void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input,
+                        const std::vector<ProbePlace>& places) {
     std::map<std::string, const RecipeStep*> writers;
     for (const ProbePlace& place : places) {
         for (const RecipeStep& step : recipe.steps) {
@@ -58,6 +58,7 @@ void requireDistinctOutputs(const Recipe& recipe, const std::filesystem::path& i
                 throw usageError(path + " would be written more than once; {file} and {probe} in \"out\" (line " +
                                  std::to_string(step.line) + " of the recipe) keep the probes apart");
             }
+            requireOtherThanWorkspace(path);
         }
     }
 }
@@ -106,7 +107,7 @@ class Runner {
     std::vector<ProbePlace> placesOfRecipe() {
         try {
             const std::vector<ProbePlace> places = selectedPlaces(recipe_, document_.GetWorkspace());
-            requireDistinctOutputs(recipe_, input_, places);
+            requireFreeOutputs(recipe_, input_, places);
             if (places.empty() && !recipe_.steps.empty()) {
                 console_.complain(input_.string() + ": there is no probe to work on");
             }

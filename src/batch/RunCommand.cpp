@@ -92,7 +92,6 @@ void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
         if (inputs.count(identityOf(path)) != 0) {
             throw usageError(path + " is an input: a step cannot write over it");
         }
-        requireOtherThanWorkspace(path);
     }
     for (std::size_t i = 0; i < targets.size() && !arguments.outDir.empty(); ++i) {
         if (inputs.count(identityOf(targets[i])) != 0) {

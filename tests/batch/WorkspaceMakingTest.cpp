@@ -223,10 +223,12 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
     const std::string other = simulated("b.avp", "2");
     const std::string table = write("t.csv", "u,v,w\n1,2,3\n4,5,6\n7,8,9\n");
     const std::string recipe = write("r.toml", "[[step]]\ndo = \"reset\"\n");
+    // The name is that of a workspace only once the probe is known.
+    const std::string third = simulated("c-1.avp", "3");
     const std::string exporting =
-        write("e.toml", "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + other + "\"\n");
+        write("e.toml", "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path("c-{probe}.avp") + "\"\n");
     const std::string before = read(avp);
-    const std::string beside = read(other);
+    const std::string beside = read(other) + read(third);
     const struct {
         std::vector<std::string> arguments;
         std::string named;
@@ -237,7 +239,7 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
         {{"run", "--recipe", recipe, "--out", table, avp}, table},
         {{"export", "velocities", "--out", avp, avp}, avp},
         {{"export", "velocities", "--out", other, avp}, other},
-        {{"run", "--recipe", exporting, avp}, other},
+        {{"run", "--recipe", exporting, avp}, third},
     };
     for (const auto& row : rows) {
         const Result result = run(row.arguments);
@@ -246,7 +248,7 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
     }
     EXPECT_EQ(read(table), "u,v,w\n1,2,3\n4,5,6\n7,8,9\n");
     EXPECT_EQ(read(avp), before);
-    EXPECT_EQ(read(other), beside);
+    EXPECT_EQ(read(other) + read(third), beside);
     // Workspaces and tables that were made before are replaced by their like, empty files by anything.
     done({"import", "--interval", "1", "--out", write("empty", ""), table});
     done({"export", "velocities", "--out", write("old.dat", "old"), avp});
