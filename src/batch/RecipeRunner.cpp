@@ -41,8 +41,9 @@ std::vector<ProbePlace> selectedPlaces(const Recipe& recipe, const Workspace& wo
     return places;
 }
 
-/// One step must not overwrite what another step, or the same one for another probe, has written, and none a workspace.
-void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input,
+/// One step must not overwrite what another step, or the same one for another probe, has written, and none a workspace,
+/// be it there or still to be written as target.
+void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input, const std::filesystem::path& target,
                         const std::vector<ProbePlace>& places) {
     std::map<std::string, const RecipeStep*> writers;
     for (const ProbePlace& place : places) {
@@ -57,6 +58,9 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
             if (!isNew && !sameTable) {
                 throw usageError(path + " would be written more than once; {file} and {probe} in \"out\" (line " +
                                  std::to_string(step.line) + " of the recipe) keep the probes apart");
+            }
+            if (!target.empty() && identityOf(path) == identityOf(target)) {
+                throw usageError(path + " is where the workspace goes: a step needs another name");
             }
             requireOtherThanWorkspace(path);
         }
@@ -82,7 +86,7 @@ class Runner {
 
     void run(const std::filesystem::path& target) {
         openDocument(document_, input_);
-        applySteps();
+        applySteps(target);
         if (interrupted()) {
             throw BatchError(ExitStatus::Interrupted, input_.string() + ": interrupted");
         }
@@ -93,8 +97,8 @@ class Runner {
     }
 
   private:
-    void applySteps() {
-        const std::vector<ProbePlace> places = placesOfRecipe();
+    void applySteps(const std::filesystem::path& target) {
+        const std::vector<ProbePlace> places = placesOfRecipe(target);
         const WorkspaceSettings loaded = document_.Settings();
         for (const ProbePlace& place : places) {
             for (std::size_t i = 0; i < recipe_.steps.size(); ++i) {
@@ -104,10 +108,10 @@ class Runner {
         restoreSelection(loaded, document_.MutableSettings());
     }
 
-    std::vector<ProbePlace> placesOfRecipe() {
+    std::vector<ProbePlace> placesOfRecipe(const std::filesystem::path& target) {
         try {
             const std::vector<ProbePlace> places = selectedPlaces(recipe_, document_.GetWorkspace());
-            requireFreeOutputs(recipe_, input_, places);
+            requireFreeOutputs(recipe_, input_, target, places);
             if (places.empty() && !recipe_.steps.empty()) {
                 console_.complain(input_.string() + ": there is no probe to work on");
             }

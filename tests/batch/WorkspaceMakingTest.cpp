@@ -225,8 +225,11 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
     const std::string recipe = write("r.toml", "[[step]]\ndo = \"reset\"\n");
     // The name is that of a workspace only once the probe is known.
     const std::string third = simulated("c-1.avp", "3");
-    const std::string exporting =
-        write("e.toml", "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path("c-{probe}.avp") + "\"\n");
+    const auto exportingTo = [](const std::string& out) {
+        return "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + out + "\"\n";
+    };
+    const std::string exporting = write("e.toml", exportingTo(path("c-{probe}.avp")));
+    const std::string twice = write("d.toml", exportingTo(path("d.avp")));
     const std::string before = read(avp);
     const std::string beside = read(other) + read(third);
     const struct {
@@ -240,6 +243,7 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
         {{"export", "velocities", "--out", avp, avp}, avp},
         {{"export", "velocities", "--out", other, avp}, other},
         {{"run", "--recipe", exporting, avp}, third},
+        {{"run", "--recipe", twice, "--out", path("d.avp"), avp}, path("d.avp")},
     };
     for (const auto& row : rows) {
         const Result result = run(row.arguments);
