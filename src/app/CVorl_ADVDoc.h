@@ -61,7 +61,7 @@ class CVorl_ADVDoc {
     const WorkspaceSettings& Settings() const { return workspace_.settings; }
     const std::filesystem::path& GetPath() const { return path_; }
     bool IsModified() const { return modified_; }
-    /// True when another program has written the file since it was opened or saved here.
+    /// True when another program has written the file since it was opened or saved here; false where it is gone.
     bool IsChangedOnDisk() const;
     /// True while a calculation runs: no command may start.
     bool IsRunning() const { return running_; }

@@ -6,7 +6,7 @@
 
 namespace vorlan {
 
-/// What tells that a file was written again.
+/// What tells that a file was written again: the time of its last change and its size, bytes.
 struct FileStamp {
     std::filesystem::file_time_type time;
     std::uintmax_t size;
@@ -14,7 +14,7 @@ struct FileStamp {
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
-/// Nothing while there is no such file.
+/// The stamp of what is at path, links followed; nothing where there is no file or it cannot be looked at.
 std::optional<FileStamp> fileStampOf(const std::filesystem::path& path);
 
 }  // namespace vorlan

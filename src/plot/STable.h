@@ -49,6 +49,8 @@ class STable : public SObject {
     void fitInto(const Box& box, const TextMeasure& measure);
     /// Share of the font's size at which every row fits the height of box; not below 0.6.
     double fittingShare(const Box& box, const TextMeasure& measure) const;
+    /// Texts and rules in pixels, from the geometry members on. Every row has its rule, also below box where they do
+    /// not fit; a text without room for a letter is left out. See TableShapes::complete.
     TableShapes shapes(const Box& box, const TextMeasure& measure) const;
 
   private:

@@ -50,7 +50,7 @@ void eventSumsLoop(const double* x, const std::size_t* events, std::size_t count
     constexpr std::size_t kStep = kEventRegisters * kEventLanes;
     std::size_t first = 0;
     for (; first + kStep <= lags; first += kStep) {
-        // Below 0 it wraps round, and so does what it is taken from.
+        // May wrap round below 0; taken from an event's place, it wraps back.
         eventSumsOf<kEventRegisters>(x, events, count, back - first, sums + first);
     }
     eventSumsOfRest<kEventRegisters>(x, events, count, back - first, (lags - first) / kEventLanes, sums + first);
