@@ -99,10 +99,23 @@ AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), target_
 }
 
 void AtomicFile::openTemporary(unsigned mode) {
+    // Where the file system can, the file has no name before it is complete: a program that is killed leaves nothing.
+    file_ = FileDescriptor(::open(folder().c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
+    if (file_.isOpen() && ::access(ownPath().c_str(), F_OK) == 0) {
+        nameless_ = true;
+        return;
+    }
+    file_ = FileDescriptor();
+    tryNames([&](const char* name) {
+        file_ = FileDescriptor(::open(name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+        return file_.isOpen();
+    });
+}
+
+void AtomicFile::tryNames(const std::function<bool(const char*)>& take) {
     for (int i = 0; i < kNamesTried; ++i) {
         const std::filesystem::path candidate = folder() / temporaryName();
-        file_ = FileDescriptor(::open(candidate.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
-        if (file_.isOpen()) {
+        if (take(candidate.c_str())) {
             temporary_ = candidate;
             return;
         }
@@ -111,6 +124,10 @@ void AtomicFile::openTemporary(unsigned mode) {
         }
     }
     fail(errno);
+}
+
+std::string AtomicFile::ownPath() const {
+    return "/proc/self/fd/" + std::to_string(file_.get());
 }
 
 std::filesystem::path AtomicFile::folder() const {
@@ -138,13 +155,21 @@ void AtomicFile::write(std::span<const std::byte> bytes) {
 }
 
 void AtomicFile::commit() {
-    if (temporary_.empty()) {
+    if (temporary_.empty() && !nameless_) {
         if (file_.close() != 0) {
             fail(errno);
         }
         return;
     }
-    if (::fsync(file_.get()) != 0 || file_.close() != 0 || ::rename(temporary_.c_str(), target_.c_str()) != 0) {
+    if (::fsync(file_.get()) != 0) {
+        fail(errno);
+    }
+    if (nameless_) {
+        tryNames([this](const char* name) {
+            return ::linkat(AT_FDCWD, ownPath().c_str(), AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
+        });
+    }
+    if (file_.close() != 0 || ::rename(temporary_.c_str(), target_.c_str()) != 0) {
         fail(errno);
     }
     temporary_.clear();

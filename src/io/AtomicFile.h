@@ -5,6 +5,7 @@
 #include <functional>
 #include <iosfwd>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "io/FileDescriptor.h"
@@ -14,9 +15,9 @@ namespace vorlan {
 /// A file that takes the place of another only when it is complete.
 ///
 /// The bytes go to a temporary file in the target's folder; commit() flushes it to the disk and renames it. Until then
-/// the target stays as it was; without a commit the temporary is removed. A symbolic link is followed, permissions of
-/// a file that is replaced are kept. A target that is a device or a pipe is written directly, since a rename would
-/// replace the device.
+/// the target stays as it was; without a commit the temporary is removed, or has never had a name. A symbolic link is
+/// followed, permissions of a file that is replaced are kept. A target that is a device or a pipe is written directly,
+/// since a rename would replace the device.
 ///
 /// Every failure throws FileError of kind Unwritable, NotAFile (a folder) or Missing (no such folder).
 class AtomicFile {
@@ -32,12 +33,17 @@ class AtomicFile {
 
   private:
     void openTemporary(unsigned mode);
+    /// Takes the first name in the target's folder that is free.
+    void tryNames(const std::function<bool(const char*)>& take);
+    /// Where the system shows the open file.
+    std::string ownPath() const;
     std::filesystem::path folder() const;
     [[noreturn]] void fail(int error) const;
 
     std::filesystem::path path_;       // as the caller named it, for messages
     std::filesystem::path target_;     // the link's end
-    std::filesystem::path temporary_;  // empty when the target is written directly
+    std::filesystem::path temporary_;  // empty when the target is written directly, or while the file has no name
+    bool nameless_ = false;
     FileDescriptor file_;
 };
 

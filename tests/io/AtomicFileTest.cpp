@@ -31,6 +31,13 @@ FileError errorOfWriting(const std::filesystem::path& path, const std::string& t
     return FileError::cannotWrite(FileError::Kind::Empty, path, "");
 }
 
+/// Whether the file system keeps files without a name.
+bool keepsNamelessFiles(const std::filesystem::path& folder) {
+    const int file = ::open(folder.c_str(), O_WRONLY | O_TMPFILE, 0600);
+    ::close(file);
+    return file >= 0;
+}
+
 TEST(AtomicFiles, ReplaceOnlyOnCommit) {
     const TempFolder folder;
     const auto path = folder / "data";
@@ -39,7 +46,7 @@ TEST(AtomicFiles, ReplaceOnlyOnCommit) {
         AtomicFile file(path);
         file.write("new and longer");
         EXPECT_EQ(slurp(path), "old");
-        EXPECT_EQ(folder.entries(), 2U);
+        EXPECT_EQ(folder.entries(), keepsNamelessFiles(path.parent_path()) ? 1U : 2U);
     }
     EXPECT_EQ(slurp(path), "old");
     EXPECT_EQ(folder.entries(), 1U);
@@ -242,6 +249,10 @@ TEST(SavingWorkspaces, KilledInTheMiddleLeavesOneOfTheTwo) {
         const std::int32_t value = axis.GetAt(0);
         EXPECT_EQ(axis.GetAt(axis.GetSize() - 1), value);
         EXPECT_EQ(axis.GetSize(), value == 1 ? 400000 : 300000);
+    }
+    if (keepsNamelessFiles(path.parent_path())) {
+        // All but the moment between naming and renaming leaves nothing behind.
+        EXPECT_LE(folder.entries(), 2U);
     }
 }
 
