@@ -16,7 +16,7 @@ namespace vorlan {
 namespace {
 
 std::string inQuotes(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
+    return std::string("\"").append(text).append("\"");
 }
 
 int lineOf(const toml::source_region& source) {
