@@ -25,6 +25,7 @@ void runExport(const ExportArguments& arguments, Console& console) {
     if (!fault.empty()) {
         throw usageError(fault);
     }
+    requireOtherThanInput(arguments.out, arguments.input);
     requireOtherThanWorkspace(arguments.out);
     SilentPort port;
     CVorl_ADVDoc document(port);

@@ -2,6 +2,7 @@
 
 #include "analysis/ImportedProbe.h"
 #include "batch/Options.h"
+#include "batch/Outputs.h"
 #include "batch/Subcommands.h"
 #include "batch/TextValues.h"
 #include "io/DelimitedTable.h"
@@ -113,6 +114,9 @@ Subcommand addImportCommand(CLI::App& program) {
                 options->table.velocityResolution = options->settings.resolution;
                 options->table.missing =
                     options->missing == 1 ? TableOptions::Missing::Mark : TableOptions::Missing::Error;
+                for (const std::string& table : options->tables) {
+                    requireOtherThanInput(options->out, table);
+                }
                 requireReplaceable(options->out);
                 SilentPort port;
                 CVorl_ADVDoc document(port);

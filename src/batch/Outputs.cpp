@@ -45,6 +45,12 @@ std::string identityOf(const std::filesystem::path& path) {
     return error ? path.lexically_normal().string() : whole.string();
 }
 
+void requireOtherThanInput(const std::string& output, const std::string& input) {
+    if (output != kStandardOutput && identityOf(output) == identityOf(input)) {
+        throw usageError(output + " is an input: it is not written over");
+    }
+}
+
 void requireOtherThanWorkspace(const std::string& output) {
     if (kindOfFile(output) == FileKind::Workspace) {
         throw usageError(output + " is a workspace: nothing else takes its place");

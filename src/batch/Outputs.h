@@ -19,6 +19,9 @@ void writeOutput(const std::string& path, std::string_view bytes, Console& conso
 /// One name per file, however it is spelled: absolute, links followed as far as there are any.
 std::string identityOf(const std::filesystem::path& path);
 
+/// Refuses an output that is the input.
+void requireOtherThanInput(const std::string& output, const std::string& input);
+
 /// Refuses to put a table or a picture in the place of a workspace.
 void requireOtherThanWorkspace(const std::string& output);
 

@@ -27,6 +27,7 @@ void runRender(RenderArguments& arguments, Console& console) {
     if (arguments.pane >= 0) {
         request.pane = static_cast<Pane>(arguments.pane);
     }
+    requireOtherThanInput(request.path, arguments.input);
     requireOtherThanWorkspace(request.path);
     SilentPort port;
     CVorl_ADVDoc document(port);

@@ -70,12 +70,13 @@ class OutputOwners {
 void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
                             const std::vector<std::filesystem::path>& targets) {
     OutputOwners owners;
-    std::set<std::string> inputs;
+    std::set<std::string> inputs{identityOf(arguments.recipe)};
     std::vector<std::string> steps;
     for (std::size_t i = 0; i < arguments.inputs.size(); ++i) {
         inputs.insert(identityOf(arguments.inputs[i]));
         if (!targets[i].empty()) {
             if (!arguments.inPlace) {
+                requireOtherThanInput(targets[i].string(), arguments.recipe);
                 requireReplaceable(targets[i]);
             }
             owners.claim(targets[i].string(), i, arguments);

@@ -1,5 +1,6 @@
 #include "io/WorkspaceFile.h"
 
+#include <algorithm>
 #include <new>
 
 #include "io/AtomicFile.h"
@@ -22,6 +23,18 @@ class AtomicFileSink : public ByteSink {
   private:
     AtomicFile& file_;
 };
+
+/// "Version 1.59" or the like. Tables and recipes read as texts, too, of as many characters as the code of their first
+/// one says; these are short texts, so that one would have to begin with a control character.
+bool isWordAndNumber(const std::string& text) {
+    constexpr std::size_t kLongest = 31;
+    const auto letter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    const auto digit = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
+    const auto number = std::find_if(text.begin(), text.end(), digit);
+    return text.size() <= kLongest && !text.empty() && letter(text.front()) && number != text.end() &&
+           std::all_of(text.begin(), number, [letter](char c) { return letter(c) || c == ' '; }) &&
+           std::all_of(number, text.end(), digit);
+}
 
 }  // namespace
 
@@ -60,8 +73,9 @@ FileKind kindOfFile(const std::filesystem::path& path) {
             return FileKind::Nothing;
         }
         Archive archive = Archive::loading(file);
-        serializeVersion(archive);
-        return FileKind::Workspace;
+        std::string version;
+        archive.value(version);
+        return isWordAndNumber(version) ? FileKind::Workspace : FileKind::Other;
     } catch (const FileError&) {
         return FileKind::Nothing;
     } catch (const ArchiveError&) {

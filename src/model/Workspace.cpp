@@ -23,16 +23,12 @@ bool isVersionText(const std::string& text) {
 
 }  // namespace
 
-void serializeVersion(Archive& archive) {
+void Workspace::Serialize(Archive& archive) {
     std::string version = kVersionText;
     archive.value(version);
     if (archive.isLoading() && !isVersionText(version)) {
         throw InvalidVersionError();
     }
-}
-
-void Workspace::Serialize(Archive& archive) {
-    serializeVersion(archive);
     settings.Serialize(archive);
     dataFiles.Serialize(archive);
     boundaries.Serialize(archive);

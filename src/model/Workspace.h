@@ -23,9 +23,6 @@ class InvalidVersionError : public FormatError {
     InvalidVersionError() : FormatError("Invalid Workspace format.", 0) {}
 };
 
-/// Writes the version text, or reads one: any with a number will do, older or newer. InvalidVersionError.
-void serializeVersion(Archive& archive);
-
 /// Everything that a workspace file holds.
 class Workspace : public SObject {
   public:

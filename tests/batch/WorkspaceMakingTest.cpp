@@ -230,6 +230,13 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
     };
     const std::string exporting = write("e.toml", exportingTo(path("c-{probe}.avp")));
     const std::string twice = write("d.toml", exportingTo(path("d.avp")));
+    // Lines that read as texts of as many characters as the code of their first one.
+    const std::string remark =
+        write("remark.csv", "# Flume run 7, Froude number 0.4, probe down\nu,v,w\n1,2,3\n4,5,6\n");
+    const std::string wide = write("wide.csv", "0.0000,1.0000,2.0000,3.0000,4.0000,5.0000,6.0000,7.0000,8.0000\n");
+    const std::string named = write("named.avp", "u,v,w\n1,2,3\n4,5,6\n7,8,9\n");
+    const std::string noted = write("n.toml", "# Cleaning of run 7: spikes out, then filter\n" + read(recipe));
+    const std::string self = write("self.toml", exportingTo(path("self.toml")));
     const std::string before = read(avp);
     const std::string beside = read(other) + read(third);
     const struct {
@@ -244,6 +251,11 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
         {{"export", "velocities", "--out", other, avp}, other},
         {{"run", "--recipe", exporting, avp}, third},
         {{"run", "--recipe", twice, "--out", path("d.avp"), avp}, path("d.avp")},
+        {{"import", "--interval", "1", "--out", remark, remark}, remark},
+        {{"new", wide}, wide},
+        {{"import", "--interval", "1", "--out", named, named}, named},
+        {{"run", "--recipe", noted, "--out", noted, avp}, noted},
+        {{"run", "--recipe", self, avp}, self},
     };
     for (const auto& row : rows) {
         const Result result = run(row.arguments);
@@ -257,6 +269,8 @@ TEST_F(WorkspaceMakingTest, ASlipInTheOutputsNameCostsNoFile) {
     done({"import", "--interval", "1", "--out", write("empty", ""), table});
     done({"export", "velocities", "--out", write("old.dat", "old"), avp});
     done({"run", "--recipe", recipe, "--out", other, avp});
+    done({"export", "velocities", "--out", wide, avp});
+    done({"export", "velocities", "--out", remark, avp});
 }
 
 TEST_F(WorkspaceMakingTest, OutputsThatCannotBeWrittenEndWithFour) {
