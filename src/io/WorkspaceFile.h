@@ -12,8 +12,8 @@ namespace vorlan {
 /// "Invalid Workspace format.". A damaged count never costs more memory than a small multiple of the file.
 Workspace openWorkspace(const std::filesystem::path& path);
 
-/// What writing a file would replace. Workspace: it begins with a word and a version number. Nothing: no file, an empty one, or one that cannot be read; whether that can be
-/// replaced is seen when it is.
+/// What writing a file would replace. Workspace: it begins with a word and a version number. Nothing: no file, an empty
+/// one, or one that cannot be read; whether that can be replaced is seen when it is.
 enum class FileKind { Nothing, Workspace, Other };
 FileKind kindOfFile(const std::filesystem::path& path);
 
