@@ -10,7 +10,8 @@ fi
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cd "$folder"
-export HOME=$folder PARALLEL_HOME=$folder
+# A login has a shell; a test may have none.
+export HOME=$folder PARALLEL_HOME=$folder SHELL=/bin/sh
 mkdir bin one many
 ln -s "$batch" bin/vorlan-batch
 export PATH=$folder/bin:$PATH
