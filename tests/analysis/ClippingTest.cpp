@@ -71,16 +71,6 @@ TEST(Clipping, LimitsAreTruncatedRefusedOrLimitedToTheRecord) {
     }
 }
 
-TEST(Clipping, AnEmptyRecordHasStressesAndNoMoments) {
-    SAdvProbe probe = velocityRecord(50);
-    ASSERT_TRUE(clip(probe, 1.0, 1.0));
-    EXPECT_EQ(probe.stressesFormed, 1U);
-    EXPECT_TRUE(std::isnan(probe.StressMoments(0).mean));
-    EXPECT_EQ(probe.VelocityMoments(0), Moments{});
-    ASSERT_TRUE(clip(probe, 0.0, 1.0));
-    EXPECT_EQ(probe.WorkingSamples(), 0);
-}
-
 TEST(Clipping, LongerScoresAreCutAndShorterTablesLeft) {
     SAdvProbe probe = velocityRecord(100);
     const SAdvProbe before = probe;

@@ -2,10 +2,8 @@
 
 #include "StressRecord.h"
 #include "analysis/AnalysedSeries.h"
-#include "analysis/CrossLagWindow.h"
 #include "analysis/CrossSpectralAnalysis.h"
 #include "analysis/CrossSpectralFunctions.h"
-#include "analysis/LagWindow.h"
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/Stresses.h"
 
@@ -179,44 +177,6 @@ std::vector<CrossCase> crossCases() {
 INSTANTIATE_TEST_SUITE_P(WindowsUnitsAndLags, CrossSpectralSets, testing::ValuesIn(crossCases()),
                          testing::PrintToStringParamName());
 
-TEST(CrossSpectralAnalysis, FormsStressesOnlyWhenThereAreNone) {
-    SAdvProbe probe = spectrallyAnalysed(50, 10, 0, 0);
-    SAdvProbe formed = probe;
-    formStresses(formed);
-    NoProgress silent;
-    analyseCrossSpectra(probe, silent);
-    analyseCrossSpectra(formed, silent);
-
-    const Columns fluctuations = fluctuationsOf(probe);
-    const std::array<double, 3> ownResolutions = {0.1, 0.05, 0.02};
-    for (int pair = 0; pair < 3; ++pair) {
-        const SArray& column = probe.workTables[SAdvProbe::kStresses].GetAt(pair);
-        const SArray& own = formed.workTables[SAdvProbe::kStresses].GetAt(pair);
-        EXPECT_EQ(column.GetScale(), 0.1);
-        EXPECT_EQ(own.GetScale(), ownResolutions[static_cast<std::size_t>(pair)]);
-        std::vector<double> values;
-        for (std::size_t j = 0; j < 50; ++j) {
-            const double product = fluctuations[static_cast<std::size_t>(kFirst[pair])][j] *
-                                   fluctuations[static_cast<std::size_t>(kSecond[pair])][j];
-            EXPECT_EQ(column.GetAt(static_cast<int>(j)), held(product, 0.1));
-            EXPECT_EQ(own.GetAt(static_cast<int>(j)), held(product, own.GetScale()));
-            values.push_back(column.GetValue(static_cast<int>(j)));
-        }
-        EXPECT_EQ(probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(pair)], meanOf(values));
-    }
-}
-
-TEST(CrossSpectralAnalysis, ReplacesTheSetsOfAnEarlierRun) {
-    SAdvProbe probe = spectrallyAnalysed(80, 40, 1, 0);
-    NoProgress silent;
-    analyseCrossSpectra(probe, silent);
-    analyseSpectra(probe, {12, 1, 0}, silent);
-    analyseCrossSpectra(probe, silent);
-    SAdvProbe fresh = spectrallyAnalysed(80, 12, 1, 0);
-    analyseCrossSpectra(fresh, silent);
-    EXPECT_EQ(probe, fresh);
-}
-
 TEST(CrossSpectralAnalysis, IsRefusedWhenTheRecordBecameTooShort) {
     SAdvProbe probe = spectrallyAnalysed(81, 40, 0, 0);
     EXPECT_EQ(crossSpectralRefusal(probe), "");
@@ -265,59 +225,11 @@ TEST(CrossSpectralAnalysis, OfAConstantRecordIsCoherentByDefinition) {
               std::vector<std::int32_t>(7, std::numeric_limits<std::int32_t>::min()));
 }
 
-TEST(CrossSpectralAnalysis, StopsWhenCancelled) {
-    class Impatient : public NoProgress {
-      public:
-        void breathe() override {
-            if (++breaths > 3) {
-                throw Cancelled();
-            }
-        }
-        int breaths = 0;
-    };
-    SAdvProbe probe = spectrallyAnalysed(400, 200, 0, 0);
-    Impatient impatient;
-    EXPECT_THROW(analyseCrossSpectra(probe, impatient), Cancelled);
-    EXPECT_FALSE(probe.IsDone(DoneMark::CrossSpectral));
-}
-
-TEST(CrossPhase, TurnsThroughAllQuadrants) {
-    EXPECT_NEAR(crossPhase(1.0, 1.0), 45.0, 1e-9);
-    EXPECT_NEAR(crossPhase(-1.0, 1.0), 135.0, 1e-9);
-    EXPECT_NEAR(crossPhase(-1.0, -1.0), -135.0, 1e-9);
-    EXPECT_NEAR(crossPhase(1.0, -1.0), -45.0, 1e-9);
-    EXPECT_NEAR(crossPhase(-1.0, 1e-9), 180.0, 1e-6);
-    EXPECT_NEAR(crossPhase(-1.0, -1e-9), -180.0, 1e-6);
-    EXPECT_NEAR(crossPhase(0.0, 2.0), 90.0, 1e-9);
-    EXPECT_NEAR(crossPhase(0.0, -2.0), -90.0, 1e-9);
-    EXPECT_TRUE(std::isnan(crossPhase(0.0, 0.0)));
-}
-
 TEST(SquaredCoherence, NeverExceedsOne) {
     EXPECT_EQ(squaredCoherence(1.0, 1.0, 2.0, 4.0), 0.25);
     EXPECT_EQ(squaredCoherence(3.0, 0.0, 2.0, 4.0), 1.0);
     EXPECT_EQ(squaredCoherence(1.0, 0.0, 0.0, 4.0), 1.0);
     EXPECT_EQ(squaredCoherence(0.0, 0.0, 0.0, 4.0), 1.0);
-}
-
-TEST(CrossLagWindow, DiffersFromTheUnivariateOneInBartlettOnly) {
-    EXPECT_EQ(crossLagWindowWeight(2, 0.0, 10.0), 0.1);
-    EXPECT_EQ(crossLagWindowWeight(2, 1.0, 10.0), 0.0);
-    EXPECT_EQ(crossLagWindowWeight(2, 6.0, 10.0), -0.5);
-    for (const int code : {0, 1, 3, 4, -1}) {
-        for (int k = 0; k <= 10; ++k) {
-            EXPECT_EQ(crossLagWindowWeight(code, k, 10.0), lagWindowWeight(code, k, 10.0));
-        }
-    }
-}
-
-TEST(CrossCovariance, RefusesSeriesThatDoNotMatch) {
-    NoProgress silent;
-    const std::vector<double> three(3, 1.0);
-    const std::vector<double> four(4, 1.0);
-    EXPECT_THROW(crossCovariance(three, four, 2, silent), InvalidArgument);
-    EXPECT_THROW(crossCovariance(four, four, 5, silent), InvalidArgument);
-    EXPECT_THROW(crossCovariance(four, four, -1, silent), InvalidArgument);
 }
 
 }  // namespace

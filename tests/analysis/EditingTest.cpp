@@ -32,58 +32,6 @@ std::vector<std::int32_t> marksOf(const SAdvProbe& probe) {
     return {probe.sampleFlags.begin(), probe.sampleFlags.end()};
 }
 
-TEST(Editing, ScoresEqualToTheThresholdAreGood) {
-    struct Row {
-        const char* name;
-        std::array<std::int32_t, 3> tenths;
-        bool badAverage, badMinimum;
-    };
-    const Row rows[] = {{"all equal", {700, 700, 700}, false, false},
-                        {"one a little low", {700, 700, 699}, true, true},
-                        {"one low, average high", {990, 980, 699}, false, true},
-                        {"first low", {699, 990, 990}, false, true}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        SAdvProbe probe = smallRecord({1, 2, 3}, {99, 99, 99});
-        for (int c = 0; c < 3; ++c) {
-            probe.workTables[1].ElementAt(c) = columnOf(std::vector(3, row.tenths[static_cast<std::size_t>(c)]), 0.1);
-        }
-        SAdvProbe other = probe;
-        EXPECT_EQ(testScores(probe, 1, ScoreStatistic::Average, 70.0).bad, row.badAverage ? 1 : 0);
-        EXPECT_EQ(testScores(other, 1, ScoreStatistic::Minimum, 70.0).bad, row.badMinimum ? 1 : 0);
-    }
-}
-
-TEST(Editing, RepairReadsTheLeftNeighbourRepairedAndTheRightOneOld) {
-    SAdvProbe probe = smallRecord({0, 100, 60, 20}, {0, 0, 0, 0});
-    const CriterionResult result = testScores(probe, 1, ScoreStatistic::Minimum, 70.0);
-    EXPECT_EQ(unitsOf(velocity(probe, 0)), (std::vector<std::int32_t>{0, 30, 25, 20}));
-    EXPECT_EQ(marksOf(probe), (std::vector<std::int32_t>{1, 0, 0, 1}));
-    EXPECT_EQ(result.tested, 2);
-    EXPECT_EQ(result.keptShare(), 0.0);
-    // Marks stay at 0 although the repaired sample is good now.
-    EXPECT_EQ(testScores(probe, 1, ScoreStatistic::Minimum, -1.0).bad, 0);
-    EXPECT_EQ(marksOf(probe)[1], 0);
-}
-
-TEST(Editing, SpikesAreRepairedByThresholdAndIntervalAlone) {
-    const std::vector<std::int32_t> units = {290, 291, 3291, 293, 294};
-    SAdvProbe probe = smallRecord(units, {99, 99, 99, 99, 99});
-    velocity(probe, 0).SetScale(0.01);  // trunc(293 * 0.01 / 0.01) would not be 293 everywhere
-    SAdvProbe counted = probe;
-    EXPECT_EQ(filterSpikes(counted, 1.0).bad, 3);
-    EXPECT_EQ(unitsOf(velocity(counted, 0)), units);
-    EXPECT_EQ(marksOf(counted), (std::vector<std::int32_t>{1, 0, 0, 0, 1}));
-
-    // 981 a < 1 / dt = 25.
-    SAdvProbe repaired = probe;
-    filterSpikes(repaired, 0.025);
-    EXPECT_EQ(unitsOf(velocity(repaired, 1)), (std::vector<std::int32_t>{290, 1790, 1041, 667, 294}));
-    probe.useAllSamples = 0;
-    EXPECT_EQ(filterSpikes(probe, 0.025).bad, 3);
-    EXPECT_EQ(unitsOf(velocity(probe, 1)), units);
-}
-
 TEST(Editing, SpikesAreDecidedByTheFormulaToTheLastBit) {
     std::vector<std::int32_t> units;
     std::uint32_t seed = 1;
@@ -112,20 +60,6 @@ TEST(Editing, SpikesAreDecidedByTheFormulaToTheLastBit) {
             ASSERT_EQ(filterSpikes(marked, threshold).bad, above) << k << ' ' << factor;
         }
     }
-}
-
-TEST(Editing, VelocityTestCountsComponentsAndUsesTheMomentsFromBefore) {
-    SAdvProbe probe = smallRecord({10, 10, 13, 10, 10}, {99, 99, 99, 99, 99});
-    velocity(probe, 2) = columnOf({10, 10, 12, 10, 14}, 1.0);
-    for (int c = 0; c < 3; ++c) {
-        probe.SetVelocityMoments(c, {10.0, 1.0, 0.0, 0.0});
-    }
-    const CriterionResult result = testVelocities(probe, 2.0);
-    EXPECT_EQ(result.bad, 2);
-    EXPECT_EQ(result.tested, 9);
-    EXPECT_EQ(unitsOf(velocity(probe, 0)), (std::vector<std::int32_t>{10, 10, 10, 10, 10}));
-    EXPECT_EQ(unitsOf(velocity(probe, 2)), (std::vector<std::int32_t>{10, 10, 12, 10, 14}));
-    EXPECT_EQ(marksOf(probe), (std::vector<std::int32_t>{1, 1, 0, 1, 1}));
 }
 
 /// The whole screening once more, sample by sample over plain values.
@@ -316,25 +250,6 @@ TEST(Editing, ShortRecordsAreNotTestedAndShortScoresRefused) {
     SAdvProbe probe = velocityRecord(20);
     probe.workTables[1].ElementAt(2).SetSize(10);
     EXPECT_THROW(editSeries(probe, settings), InvalidArgument);
-}
-
-TEST(Editing, ParametersGoToTheWorkspaceAndBack) {
-    WorkspaceSettings stored;
-    EditingSettings dialog = editingSettingsOf(stored);
-    EXPECT_EQ(dialog.correlation.threshold(), 70.0);
-    EXPECT_EQ(dialog.signalToNoise.threshold(), 10.0);
-    dialog.signalToNoise = {true, ScoreStatistic::Minimum, 11.0, 6.0};
-    dialog.treatment = BadSampleTreatment::Remove;
-    storeEditingSettings(dialog, stored);
-    const EditingSettings back = editingSettingsOf(stored);
-    EXPECT_TRUE(back.signalToNoise.on);
-    EXPECT_EQ(back.signalToNoise.threshold(), 6.0);
-    EXPECT_FALSE(back.correlation.on);
-    EXPECT_EQ(back.treatment, BadSampleTreatment::Remove);
-    stored.badSampleTreatment = 9;
-    stored.snrStatistic = -3;
-    EXPECT_EQ(editingSettingsOf(stored).treatment, BadSampleTreatment::Interpolate);
-    EXPECT_EQ(editingSettingsOf(stored).signalToNoise.statistic, ScoreStatistic::Average);
 }
 
 }  // namespace

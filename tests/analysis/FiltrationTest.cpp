@@ -58,14 +58,6 @@ TEST(Filtration, WidthsOnTheLimitsDoNothing) {
     }
 }
 
-TEST(Filtration, DialogRefusesZerosOnly) {
-    const FilterShape shape = FilterShape::Rectangle;
-    EXPECT_EQ(refusalOf(settingsOf(shape, FilterType::LowPass, 0.0, 0.0)), "The filter width should be grater than 0!");
-    EXPECT_EQ(refusalOf(settingsOf(shape, FilterType::LowPass, 1.0, 0.0)),
-              "The cutoff frequency should be grater than 0!");
-    EXPECT_EQ(refusalOf(settingsOf(shape, FilterType::LowPass, -1.0, -1.0)), "");
-}
-
 /// Output j as the formulas say, cosine and exponential anew for every tap.
 double plainOutput(const std::vector<double>& x, std::size_t j, const FilterSettings& settings, int m, double f) {
     double sum = 0.0;
@@ -124,41 +116,6 @@ TEST(Filtration, EveryShapeAndTypeStoresThePlainSums) {
             EXPECT_EQ(probe.sampleFlags, before.sampleFlags);
         }
     }
-}
-
-TEST(Filtration, ASpanOfFourSamplesHasADivisorOfFive) {
-    NoProgress progress;
-    const std::vector<double> y = filtered(std::vector<double>(10, 10.0), filterWeights(FilterShape::Rectangle, 2, 0.0),
-                                           FilterType::LowPass, progress);
-    EXPECT_EQ(y, std::vector<double>(6, 8.0));
-}
-
-TEST(Filtration, WeightsKeepTheWrittenConstants) {
-    const std::vector<double> bell = filterWeights(FilterShape::Bell, 12, 0.0);
-    ASSERT_EQ(bell.size(), 24U);
-    EXPECT_EQ(bell[0],
-              std::sqrt(2.0) * std::exp(3.1415926 * 121.0 / -288.0) * std::cos(11.0 * 6.2831852 / 12.0) / 12.0);
-    EXPECT_EQ(bell[23], std::sqrt(2.0) * std::exp(3.1415926 * 144.0 / -288.0) * std::cos(-6.2831852) / 12.0);
-}
-
-TEST(Filtration, AGaussianOfNoWidthGivesZeros) {
-    SAdvProbe probe = velocityRecord(40);
-    NoProgress progress;
-    const FilterSettings settings = settingsOf(FilterShape::Gaussian, FilterType::LowPass, 0.1, 1000.0);
-    ASSERT_EQ(filterHalfWidthSamples(settings, 0.04), 0.0);
-    filterVelocities(probe, settings, progress);
-    EXPECT_EQ(unitsOf(velocity(probe, 2)), std::vector<std::int32_t>(40, 0));
-}
-
-TEST(Filtration, KernelsThatDoNotFitAreRefused) {
-    SAdvProbe probe = velocityRecord(20);
-    NoProgress progress;
-    for (const double h : {0.4, -0.2}) {
-        EXPECT_THROW(filterVelocities(probe, settingsOf(FilterShape::Tukey, FilterType::LowPass, h), progress),
-                     InvalidArgument);
-    }
-    EXPECT_THROW(filterVelocities(probe, settingsOf(FilterShape::Gaussian, FilterType::LowPass, 1.0, 0.1), progress),
-                 InvalidArgument);
 }
 
 TEST(Filtration, FinishFormsStressesOfTheShorterRecord) {

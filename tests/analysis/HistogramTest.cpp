@@ -129,12 +129,5 @@ TEST(Histogram, NormalCurveHasItsOwnPi) {
     EXPECT_TRUE(normalApproximation(STimeSeries()).x.empty());
 }
 
-TEST(Histogram, DialogRefusesFewerThanTwoGrades) {
-    HistogramSettings settings;
-    EXPECT_EQ(refusalOf(settings), "");
-    settings.grades = 1;
-    EXPECT_EQ(refusalOf(settings), "Number of grades should be larger than 1!");
-}
-
 }  // namespace
 }  // namespace vorlan::test

@@ -60,23 +60,6 @@ TEST(Moments, NothingGuardsShortOrConstantSeries) {
     EXPECT_DOUBLE_EQ(two.kurtosis, 0.125 / (2.0 * 0.25) - 3.0);
 }
 
-TEST(Moments, ThreeColumnsAtOnceHaveTheirOwnMoments) {
-    std::vector<std::vector<int>> units(3);
-    for (int i = 0; i < 1003; ++i) {
-        units[0].push_back(i * 7919 % 1201 - 600);
-        units[1].push_back(i * i % 977);
-        units[2].push_back(i % 5);
-    }
-    units[1].resize(600);
-    const SArray u = column(0.01, units[0]);
-    const SArray v = column(0.003, units[1]);
-    const SArray w = column(1.0, units[2]);
-    const auto moments = columnMoments({ColumnSamples::of(u), ColumnSamples::of(v), ColumnSamples::of(w)});
-    EXPECT_EQ(moments[0], momentsOf(u.Values()));
-    EXPECT_EQ(moments[1], momentsOf(v.Values()));
-    EXPECT_EQ(moments[2], momentsOf(w.Values()));
-}
-
 TEST(Moments, Extremes) {
     const Extremes negative = extremesOf(column(-0.5, {4, -7, 9, 9, 0}));
     EXPECT_EQ(negative.minimum, -4.5);
@@ -156,14 +139,6 @@ TEST(Stresses, FluctuationsCountEverySampleMomentsOnlyTheMarkedOnes) {
 
     formStresses(probe, StressResolution::StreamwiseU);
     EXPECT_EQ(stresses.GetAt(2), column(0.5, {0, 4, -4, -6}));
-}
-
-TEST(Stresses, ProductsAreTruncatedBeforeTheirMoments) {
-    // Means 0.5 and 0.25; products 0.125 at resolution 0.5.
-    SAdvProbe probe = probeOf({0, 2}, {0, 2}, {0, 0}, {1, 1});
-    formStresses(probe);
-    EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetAt(0), column(0.5, {0, 0}));
-    EXPECT_EQ(probe.StressMoments(0).mean, 0.0);
 }
 
 TEST(Stresses, EmptyRecord) {

@@ -169,48 +169,6 @@ TEST(Quadrants, HoldTheIntegersOfThePlainLoops) {
     }
 }
 
-TEST(Quadrants, RecordsTheRun) {
-    for (const double coupling : {-0.4, 0.4}) {
-        SAdvProbe probe = correlatedProbe(500, coupling);
-        NoProgress silent;
-        analyseQuadrants(probe, settingsOf(0.25, 5.0, 1.0, 2.0, 2.5, 1), silent);
-        EXPECT_EQ(probe.stressesFormed, 1U);
-        EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetAt(2).GetScale(), 0.1);
-        EXPECT_EQ(probe.quadrantStress, 1U);
-        EXPECT_EQ(probe.statistics[18], 0.25);
-        EXPECT_EQ(probe.statistics[19], 5.0);
-        EXPECT_EQ(probe.statistics[20], 2.5);
-        EXPECT_EQ(probe.statistics[21], probe.statistics[SAdvProbe::kMeanStresses + 1]);
-        EXPECT_EQ(probe.statistics[21] > 0.0, coupling > 0.0);
-        EXPECT_TRUE(probe.IsDone(DoneMark::Quadrants));
-        EXPECT_EQ(probe.stageTables[0].GetAt(4).GetSize(), 20);
-        EXPECT_EQ(probe.stageTables[3].GetAt(1).GetSize(), 2 * 62 + 1);
-    }
-}
-
-TEST(Quadrants, SharesAddUpAndTheHoleGrows) {
-    SAdvProbe probe = correlatedProbe(3000, -0.4);
-    NoProgress silent;
-    analyseQuadrants(probe, QuadrantSettings(), silent);
-    ASSERT_EQ(probe.stageTables[0].GetAt(0).GetSize(), 100);
-    for (int h = 0; h < 100; ++h) {
-        double contribution = 0.0;
-        double time = 0.0;
-        for (int q = 0; q < 5; ++q) {
-            contribution += probe.stageTables[0].GetAt(q).GetValue(h);
-            time += probe.stageTables[1].GetAt(q).GetValue(h);
-        }
-        // Five values, each cut off below its fifth decimal.
-        EXPECT_NEAR(contribution, 1.0, 5e-5);
-        EXPECT_NEAR(time, 1.0, 5e-5);
-        if (h > 0) {
-            EXPECT_GE(probe.stageTables[1].GetAt(4).GetAt(h), probe.stageTables[1].GetAt(4).GetAt(h - 1));
-        }
-    }
-    EXPECT_GT(probe.stageTables[0].GetAt(1).GetValue(0), 0.0);
-    EXPECT_LT(probe.stageTables[0].GetAt(0).GetValue(0), 0.0);
-}
-
 /// A record of one repeated pattern of fluctuations, in whole units.
 SAdvProbe patternProbe(const std::vector<std::array<int, 3>>& pattern, int repeats) {
     SAdvProbe probe;
@@ -259,19 +217,6 @@ TEST(Quadrants, WrapWhenASumLeavesThirtyTwoBits) {
     const QuadrantSettings settings = settingsOf(50.0, 1000.0, 1.0, 2.0, 2.0, 1);
     analyseQuadrants(probe, settings, silent);
     expectPlainResults(probe, settings);
-}
-
-TEST(Quadrants, OfAZeroMeanStressAreDefined) {
-    SAdvProbe balanced = patternProbe({{2, 0, 2}, {-2, 0, 2}, {2, 0, -2}, {-2, 0, -2}}, 3);
-    SAdvProbe constant = patternProbe({{2, 0, 2}}, 7);
-    for (SAdvProbe* probe : {&balanced, &constant}) {
-        NoProgress silent;
-        const QuadrantSettings settings = settingsOf(0.5, 3.0, 1.0, 2.0, 2.0, 1);
-        analyseQuadrants(*probe, settings, silent);
-        EXPECT_EQ(probe->statistics[21], 0.0);
-        expectPlainResults(*probe, settings);
-        EXPECT_EQ(integers(probe->stageTables[SAdvProbe::kEjectionPattern].GetAt(0)), std::vector<std::int32_t>(9, 0));
-    }
 }
 
 TEST(Quadrants, OfAnEmptyRecordAreEmpty) {
@@ -387,33 +332,6 @@ TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
     }
     EXPECT_TRUE(averageAround(std::vector<std::size_t>{0}, std::vector<double>{1.0}, -1).empty());
     EXPECT_EQ(averageAround({}, {}, 2), std::vector<double>(5));
-}
-
-TEST(QuadrantSettings, AreCheckedInOrderAndByTheirBounds) {
-    QuadrantSettings bad = settingsOf(0.0, 1.9, -0.1, -0.1, 1.9, 1);
-    EXPECT_EQ(refusalOf(bad), "The ejection threshold should be grater than 0!");
-    bad.ejectionThreshold = 0.0;
-    EXPECT_EQ(refusalOf(bad), "The maximum size should be grater than 2!");
-    bad.maximum = 2.0;
-    EXPECT_EQ(refusalOf(bad), "The maximum lag should be grater than 2!");
-    bad.maximumLag = 2.0;
-    EXPECT_EQ(refusalOf(bad), "The sweep threshold should be grater than 0!");
-    bad.sweepThreshold = 0.0;
-    EXPECT_EQ(refusalOf(bad), "The size increment should be grater than 0!");
-    bad.increment = -0.1;
-    EXPECT_EQ(refusalOf(bad), "");
-}
-
-TEST(QuadrantSettings, TravelToTheWorkspaceAndBack) {
-    WorkspaceSettings workspace;
-    EXPECT_EQ(quadrantSettingsOf(workspace), QuadrantSettings());
-    const QuadrantSettings changed = settingsOf(0.5, 10.0, 1.5, 2.5, 4.0, 2);
-    storeQuadrantSettings(changed, workspace);
-    EXPECT_EQ(quadrantSettingsOf(workspace), changed);
-    EXPECT_EQ(workspace.maximumTimeLag, 4.0);
-    EXPECT_EQ(workspace.quadrantStress, 2);
-    workspace.quadrantStress = 7;
-    EXPECT_EQ(quadrantSettingsOf(workspace).stressType, 1);
 }
 
 }  // namespace

@@ -7,33 +7,9 @@
 #include "VelocityRecord.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
-#include "model/StoreValue.h"
 
 namespace vorlan::test {
 namespace {
-
-struct QuarterTurn {
-    const char* name;
-    double heading, pitch, roll;
-    std::array<std::int32_t, 3> from, to;
-};
-
-TEST(Rotation, QuarterTurnsGoFromTheFirstAxisTowardsTheSecond) {
-    const QuarterTurn turns[] = {{"heading", 90, 0, 0, {1000, 0, 0}, {0, 1000, 0}},
-                                 {"pitch", 0, 90, 0, {0, 1000, 0}, {0, 0, 1000}},
-                                 {"roll", 0, 0, 90, {1000, 0, 0}, {0, 0, 1000}}};
-    for (const QuarterTurn& turn : turns) {
-        SCOPED_TRACE(turn.name);
-        SAdvProbe probe;
-        for (const std::int32_t n : turn.from) {
-            probe.workTables[0].Add(columnOf({n}, 0.001));
-        }
-        rotateProbe(probe, turn.heading, turn.pitch, turn.roll);
-        for (int c = 0; c < 3; ++c) {
-            EXPECT_NEAR(velocity(probe, c).GetAt(0), turn.to[static_cast<std::size_t>(c)], 1);
-        }
-    }
-}
 
 TEST(Rotation, EachTurnReadsWhatTheOneBeforeStored) {
     SAdvProbe probe = velocityRecord(257);
@@ -78,15 +54,6 @@ TEST(Rotation, RefusesColumnsOfDifferentLength) {
     SAdvProbe probe = velocityRecord(10);
     velocity(probe, 1).SetSize(9);
     EXPECT_THROW(rotateProbe(probe, 1.0, 0.0, 0.0), InvalidArgument);
-}
-
-TEST(Rotation, DialogShowsMetresAndTheCoordinateSystem) {
-    SAdvProbe probe;
-    probe.samplingVolumeX = 250.0;
-    EXPECT_EQ(rotationSettingsOf(probe).position[0], 250.0 * 0.001);
-    EXPECT_STREQ(coordinateSystemText(probe), "Probe( X, Y, Z ) ");
-    probe.coordinateSystem = 2;
-    EXPECT_STREQ(coordinateSystemText(probe), "Earth ( East, North, Up )");
 }
 
 }  // namespace

@@ -4,10 +4,8 @@
 #include <cstdint>
 #include <limits>
 
-#include "analysis/LagWindow.h"
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/SpectralFunctions.h"
-#include "analysis/SpectralScale.h"
 #include "analysis/SpectralSettings.h"
 #include "model/Errors.h"
 
@@ -18,20 +16,13 @@ namespace {
 
 constexpr double kWrittenPi = 3.141592653589;
 
-class Recorder : public Progress {
+class Recorder : public NoProgress {
   public:
     void status(const std::string& text) override { texts.push_back(text); }
     void position(int percent) override { positions.push_back(percent); }
-    void breathe() override {
-        if (++breaths == cancelAt) {
-            throw Cancelled();
-        }
-    }
 
     std::vector<std::string> texts;
     std::vector<int> positions;
-    int breaths = 0;
-    int cancelAt = -1;
 };
 
 /// A record with a swing, a slope and noise, in hundredths of cm/s.
@@ -44,7 +35,8 @@ SArray velocities(int samples, std::uint32_t seed, double amplitude) {
     return values;
 }
 
-SAdvProbe analysedProbe(int samples, double amplitude = 3.0) {
+SAdvProbe analysedProbe(int samples) {
+    const double amplitude = 3.0;
     SAdvProbe probe;
     probe.samplingInterval = 0.04;
     probe.seriesU.values = velocities(samples, 1, amplitude);
@@ -179,32 +171,6 @@ TEST(SpectralAnalysis, RecordsItsRunAndTellsItsProgress) {
     }
 }
 
-TEST(SpectralAnalysis, CanBeCancelledAtEveryBreath) {
-    Recorder whole;
-    SAdvProbe probe = analysedProbe(60000);
-    analyseSpectra(probe, {300, 1, 0}, whole);
-    // More often than once per function: long series breathe within one.
-    ASSERT_GT(whole.breaths, 20);
-    for (const int at : {1, whole.breaths / 2, whole.breaths}) {
-        Recorder progress;
-        progress.cancelAt = at;
-        SAdvProbe copy = analysedProbe(60000);
-        EXPECT_THROW(analyseSpectra(copy, {300, 1, 0}, progress), Cancelled);
-        EXPECT_FALSE(copy.IsDone(DoneMark::Spectral));
-    }
-}
-
-TEST(SpectralAnalysis, LargeSpectraOverflowAndStay) {
-    // A swing of 40 cm/s over 150 lags of 0.04 s has a peak far above 214.7 (cm/s)^2/Hz.
-    SAdvProbe probe = analysedProbe(2000, 40.0);
-    NoProgress progress;
-    analyseSpectra(probe, {150, 0, 0}, progress);
-    const auto integers = integersOf(probe.seriesU.spectrum);
-    EXPECT_EQ(std::count(integers.begin(), integers.end(), std::numeric_limits<std::int32_t>::min()),
-              std::count_if(integers.begin(), integers.end(), [](int n) { return n < 0; }));
-    EXPECT_LT(*std::min_element(integers.begin(), integers.end()), 0);
-}
-
 TEST(SpectralFunctions, RefuseImpossibleLags) {
     NoProgress progress;
     const std::vector<double> d = {1.0, -1.0, 0.5};
@@ -213,52 +179,6 @@ TEST(SpectralFunctions, RefuseImpossibleLags) {
     EXPECT_TRUE(autocovariance(d, 0, progress).empty());
     EXPECT_EQ(autocovariance(d, 3, progress), (std::vector<double>{2.25 / 3, -1.5 / 2, 0.5}));
     EXPECT_EQ(structureFunction(d, 3, progress), (std::vector<double>{0.0, (4 + 2.25) / 2, 0.25}));
-}
-
-TEST(SpectralFunctions, ShortSpectraAreConstant) {
-    NoProgress progress;
-    EXPECT_TRUE(powerSpectrum({}, 1, 0, 0.5, progress).empty());
-    EXPECT_EQ(powerSpectrum(std::vector<double>{3.0}, 1, 0, 0.5, progress), std::vector<double>{3.0});
-    const std::vector<double> two = {3.0, 1.0};
-    EXPECT_EQ(powerSpectrum(two, 1, 1, 0.5, progress), (std::vector<double>(2, 3.0 * 0.5 / kWrittenPi)));
-    const std::vector<std::vector<double>> unequal = {{1.0, 2.0}, {1.0}};
-    EXPECT_THROW(powerSpectra(unequal, 1, 0, 0.5, progress), InvalidArgument);
-}
-
-TEST(SpectralFunctions, SharedCosinesChangeNothing) {
-    NoProgress progress;
-    std::vector<std::vector<double>> covariances;
-    for (int s = 0; s < 4; ++s) {
-        std::vector<double>& r = covariances.emplace_back();
-        for (int k = 0; k < 333; ++k) {
-            r.push_back(std::cos(0.1 * s * k) * std::exp(-0.01 * k));
-        }
-    }
-    const auto together = powerSpectra(covariances, 3, 1, 0.04, progress);
-    for (std::size_t s = 0; s < covariances.size(); ++s) {
-        EXPECT_EQ(together[s], powerSpectrum(covariances[s], 3, 1, 0.04, progress));
-    }
-}
-
-TEST(LagWindow, Weights) {
-    for (const int code : {0, 4, -1}) {
-        EXPECT_EQ(lagWindowWeight(code, 7.0, 10.0), 1.0);
-    }
-    EXPECT_NEAR(lagWindowWeight(1, 5.0, 10.0), 0.5, 1e-12);
-    EXPECT_EQ(lagWindowWeight(2, 5.0, 20.0), 0.75);
-    EXPECT_EQ(lagWindowWeight(3, 5.0, 20.0), 1.0 - 6.0 / 16.0 + 6.0 / 64.0);
-    EXPECT_EQ(lagWindowWeight(3, 10.0, 20.0), 0.25);
-    EXPECT_EQ(lagWindowWeight(3, 15.0, 20.0), 2.0 / 64.0);
-    for (const int code : {1, 2, 3}) {
-        EXPECT_EQ(lagWindowWeight(code, 0.0, 20.0), 1.0);
-        EXPECT_NEAR(lagWindowWeight(code, 20.0, 20.0), 0.0, 1e-20);
-    }
-}
-
-TEST(SpectralScale, FrequencySteps) {
-    EXPECT_EQ(frequencyStep(250, 0.04, 0), 0.05);
-    EXPECT_EQ(frequencyStep(250, 0.04, 1), 0.314);
-    EXPECT_EQ(frequencyStep(250, 0.04, 2), 0.0);
 }
 
 TEST(SpectralSettings, ButtonsAndCodes) {

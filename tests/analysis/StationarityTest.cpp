@@ -82,43 +82,6 @@ TEST(Stationarity, BandsEqualThePlainSequence) {
     }
 }
 
-TEST(Stationarity, LastButOneFixedBandLiesHalfABandEarly) {
-    STimeSeries ramp;
-    for (int i = 0; i < 1000; ++i) {
-        ramp.values.Add(i);
-    }
-    NoProgress progress;
-    computeBands(ramp, BandMode::Fixed, 10, progress);
-    EXPECT_EQ(ramp.bandMeans.GetAt(7), 7495000);
-    EXPECT_EQ(ramp.bandMeans.GetAt(8), 7995000);
-    EXPECT_EQ(ramp.bandMeans.GetAt(9), 9495000);
-    EXPECT_EQ(ramp.bandMeans.GetScale(), 0.0001);
-}
-
-TEST(Stationarity, TwoFixedBandsLeaveTheFirstEmpty) {
-    SAdvProbe probe = velocityRecord(100);
-    NoProgress progress;
-    analyseStationarity(probe, {BandMode::Cumulative, 40}, progress);
-    analyseStationarity(probe, {BandMode::Fixed, 2}, progress);
-    EXPECT_EQ(probe.seriesU.bandVariances.GetSize(), 2);
-    EXPECT_EQ(probe.seriesU.bandVariances.GetAt(0), 0);
-    EXPECT_NE(probe.seriesU.bandVariances.GetAt(1), 0);
-    EXPECT_EQ(probe.seriesU.bands, 2U);
-    EXPECT_EQ(probe.bandMode, 0U);
-    EXPECT_TRUE(probe.IsDone(DoneMark::Stationarity));
-}
-
-TEST(Stationarity, MarkedSamplesAreLeftOut) {
-    SAdvProbe probe = velocityRecord(101);
-    probe.useAllSamples = 0;
-    probe.sampleFlags.SetAt(0, 0);
-    std::vector<double> x = velocity(probe, 1).Values();
-    x.erase(x.begin());
-    NoProgress progress;
-    analyseStationarity(probe, {BandMode::Fixed, 10}, progress);
-    EXPECT_EQ(bandsOf(probe.seriesV), plainBands(x, BandMode::Fixed, 10));
-}
-
 TEST(Stationarity, TooFewSamplesStoreNothingNumeric) {
     SAdvProbe probe = velocityRecord(0);
     NoProgress progress;

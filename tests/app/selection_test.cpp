@@ -67,16 +67,6 @@ TEST_F(Selection, TabsStandInTheOrderOfTheFirstRun) {
     EXPECT_EQ(document.ShownTab(), 1);
 }
 
-TEST_F(Selection, ProbesKeepTheirTabs) {
-    simulateAndSelect(document);
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
-    simulateAndSelect(document);
-    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing);
-    document.SelectFile(0);
-    EXPECT_EQ(document.ActiveProbe(), 0) << "a file brings its first probe";
-    EXPECT_EQ(document.CurrentStage(), Stage::Spectral);
-}
-
 TEST_F(Selection, ATabOfAnUnknownStageChangesNothingButTheTab) {
     SimulationParameters p = sampleParameters();
     SAdvFile file = simulate(p, 1);

@@ -263,21 +263,6 @@ TEST_F(ResultExports, Patterns) {
                Formats("%.2f %.2f %.2f %.2f %.2f\n", "%.2f %.2f %.2f %.2f\n"), rows, {0});
 }
 
-TEST_F(ResultExports, OfProbesWithoutResultsHaveTheirHeaderOnly) {
-    probe_ = SAdvProbe();
-    ExportOptions options;
-    options.header = true;
-    options.time = true;
-    for (const ExportKindInfo& info : exportKinds()) {
-        if (info.dialog == ExportDialog::Options) {
-            const std::string text = exported(info.kind, options);
-            const auto lines = std::count(text.begin(), text.end(), '\n');
-            const bool long_ = info.kind == ExportKind::Spectral || info.kind == ExportKind::CrossSpectral;
-            EXPECT_EQ(lines, long_ ? 6 : 3) << info.name;
-        }
-    }
-}
-
 TEST_F(ResultExports, OfColumnsThatDoNotFitTogetherAreRefused) {
     ExportOptions options;
     for (const bool time : {false, true}) {
@@ -289,14 +274,6 @@ TEST_F(ResultExports, OfColumnsThatDoNotFitTogetherAreRefused) {
         probe_.stageTables[0].ElementAt(4) = SArray();
         EXPECT_THROW(exported(ExportKind::Contributions, options), InvalidArgument);
     }
-}
-
-TEST_F(ResultExports, RefuseProbesThatDoNotExist) {
-    SAdvSet set;
-    std::ostringstream stream;
-    EXPECT_THROW(writeExport(stream, ExportKind::Patterns, {set, 0, 0, {}, false}), InvalidArgument);
-    EXPECT_THROW(writeExport(stream, ExportKind::Statistics, {set, -1, -1, {}, false}), InvalidArgument);
-    EXPECT_EQ(stream.str(), "");
 }
 
 }  // namespace

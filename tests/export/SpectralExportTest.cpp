@@ -71,18 +71,5 @@ TEST_P(SpectralRows, EqualPlainPrinting) {
 
 INSTANTIATE_TEST_SUITE_P(Units, SpectralRows, testing::Values(0U, 1U));
 
-TEST(SpectralExport, NothingFiniteAndNothingAtAll) {
-    SAdvProbe probe = randomProbe(1, 0);
-    for (int kind = 0; kind < 3; ++kind) {
-        probe.Series(kind).moments.variance = 0.0;
-        probe.Series(kind).correlation.SetAt(0, 5);
-        probe.Series(kind).spectrum.SetAt(0, std::numeric_limits<std::int32_t>::min());
-        probe.Series(kind).structureFunction.SetAt(0, 0);
-    }
-    EXPECT_EQ(exported(probe, {false, false, Separator::Comma}),
-              "inf,-214.7484,0.0000,inf,-214.7484,0.0000,inf,-214.7484,0.0000\n");
-    EXPECT_EQ(exported(SAdvProbe(), {}), "");
-}
-
 }  // namespace
 }  // namespace vorlan

@@ -43,27 +43,6 @@ std::string table(ExportKind kind, const SAdvSet& set, int file, int probe, bool
     return stream.str();
 }
 
-TEST(StatisticsTable, OfOneProbe) {
-    SAdvProbe marked = smallProbe();
-    // A fifth sample that does not count.
-    for (SArray& column : marked.workTables[SAdvProbe::kVelocities]) {
-        column.Add(1000);
-    }
-    marked.useAllSamples = 0;
-    marked.sampleFlags.Add(0);
-    EXPECT_EQ(table(ExportKind::Statistics, setOf(SAdvProbe(), marked), 0, 1, false),
-              "File: river.adv, Probe 2\n\n"
-              "Table:  Univariate Statistical Characteristics\n\n"
-              "-----------------------------------------------\n"
-              "    |  Mean  |  Variance  | Skewness | Kurtosis\n"
-              "    |  cm/s  |  (cm/s)^2  |          |         \n"
-              "----+--------+------------+----------+---------\n"
-              "  u |   1.00 |       4.00 |    0.750 |  -1.688\n"
-              "  v |  -1.00 |       4.00 |   -0.750 |  -1.688\n"
-              "  w |   2.00 |      16.00 |    0.750 |  -1.688\n"
-              "-----------------------------------------------\n");
-}
-
 TEST(StatisticsTable, OfAllProbes) {
     const std::string rows =
         "  u     1.00        4.00     0.750   -1.688\n"

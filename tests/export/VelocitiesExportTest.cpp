@@ -56,22 +56,5 @@ TEST(VelocitiesExport, RowsEqualPlainPrinting) {
     }
 }
 
-TEST(VelocitiesExport, LiteralText) {
-    SAdvProbe probe;
-    probe.samplingInterval = 0.5;
-    probe.workTables[0].Reshape(3, 0.001);
-    const double rows[2][3] = {{1.0, -0.004, 12.346}, {2.0, 0.0061, -7.0}};
-    for (const auto& row : rows) {
-        for (int c = 0; c < 3; ++c) {
-            probe.workTables[0].ElementAt(c).AddValue(row[c]);
-        }
-    }
-    EXPECT_EQ(exported(probe, {}), "1.00 -0.00 12.35\n2.00 0.01 -7.00\n");
-    EXPECT_EQ(exported(probe, {true, true, Separator::Comma}),
-              "FILE  : run 7\nPROBE : 2\nVELOCITIES (U, V, W):\n0.00,1.00,-0.00,12.35\n0.50,2.00,0.01,-7.00\n");
-    EXPECT_EQ(exported(SAdvProbe(), {true, false, Separator::Tab}),
-              "FILE  : run 7\nPROBE : 2\nVELOCITIES (U, V, W):\n");
-}
-
 }  // namespace
 }  // namespace vorlan

@@ -87,16 +87,6 @@ TEST(Arrays, ReadingOutsideIsRefusedAndSettingGrows) {
     EXPECT_EQ(names.GetAt(49), std::string(100, 'n'));
 }
 
-TEST(Arrays, GrowAgainWithZerosAfterShrinking) {
-    SArray column;
-    column.SetAt(3, 5);
-    column.RemoveAll();
-    column.SetSize(4);
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(column.GetAt(i), 0);
-    }
-}
-
 TEST(Arrays, CopiesAreDeepAndKeepTheScale) {
     SMultiArray table;
     table.Reshape(3, 0.01);
@@ -154,21 +144,6 @@ TEST(Arrays, CopiesShareTheirElementsUntilOneIsWritten) {
     column.Serialize(in);
     EXPECT_EQ(column.GetSize(), 6);
     EXPECT_EQ(kept.GetSize(), 3);
-}
-
-TEST(Arrays, LoadingAppends) {
-    SArray stored(0.5);
-    stored.Add(3);
-    Archive out = Archive::storing();
-    stored.Serialize(out);
-    SArray column;
-    column.Add(1);
-    Archive in = Archive::loading(out.bytes());
-    column.Serialize(in);
-    EXPECT_EQ(column.GetScale(), 0.5);
-    ASSERT_EQ(column.GetSize(), 2);
-    EXPECT_EQ(column.GetAt(0), 1);
-    EXPECT_EQ(column.GetAt(1), 3);
 }
 
 TEST(Arrays, EveryKindComesBackAsItWasStored) {
@@ -239,18 +214,6 @@ TEST(Tabs, StandInOrderOfFirstRun) {
     EXPECT_THROW(tabs.AppendStage(-1), InvalidArgument);
 }
 
-TEST(Set, SelectingATabGrowsTheArrays) {
-    SAdvSet set;
-    set.SetSelectedTab(1, 2, 4);
-    ASSERT_EQ(set.files.GetSize(), 2);
-    ASSERT_EQ(set.files.GetAt(1).probes.GetSize(), 3);
-    EXPECT_EQ(set.files.GetAt(1).probes.GetAt(2).selectedTab, 4);
-    EXPECT_EQ(set.files.GetAt(1).probes.GetAt(0).selectedTab, -1);
-    EXPECT_THROW(set.SetSelectedTab(5, -1, 0), InvalidArgument);
-    EXPECT_THROW(set.SetSelectedTab(-1, 0, 0), InvalidArgument);
-    EXPECT_EQ(set.files.GetSize(), 2);
-}
-
 TEST(SamplingVolumes, HoldTheIntegerPartOfTheCoordinates) {
     SAdvSet set;
     SAdvFile file;
@@ -294,17 +257,6 @@ TEST(FixedText, EqualsPrintfForRandomValuesAndTies) {
         std::string text;
         appendFixed(text, value, digits);
         ASSERT_EQ(text, formatted("%.*f", digits, value)) << formatted("%a", value);
-    }
-}
-
-TEST(FixedText, EqualsPrintf) {
-    for (const double value : {0.0, -0.0, 0.125, 2.675, -0.004, 1e300, -1e-300, 0.5, 1234567.895,
-                               std::numeric_limits<double>::infinity(), std::nan(""), -std::nan("")}) {
-        for (const int digits : {0, 2, 3, 6, 7}) {
-            std::string text = "x";
-            appendFixed(text, value, digits);
-            EXPECT_EQ(text, formatted("x%.*f", digits, value));
-        }
     }
 }
 

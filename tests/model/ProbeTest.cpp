@@ -27,17 +27,6 @@ SAdvProbe smallProbe() {
     return probe;
 }
 
-TEST(Probe, NewOneHasItsDefaults) {
-    const SAdvProbe probe;
-    EXPECT_EQ(probe.selectedTab, -1);
-    EXPECT_EQ(probe.coordinateSystem, 1U);
-    EXPECT_EQ(probe.isProbe, 1U);
-    EXPECT_EQ(probe.zoomMode, 0U);
-    EXPECT_TRUE(probe.UsesAllSamples());
-    EXPECT_FALSE(probe.IsChanged());
-    EXPECT_EQ(probe.WorkingSamples(), 0);
-}
-
 TEST(Probe, ResetBringsTheSampledRecordBack) {
     SAdvProbe probe = smallProbe();
     probe.sampleFlags.Add(0);
@@ -83,20 +72,6 @@ TEST(Probe, PressureIsNotStored) {
     back.Reset();
     EXPECT_TRUE(back.workTables[4].IsEmpty());
     EXPECT_FALSE(back.workTables[3].IsEmpty());
-}
-
-TEST(Probe, CopiesAreDeep) {
-    SAdvProbe probe = smallProbe();
-    probe.seriesVW.spectrum.Add(4);
-    probe.frameAttributes[6].GrowTo(0).plotTitle = "title";
-    SAdvProbe copy = probe;
-    EXPECT_EQ(copy, probe);
-    copy.seriesVW.spectrum.SetAt(0, 5);
-    EXPECT_NE(copy, probe);
-    copy = probe;
-    copy.frameAttributes[6].ElementAt(0).plotTitle = "other";
-    EXPECT_EQ(probe.frameAttributes[6].GetAt(0).plotTitle, "title");
-    EXPECT_NE(copy, probe);
 }
 
 TEST(Probe, AnyMarkOfAStageMeansChanged) {

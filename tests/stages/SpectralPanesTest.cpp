@@ -76,11 +76,5 @@ TEST_F(SpectralPanes, TableHoldsScalesIntegralsAndDissipation) {
         std::holds_alternative<TableContent>(pane(kStage, Pane::RightBottom, PhysicalValue::Velocities, false)));
 }
 
-TEST_F(SpectralPanes, WithoutResultsThereIsNothingToPlot) {
-    for (const Pane p : {Pane::LeftTop, Pane::LeftBottom, Pane::RightTop}) {
-        EXPECT_EQ(message(kStage, p), "No data to plot ! Reset series to continue.");
-    }
-}
-
 }  // namespace
 }  // namespace vorlan
