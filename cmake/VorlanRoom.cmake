@@ -24,3 +24,9 @@ function(vorlan_window_test name)
   add_test(NAME ${name} COMMAND test_${name})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
+
+# vorlan_approved(<name>) says that the test program compares texts with those of tests/approved.
+function(vorlan_approved name)
+  target_link_libraries(test_${name} PRIVATE vorlan_approved)
+  set_tests_properties(${name} PROPERTIES LABELS approved)
+endfunction()
