@@ -14,7 +14,7 @@ namespace {
 
 using test::asText;
 using test::Bytes;
-using test::RandomImage;
+using test::WorkspaceImage;
 using test::slurp;
 using test::spill;
 using test::TempFolder;
@@ -38,7 +38,7 @@ class WorkspaceFile : public testing::Test {
 
 TEST_F(WorkspaceFile, RandomOnesAreSavedByteForByte) {
     for (std::uint64_t seed = 0; seed < 60; ++seed) {
-        RandomImage image(seed);
+        WorkspaceImage image(seed);
         image.longestText = seed % 10 == 0 ? 70000 : 300;
         image.workspace(seed % 4);
         if (seed % 3 == 1) {
@@ -101,9 +101,9 @@ TEST_F(WorkspaceFile, WithoutAVersionHasTheVerbatimText) {
 }
 
 /// One file with one probe at least, pages behind it.
-RandomImage sampleImage(std::size_t& pagesAt) {
+WorkspaceImage sampleImage(std::size_t& pagesAt) {
     for (std::uint64_t seed = 1000;; ++seed) {
-        RandomImage image(seed);
+        WorkspaceImage image(seed);
         image.workspace(2);
         if (image.counts.size() > 300) {
             pagesAt = image.bytes.size();
@@ -115,7 +115,7 @@ RandomImage sampleImage(std::size_t& pagesAt) {
 
 TEST_F(WorkspaceFile, TruncatedAnywhereIsAnUnexpectedEnd) {
     std::size_t pagesAt = 0;
-    const RandomImage image = sampleImage(pagesAt);
+    const WorkspaceImage image = sampleImage(pagesAt);
     const std::size_t step = image.bytes.size() / 150;
     for (std::size_t length = 1; length < image.bytes.size(); length += length < 40 ? 1 : step) {
         const auto error = openError(Bytes(image.bytes.begin(), image.bytes.begin() + static_cast<long>(length)));
@@ -132,7 +132,7 @@ TEST_F(WorkspaceFile, TruncatedAnywhereIsAnUnexpectedEnd) {
 
 TEST_F(WorkspaceFile, DamagedCountsCostNoMemory) {
     std::size_t pagesAt = 0;
-    const RandomImage image = sampleImage(pagesAt);
+    const WorkspaceImage image = sampleImage(pagesAt);
     const std::size_t limit = 16 * image.bytes.size() + 200000;
     const auto openedWithin = [&](const Bytes& bytes) {
         test::resetAllocations();
@@ -168,7 +168,7 @@ TEST_F(WorkspaceFile, DamagedCountsCostNoMemory) {
 
 TEST_F(WorkspaceFile, FlippedBitsLoadOrAreRefused) {
     std::size_t pagesAt = 0;
-    const RandomImage image = sampleImage(pagesAt);
+    const WorkspaceImage image = sampleImage(pagesAt);
     std::mt19937_64 random(7);
     int refused = 0;
     for (int round = 0; round < 300; ++round) {

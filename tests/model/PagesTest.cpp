@@ -1,4 +1,4 @@
-#include "model/HandMadeImage.h"
+#include "model/WorkspaceImage.h"
 
 namespace vorlan {
 namespace {
@@ -38,26 +38,26 @@ TEST(Pages, UntouchedOnesAreNotStored) {
 }
 
 TEST(Pages, ChangedOnesFollowTheBoundaries) {
-    Workspace workspace = loaded(fullImage());
+    Workspace workspace = loaded(numberedImage());
     workspace.pages.ElementAt(3).header = "Spectra";
-    const Bytes expected = joined(fullImage(), pageBlock("Spectra"));
+    const Bytes expected = joined(numberedImage(), pageBlock("Spectra"));
     EXPECT_EQ(stored(workspace), expected);
     Workspace back = loaded(expected);
     EXPECT_EQ(back.pages, workspace.pages);
     // A file that had the block keeps it, also when everything is back at its default.
     back.pages.ElementAt(3).header.clear();
-    EXPECT_EQ(stored(back), joined(fullImage(), pageBlock("")));
+    EXPECT_EQ(stored(back), joined(numberedImage(), pageBlock("")));
 }
 
 TEST(Pages, UnknownTailsAreKept) {
     const Bytes strange = {std::byte{7}, std::byte{1}, std::byte{2}};
     const Bytes lone = {std::byte{7}};
     for (const Bytes& tail : {strange, lone, Bytes(5000, std::byte{0xEE})}) {
-        Workspace workspace = loaded(joined(fullImage(), tail));
-        EXPECT_EQ(stored(workspace), joined(fullImage(), tail));
+        Workspace workspace = loaded(joined(numberedImage(), tail));
+        EXPECT_EQ(stored(workspace), joined(numberedImage(), tail));
         // Pages that the user changes afterwards are not lost either.
         workspace.pages.ElementAt(3).header = "new";
-        const Bytes both = joined(joined(fullImage(), pageBlock("new")), tail);
+        const Bytes both = joined(joined(numberedImage(), pageBlock("new")), tail);
         EXPECT_EQ(stored(workspace), both);
         Workspace back = loaded(both);
         EXPECT_EQ(back.pages.GetAt(3).header, "new");
@@ -68,7 +68,7 @@ TEST(Pages, UnknownTailsAreKept) {
 TEST(Pages, ABlockThatEndsEarlyIsAnEndOfFile) {
     const Bytes block = pageBlock("header");
     for (const std::size_t length : {std::size_t{2}, std::size_t{30}, block.size() / 2, block.size() - 1}) {
-        const Bytes image = joined(fullImage(), Bytes(block.begin(), block.begin() + static_cast<long>(length)));
+        const Bytes image = joined(numberedImage(), Bytes(block.begin(), block.begin() + static_cast<long>(length)));
         Archive archive = Archive::loading(image);
         Workspace workspace;
         EXPECT_THROW(workspace.Serialize(archive), EndOfFileError) << length;
