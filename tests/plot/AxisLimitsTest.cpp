@@ -26,39 +26,6 @@ AxisRule withStep(AxisRule r, double step) {
 
 }  // namespace
 
-TEST(AxisLimits, AutomaticLimitsOfEveryVariant) {
-    const struct {
-        const char* name;
-        AxisRule rule;
-        DataInterval data;
-        AxisManner manner;
-        double lower;
-        double upper;
-        double step;
-        int marks;
-    } rows[] = {
-        {"x from zero", rule(false, true), {0.0, 37.3}, kXManner, 0.0, 40.0, 5.0, 8},
-        {"x both", rule(true, true), {0.0, 80.0}, kXManner, -10.0, 90.0, 10.0, 10},
-        {"x upper given", rule(true, false, 0.0, 40.0), {3.0, 99.0}, kXManner, 0.0, 40.0, 5.0, 8},
-        {"y both", rule(true, true), {3.0, 10.0}, kYManner, 2.0, 11.0, 1.0, 9},
-        {"y lower given", rule(false, true, 0.0), {3.0, 10.0}, kYManner, 0.0, 12.0, 2.0, 6},
-        {"y upper given", rule(true, false, 0.0, 12.0), {0.0, 10.0}, kYManner, -2.0, 12.0, 2.0, 7},
-        {"equal y", rule(true, true), {3.0, 3.0}, kYManner, 2.0, 3.0, 0.2, 5},
-        {"equal x", rule(true, true), {3.0, 3.0}, kXManner, -2.5, 3.5, 0.5, 12},
-        {"both given", rule(false, false, 0.0, 16.0), {3.0, 99.0}, kXManner, 0.0, 16.0, 2.0, 8},
-        {"backward", rule(false, false, 16.0, 0.0), {3.0, 99.0}, kXManner, 16.0, 0.0, -2.0, 8},
-        {"negative maximum moves down", rule(true, true), {-9.0, -4.5}, kYManner, -10.0, -5.0, 1.0, 5},
-    };
-    for (const auto& row : rows) {
-        const LinearLimits chosen = linearLimits(row.rule, row.data, row.manner);
-        EXPECT_NEAR(chosen.limits.lower, row.lower, 1e-9) << row.name;
-        EXPECT_NEAR(chosen.limits.upper, row.upper, 1e-9) << row.name;
-        EXPECT_NEAR(chosen.limits.step, row.step, 1e-9) << row.name;
-        EXPECT_EQ(chosen.limits.marks, row.marks) << row.name;
-        EXPECT_TRUE(chosen.automaticStep) << row.name;
-    }
-}
-
 TEST(AxisLimits, GivenStepRoundsFreeEndsAndIsNotThinned) {
     LinearLimits chosen = linearLimits(withStep(rule(false, true, 0.0), 3.0), {0.0, 10.0}, kXManner);
     EXPECT_FALSE(chosen.automaticStep);
@@ -90,19 +57,6 @@ TEST(AxisLimits, ExtremeDataGiveAnAxisWithALength) {
     }
     // All data below the given lower end.
     EXPECT_GT(linearLimits(rule(false, true, 100.0), {1.0, 5.0}, kXManner).limits.upper, 100.0);
-}
-
-TEST(AxisLimits, DecadesEncloseTheData) {
-    AxisLimits limits = logarithmicLimits(rule(true, true), {0.03, 20.0}, 50);
-    EXPECT_DOUBLE_EQ(limits.lower, 0.01);
-    EXPECT_DOUBLE_EQ(limits.upper, 100.0);
-    EXPECT_EQ(limits.marks, 4);
-    EXPECT_EQ(logarithmicLimits(rule(true, true), {10.0, 10.0}, 50).marks, 1);
-    EXPECT_EQ(logarithmicLimits(rule(false, false, 0.5, 200.0), {1.0, 2.0}, 50).marks, 4);
-    EXPECT_EQ(logarithmicLimits(rule(false, true, 0.0), {0.03, 20.0}, 50).marks, 4) << "0 has no place";
-    limits = logarithmicLimits(rule(true, true), {1e-300, 1.0}, 50);
-    EXPECT_EQ(limits.marks, 50);
-    EXPECT_DOUBLE_EQ(limits.upper, 1.0);
 }
 
 TEST(AxisLimits, MarksAreHalvedUntilLabelsFit) {

@@ -157,17 +157,6 @@ class PaintingTest : public QObject {
         }
     }
 
-    void aMillionPointsAreDrawnInATime() {
-        Diagram diagram = diagramOf(noise(1000000, 0.01, 5));
-        diagram.plot.series[0].attributes.penWidth = 2;
-        QElapsedTimer timer;
-        timer.start();
-        const Painted painted = paint(diagram, QSize(1600, 900));
-        QVERIFY(painted.geometry.has_value());
-        // Slack for instrumented builds; a quadratic line would take minutes.
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
-    }
-
     void diagramsGiveTheirGeometry() {
         const Painted painted = paint(diagramOf(noise(1000, 0.1, 1)));
         QVERIFY(painted.geometry.has_value());

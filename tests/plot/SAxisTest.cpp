@@ -54,64 +54,6 @@ TEST(SAxis, LinearTicksMarksAndLine) {
     EXPECT_TRUE(left.linearTicks().empty()) << "no ticks closer than a pixel";
 }
 
-TEST(SAxis, LogarithmicTicksStayOnTheAxis) {
-    SAxis a = axis(AxisSide::Bottom);
-    a.pixelsPerMark = 100;
-    a.length = 200;
-    const std::vector<int> expected = {0, 30, 47, 60, 69, 77, 84, 90, 95, 100, 130, 147, 160, 169, 177, 184, 190, 195};
-    EXPECT_EQ(offsets(a.logarithmicTicks(), true), expected);
-    a.gridMode = static_cast<std::int32_t>(GridMode::Ticks);
-    EXPECT_EQ(a.logarithmicGrid().size(), 16U);
-    EXPECT_EQ(a.logarithmicGrid().front(), (Line{{130, 200}, {130, 140}}));
-}
-
-TEST(SAxis, GridLeavesOutTheEndsAndTheOppositeSides) {
-    SAxis a = axis(AxisSide::Left);
-    a.ticksPerMark = 3;
-    const struct {
-        GridMode mode;
-        std::vector<int> offsets;
-    } rows[] = {{GridMode::None, {}},
-                {GridMode::Marks, {40}},
-                {GridMode::Ticks, {10, 20, 30, 50, 60, 70}},
-                {GridMode::Both, {10, 20, 30, 50, 60, 70, 40}}};
-    for (const auto& row : rows) {
-        a.gridMode = static_cast<std::int32_t>(row.mode);
-        EXPECT_EQ(offsets(a.linearGrid(), false), row.offsets);
-    }
-    EXPECT_EQ(a.linearGrid().front(), (Line{{100, 190}, {160, 190}}));
-    for (const AxisSide side : {AxisSide::Top, AxisSide::Right}) {
-        SAxis opposite = axis(side);
-        opposite.gridMode = static_cast<std::int32_t>(GridMode::Both);
-        EXPECT_TRUE(opposite.linearGrid().empty());
-        EXPECT_TRUE(opposite.linearLabels(FixedMeasure()).texts.empty());
-        EXPECT_EQ(opposite.linearTicks().size(), 4U);
-    }
-}
-
-TEST(SAxis, LinearLabelsStandBesideTheMarks) {
-    const FixedMeasure measure;
-    SAxis bottom = axis(AxisSide::Bottom);
-    AxisLabels labels = bottom.linearLabels(measure);
-    ASSERT_EQ(labels.texts.size(), 3U);
-    EXPECT_EQ(labels.texts[0].text, "-1.0");
-    EXPECT_EQ(labels.texts[0].box, (Box{88, 209, 112, 221}));
-    EXPECT_EQ(labels.texts[1].text, "0.0");
-    EXPECT_EQ(labels.texts[1].box.left, 131);
-    EXPECT_EQ(labels.room, 3 + 6 + 12);
-    bottom.markLength = -6;
-    EXPECT_EQ(bottom.linearLabels(measure).texts[0].box.top, 203);
-    EXPECT_EQ(bottom.linearLabels(measure).room, 3 + 12);
-    bottom.markLength = 0;
-    EXPECT_TRUE(bottom.linearLabels(measure).texts.empty());
-    EXPECT_EQ(bottom.marks().size(), 3U);
-
-    labels = axis(AxisSide::Left).linearLabels(measure);
-    EXPECT_EQ(labels.texts[0].box, (Box{67, 194, 91, 206}));
-    EXPECT_EQ(labels.texts[1].box, (Box{73, 154, 91, 166}));
-    EXPECT_EQ(labels.room, 3 + 6 + 24);
-}
-
 TEST(SAxis, LabelsKeepTheirDigitsAndApart) {
     const FixedMeasure measure;
     SAxis a = axis(AxisSide::Bottom);
@@ -130,22 +72,6 @@ TEST(SAxis, LabelsKeepTheirDigitsAndApart) {
         EXPECT_FALSE(kept[i].box.overlaps(kept[i - 1].box));
     }
     EXPECT_EQ(kept.size(), 4U);
-}
-
-TEST(SAxis, LogarithmicLabelsRaiseTheExponent) {
-    SAxis a = axis(AxisSide::Bottom);
-    a.minimum = 0.1;
-    const AxisLabels labels = a.logarithmicLabels(FixedMeasure(10, 20));
-    ASSERT_EQ(labels.texts.size(), 6U);
-    EXPECT_EQ(labels.texts[0].text, "10");
-    EXPECT_EQ(labels.texts[1].text, "-1");
-    EXPECT_EQ(labels.texts[3].text, "0");
-    EXPECT_EQ(labels.texts[5].text, "1");
-    EXPECT_EQ(labels.texts[0].box, (Box{83, 209, 103, 229}));
-    EXPECT_EQ(labels.texts[1].box.left, 103);
-    EXPECT_EQ(labels.texts[1].share, 0.7);
-    EXPECT_EQ(labels.texts[1].box.top, 209 + 15 - 10 - 10);
-    EXPECT_EQ(labels.room, 3 + 6 + 20);
 }
 
 TEST(SAxis, RecomputesMarksFromLimitsAndStep) {

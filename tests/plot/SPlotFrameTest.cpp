@@ -93,45 +93,6 @@ TEST(SPlotFrame, MarksFallOnWholePixelsAndScaleFactorsFollow) {
     }
 }
 
-TEST(SPlotFrame, LogarithmicAxesSpanDecades) {
-    Diagram diagram = diagramOf({0.0, 40.0, 2.0, -1.0}, 0.5);
-    diagram.allowedScales = {ScaleType::Linear, ScaleType::Logarithmic};
-    diagram.frame.scaleType = 1;
-    const CScreenUtils g = layoutOf(diagram).geometry;
-    EXPECT_EQ(g.scaleType, ScaleType::Logarithmic);
-    EXPECT_DOUBLE_EQ(g.xMin, 0.1);
-    EXPECT_DOUBLE_EQ(g.xMax, 1.0) << "only the points with both values above 0 count";
-    EXPECT_DOUBLE_EQ(g.yMin, 1.0);
-    EXPECT_DOUBLE_EQ(g.yMax, 100.0);
-    EXPECT_DOUBLE_EQ(g.xScale, g.width);
-    EXPECT_DOUBLE_EQ(g.yScale, g.height / 2.0);
-    diagram.plot.series[0].y = {1.0, 0.0, -4.0};
-    EXPECT_EQ(layoutOf(diagram).state, FrameLayout::State::NoData);
-}
-
-TEST(SPlotFrame, TimeSeriesLimits) {
-    Diagram diagram = diagramOf(std::vector<double>(1000, 3.0), 0.0373);
-    diagram.duration = 37.3;
-    const struct {
-        const char* name;
-        int xMinMode;
-        int xMaxMode;
-        double lower;
-        double upper;
-    } rows[] = {{"from the start time", 1, 0, 0.0, 40.0},
-                {"both ends from the data", 0, 0, -5.0, 40.0},
-                {"the switch frees the upper end too", 0, 1, -5.0, 40.0},
-                {"both ends given", 1, 1, 0.0, 20.0}};
-    for (const auto& row : rows) {
-        diagram.frame.xMinMode = row.xMinMode;
-        diagram.frame.xMaxMode = row.xMaxMode;
-        diagram.frame.xMax = 20.0;
-        const CScreenUtils g = layoutOf(diagram).geometry;
-        EXPECT_EQ(g.xMin, row.lower) << row.name;
-        EXPECT_EQ(g.xMax, row.upper) << row.name;
-    }
-}
-
 TEST(SPlotFrame, ScaleTypeMustBeAllowed) {
     Diagram diagram = diagramOf({1.0, 2.0});
     diagram.frame.scaleType = 1;
@@ -176,38 +137,4 @@ TEST(SPlotFrame, OutlandishAttributesAndValuesAreDrawn) {
     layout = layoutOf(diagram);
     ASSERT_EQ(layout.state, FrameLayout::State::Drawn);
     EXPECT_EQ(layout.geometry.xPixel(0.0), layout.geometry.originX + layout.geometry.width) << "runs backward";
-}
-
-TEST(SPlotFrame, PaperIsAnEnlargedScreen) {
-    const Diagram diagram = diagramOf({0.0, 5.0, 10.0}, 18.65);
-    const CScreenUtils screen = layoutOf(diagram).geometry;
-    const CScreenUtils paper = layoutOf(diagram, {0, 0, 2000, 1320}, 4.0).geometry;
-    EXPECT_NEAR(paper.originX, 4 * screen.originX, 4);
-    EXPECT_NEAR(paper.width, 4 * screen.width, 4 * 8);
-    EXPECT_EQ(paper.xMax, screen.xMax);
-}
-
-TEST(SLegend, OnlySeriesWithATextHaveAnEntry) {
-    Diagram diagram = diagramOf({0.0, 1.0});
-    diagram.plot.series.push_back(diagram.plot.series[0]);
-    diagram.plot.series[1].attributes.legendText.clear();
-    diagram.plot.series.push_back(diagram.plot.series[0]);
-    const SLegend column = placeLegend(diagram, 400, FixedMeasure(), 1.0);
-    ASSERT_EQ(column.entries.size(), 2U);
-    EXPECT_EQ(column.title.size(), 1U);
-    EXPECT_EQ(column.entries[1].text.box.top - column.entries[0].text.box.top, 14);
-    EXPECT_EQ(column.entries[0].sampleLength, 24);
-
-    diagram.frame.legendPosition = 0;
-    const SLegend row = placeLegend(diagram, 400, FixedMeasure(), 1.0);
-    EXPECT_EQ(row.entries[0].text.box.top, row.title[0].box.top);
-    EXPECT_EQ(row.entries[1].text.box.top, row.title[0].box.top);
-    const SLegend wrapped = placeLegend(diagram, 110, FixedMeasure(), 1.0);
-    EXPECT_GT(wrapped.entries[1].text.box.top, wrapped.entries[0].text.box.top);
-    EXPECT_LE(wrapped.box.width(), 110);
-
-    diagram.frame.legendTitle = " ";
-    EXPECT_TRUE(placeLegend(diagram, 400, FixedMeasure(), 1.0).title.empty());
-    diagram.frame.legendPosition = 2;
-    EXPECT_TRUE(placeLegend(diagram, 400, FixedMeasure(), 1.0).empty());
 }

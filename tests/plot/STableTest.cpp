@@ -28,46 +28,6 @@ TableShapes shapesOf(const TableContent& content, const Box& pane = kPane) {
 
 }  // namespace
 
-TEST(STable, RowsTakeTwoHeightsWithARuleBelow) {
-    const TableShapes shapes = shapesOf(statistics());
-    ASSERT_EQ(shapes.rules.size(), 2U);
-    EXPECT_EQ(shapes.rules[0].from.x, 0);
-    EXPECT_EQ(shapes.rules[0].to.x, 500);
-    EXPECT_EQ(shapes.rules[1].from.y - shapes.rules[0].from.y, 24);
-    // Title, five headers, then the cells of the first row.
-    EXPECT_EQ(shapes.texts[6].text, "Sampled U");
-    EXPECT_EQ(shapes.texts[6].box.left, 50 - 27);
-    EXPECT_EQ(shapes.texts[6].box.top, shapes.rules[0].from.y - 18);
-    EXPECT_EQ(shapes.texts[7].text, "1.00");
-    EXPECT_EQ(shapes.texts[7].box.left, 150 - 12);
-    EXPECT_EQ(shapes.texts[9].text, "-0.12");
-    EXPECT_EQ(shapes.texts[10].text, "Modified U") << "the missing cell stays empty";
-    for (std::size_t i = 0; i < shapes.texts.size(); ++i) {
-        EXPECT_TRUE(kPane.encloses(shapes.texts[i].box));
-        for (std::size_t k = 0; k < i; ++k) {
-            EXPECT_FALSE(shapes.texts[i].box.overlaps(shapes.texts[k].box));
-        }
-    }
-}
-
-TEST(STable, WithoutRowsThereAreNoRules) {
-    TableContent content = statistics();
-    content.rows.clear();
-    EXPECT_TRUE(shapesOf(content).rules.empty());
-    EXPECT_EQ(shapesOf(content).texts.size(), 6U);
-    EXPECT_TRUE(shapesOf(TableContent()).texts.empty());
-}
-
-TEST(STable, LongRowTitlesWidenTheirColumnAndKeepTheProbe) {
-    TableContent content = statistics();
-    content.rows[0].title = "a measurement in the river, probe 1";
-    EXPECT_EQ(shapesOf(content).texts[6].text, content.rows[0].title);
-    content.rows[0].title = "a measurement that somebody took far away down in the river, probe 1";
-    const PlacedText shown = shapesOf(content).texts[6];
-    EXPECT_TRUE(shown.text.ends_with("\u2026, probe 1")) << shown.text;
-    EXPECT_LE(shown.box.right, 250);
-}
-
 TEST(STable, ManyRowsShrinkAndNeverGoUnnoticed) {
     TableContent content = statistics();
     content.rows.resize(16, content.rows[0]);
