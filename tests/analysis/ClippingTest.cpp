@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "VelocityRecord.h"
+#include "Records.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
 

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "VelocityRecord.h"
+#include "Records.h"
 #include "analysis/Clipping.h"
 #include "analysis/EditingAssessment.h"
 #include "analysis/ProbeMoments.h"
@@ -15,15 +15,11 @@ namespace {
 
 /// Velocities of resolution 1 with equal scores in every beam.
 SAdvProbe smallRecord(const std::vector<std::int32_t>& u, const std::vector<std::int32_t>& scores) {
-    SAdvProbe probe;
+    SAdvProbe probe = probeOf({u, u, u});
     probe.samplingInterval = 0.04;
     for (int c = 0; c < 3; ++c) {
-        probe.workTables[SAdvProbe::kVelocities].Add(columnOf(u, 1.0));
         probe.workTables[SAdvProbe::kCorrelation].Add(columnOf(scores, 1.0));
         probe.workTables[SAdvProbe::kSignalToNoise].Add(columnOf(scores, 1.0));
-    }
-    for (std::size_t i = 0; i < u.size(); ++i) {
-        probe.sampleFlags.Add(1);
     }
     return probe;
 }

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "VelocityRecord.h"
+#include "Records.h"
 
 namespace vorlan::test {
 namespace {
@@ -20,7 +20,9 @@ FilterSettings settingsOf(FilterShape shape, FilterType type, double halfWidth, 
 
 TEST(Filtration, WidthsOnTheLimitsDoNothing) {
     const auto tukey = [](double h) { return settingsOf(FilterShape::Tukey, FilterType::LowPass, h); };
-    const auto gaussian = [](double fc) { return settingsOf(FilterShape::Gaussian, FilterType::LowPass, 1.0, fc); };
+    const auto gaussian = [](double fc, double h = 1.0) {
+        return settingsOf(FilterShape::Gaussian, FilterType::LowPass, h, fc);
+    };
     struct Row {
         const char* name;
         FilterSettings settings;
@@ -31,25 +33,19 @@ TEST(Filtration, WidthsOnTheLimitsDoNothing) {
     };
     const std::string small = "Filter width too small ! This value should be larger than sampling rate.";
     const std::string large = "Filter width too large ! This value should be smaller than 1/4 time series length.";
-    const Row rows[] = {
-        {"a quarter of the record", tukey(2.5), 80, 0.125, false, {}},
-        {"a little below a quarter", tukey(2.49), 80, 0.125, true, {}},
-        {"above a quarter", tukey(2.51), 80, 0.125, false, {large}},
-        {"one sample", tukey(0.04), 1000, 0.04, false, {}},
-        {"half a sample", tukey(0.02), 1000, 0.04, false, {small}},
-        {"negative", tukey(-1.0), 80, 0.125, false, {small}},
-        {"short record", tukey(0.1), 3, 0.125, false, {small, large}},
-        {"empty record", tukey(1.0), 0, 0.04, false, {large}},
-        {"Gaussian", gaussian(10.0), 1000, 0.04, true, {}},
-        {"Gaussian cutoff without a width", gaussian(0.29), 1000, 0.04, false, {large}},
-        {"Gaussian negative cutoff", gaussian(-1.0), 1000, 0.04, false, {large}},
-        {"Gaussian wider than the record",
-         settingsOf(FilterShape::Gaussian, FilterType::LowPass, 0.5, 0.5),
-         60,
-         0.04,
-         false,
-         {large}},
-        {"Gaussian just within", settingsOf(FilterShape::Gaussian, FilterType::LowPass, 0.5, 0.5), 61, 0.04, true, {}}};
+    const Row rows[] = {{"a quarter of the record", tukey(2.5), 80, 0.125, false, {}},
+                        {"a little below a quarter", tukey(2.49), 80, 0.125, true, {}},
+                        {"above a quarter", tukey(2.51), 80, 0.125, false, {large}},
+                        {"one sample", tukey(0.04), 1000, 0.04, false, {}},
+                        {"half a sample", tukey(0.02), 1000, 0.04, false, {small}},
+                        {"negative", tukey(-1.0), 80, 0.125, false, {small}},
+                        {"short record", tukey(0.1), 3, 0.125, false, {small, large}},
+                        {"empty record", tukey(1.0), 0, 0.04, false, {large}},
+                        {"Gaussian", gaussian(10.0), 1000, 0.04, true, {}},
+                        {"Gaussian cutoff without a width", gaussian(0.29), 1000, 0.04, false, {large}},
+                        {"Gaussian negative cutoff", gaussian(-1.0), 1000, 0.04, false, {large}},
+                        {"Gaussian wider than the record", gaussian(0.5, 0.5), 60, 0.04, false, {large}},
+                        {"Gaussian just within", gaussian(0.5, 0.5), 61, 0.04, true, {}}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         const FilterDecision decision = decideFilter(row.settings, row.samples, row.interval);

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "VelocityRecord.h"
+#include "Records.h"
 #include "analysis/MomentEstimators.h"
 #include "model/StoreValue.h"
 
@@ -33,14 +33,6 @@ std::vector<std::int32_t> plainHistogram(const STimeSeries& series, int grades) 
                                         series.values.GetScale()));
     }
     return units;
-}
-
-TEST(Histogram, SamplesOnABoundaryCountTwice) {
-    STimeSeries series = seriesOf({4000, 0, 1000, 3000, 2000}, 0.001);
-    computeHistogram(series, 2);
-    EXPECT_EQ(unitsOf(series.histogram), (std::vector<std::int32_t>{300, 300}));
-    EXPECT_EQ(series.histogram.GetScale(), 0.001);
-    EXPECT_EQ(series.grades, 2U);
 }
 
 TEST(Histogram, CountsEqualThePlainComparisons) {

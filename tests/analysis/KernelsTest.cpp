@@ -50,56 +50,33 @@ INSTANTIATE_TEST_SUITE_P(Kernels, EverySet, testing::ValuesIn(availableInstructi
 // Sizes below a register, around a block of lags of every set, and beyond several blocks.
 const std::vector<std::size_t> kSizes = {1, 2, 3, 7, 8, 9, 15, 17, 47, 48, 49, 127, 128, 129, 255, 257, 401, 1003};
 
-TEST_P(EverySet, SlidingProductsHaveTheBytesOfThePlainLoop) {
-    for (const std::size_t n : kSizes) {
+TEST_P(EverySet, SumsOverLagsHaveTheBytesOfThePlainLoops) {
+    const auto expectPlain = [this](std::size_t n, std::size_t taps, std::size_t lags) {
+        SCOPED_TRACE(testing::Message() << n << " samples, " << taps << " factors, " << lags << " lags");
         const Values x = roughSeries(n, 1);
-        for (const std::size_t taps : {n, n / 2 + 1, std::size_t{1}}) {
-            const Values y = roughSeries(taps, 2);
-            for (const std::size_t lags : {std::size_t{0}, std::size_t{1}, n / 2, n, n + 5}) {
-                Values expected(lags);
-                for (std::size_t k = 0; k < lags; ++k) {
-                    for (std::size_t j = 0; j < taps && j + k < n; ++j) {
-                        expected[k] += x[j + k] * y[j];
-                    }
-                }
-                ASSERT_EQ(bytesOf(slidingProducts(x, y, lags, progress_, kernels())), bytesOf(expected))
-                    << n << " samples, " << taps << " factors, " << lags << " lags";
+        const Values y = roughSeries(taps, 2);
+        Values products(lags);
+        Values squares(std::min(lags, n));
+        for (std::size_t k = 0; k < lags; ++k) {
+            for (std::size_t j = 0; j < taps && j + k < n; ++j) {
+                products[k] += x[j + k] * y[j];
+            }
+            for (std::size_t j = 0; j + k < n; ++j) {
+                squares[k] += (x[j] - x[j + k]) * (x[j] - x[j + k]);
             }
         }
-    }
-}
-
-TEST_P(EverySet, SquaredDifferencesHaveTheBytesOfThePlainLoop) {
+        ASSERT_EQ(bytesOf(slidingProducts(x, y, lags, progress_, kernels())), bytesOf(products));
+        ASSERT_EQ(bytesOf(squaredDifferences(x, squares.size(), progress_, kernels())), bytesOf(squares));
+    };
     for (const std::size_t n : kSizes) {
-        const Values d = roughSeries(n, 3);
-        for (const std::size_t lags : {std::size_t{0}, std::size_t{1}, (n + 1) / 2, n}) {
-            Values expected(lags);
-            for (std::size_t k = 0; k < lags; ++k) {
-                for (std::size_t j = 0; j + k < n; ++j) {
-                    expected[k] += (d[j] - d[j + k]) * (d[j] - d[j + k]);
-                }
+        for (const std::size_t taps : {n, n / 2 + 1, std::size_t{1}}) {
+            for (const std::size_t lags : {std::size_t{0}, std::size_t{1}, (n + 1) / 2, n, n + 5}) {
+                expectPlain(n, taps, lags);
             }
-            ASSERT_EQ(bytesOf(squaredDifferences(d, lags, progress_, kernels())), bytesOf(expected))
-                << n << " samples, " << lags << " lags";
         }
     }
-}
-
-TEST_P(EverySet, SumsCutIntoPiecesKeepTheirOrder) {
     // Longer than one piece of work within a block of lags.
-    const std::size_t n = 70001;
-    const std::size_t lags = 3;
-    const Values d = roughSeries(n, 4);
-    Values products(lags);
-    Values squares(lags);
-    for (std::size_t k = 0; k < lags; ++k) {
-        for (std::size_t j = 0; j + k < n; ++j) {
-            products[k] += d[j + k] * d[j];
-            squares[k] += (d[j] - d[j + k]) * (d[j] - d[j + k]);
-        }
-    }
-    EXPECT_EQ(bytesOf(slidingProducts(d, d, lags, progress_, kernels())), bytesOf(products));
-    EXPECT_EQ(bytesOf(squaredDifferences(d, lags, progress_, kernels())), bytesOf(squares));
+    expectPlain(70001, 70001, 3);
 }
 
 TEST_P(EverySet, PowerSumsHaveTheBytesOfThePlainLoop) {

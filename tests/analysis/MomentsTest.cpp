@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "Records.h"
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
 #include "analysis/ProbeMoments.h"
@@ -9,28 +10,16 @@
 #include "analysis/Stresses.h"
 #include "model/Errors.h"
 
-namespace vorlan {
+namespace vorlan::test {
 namespace {
 
-SArray column(double scale, const std::vector<int>& integers) {
-    SArray values(scale);
-    for (const int n : integers) {
-        values.Add(n);
-    }
-    return values;
-}
+constexpr std::array<double, 3> kScales = {0.5, 0.25, 1.0};
 
-SAdvProbe probeOf(const std::vector<int>& u, const std::vector<int>& v, const std::vector<int>& w,
-                  const std::vector<int>& marks) {
-    SAdvProbe probe;
-    probe.samplingInterval = 0.5;
-    probe.workTables[SAdvProbe::kVelocities].Add(column(0.5, u));
-    probe.workTables[SAdvProbe::kVelocities].Add(column(0.25, v));
-    probe.workTables[SAdvProbe::kVelocities].Add(column(1.0, w));
-    for (const int mark : marks) {
-        probe.sampleFlags.Add(mark);
+void mark(SAdvProbe& probe, const std::vector<std::int32_t>& marks) {
+    probe.sampleFlags.RemoveAll();
+    for (const std::int32_t n : marks) {
+        probe.sampleFlags.Add(n);
     }
-    return probe;
 }
 
 TEST(Moments, MixedDivisors) {
@@ -61,30 +50,32 @@ TEST(Moments, NothingGuardsShortOrConstantSeries) {
 }
 
 TEST(Moments, Extremes) {
-    const Extremes negative = extremesOf(column(-0.5, {4, -7, 9, 9, 0}));
+    const Extremes negative = extremesOf(columnOf({4, -7, 9, 9, 0}, -0.5));
     EXPECT_EQ(negative.minimum, -4.5);
     EXPECT_EQ(negative.maximum, 3.5);
-    const Extremes extremes = extremesOf(column(0.5, {4, -7, 9, 9, 0}));
+    const Extremes extremes = extremesOf(columnOf({4, -7, 9, 9, 0}, 0.5));
     EXPECT_EQ(extremes.minimum, -3.5);
     EXPECT_EQ(extremes.maximum, 4.5);
     EXPECT_THROW(extremesOf(SArray()), InvalidArgument);
 }
 
 TEST(AnalysedSeries, HoldsTheSamplesThatCount) {
-    SAdvProbe probe = probeOf({1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {1, 0, 2});
+    SAdvProbe probe = probeOf({{{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}}}, kScales);
+    mark(probe, {1, 0, 2});
     probe.seriesU.values.Add(99);
     formAnalysedSeries(probe);
-    EXPECT_EQ(probe.seriesU.values, column(0.5, {1, 2, 3, 4}));
+    EXPECT_EQ(probe.seriesU.values, columnOf({1, 2, 3, 4}, 0.5));
     probe.useAllSamples = 0;
     formAnalysedSeries(probe);
     // The fourth sample has no mark.
-    EXPECT_EQ(probe.seriesU.values, column(0.5, {1, 3}));
-    EXPECT_EQ(probe.seriesV.values, column(0.25, {5, 7}));
-    EXPECT_EQ(probe.seriesW.values, column(1.0, {9, 11}));
+    EXPECT_EQ(probe.seriesU.values, columnOf({1, 3}, 0.5));
+    EXPECT_EQ(probe.seriesV.values, columnOf({5, 7}, 0.25));
+    EXPECT_EQ(probe.seriesW.values, columnOf({9, 11}, 1.0));
     EXPECT_EQ(probe.seriesW.samplingInterval, 0.5);
-    EXPECT_EQ(countedValues(probe, column(0.1, {1, 2})), std::vector<double>{0.1});
+    EXPECT_EQ(countedValues(probe, columnOf({1, 2}, 0.1)), std::vector<double>{0.1});
 
-    SAdvProbe uneven = probeOf({1, 2}, {1}, {1, 2}, {1, 1});
+    SAdvProbe uneven = probeOf({{{1, 2}, {1}, {1, 2}}}, kScales);
+    mark(uneven, {1, 1});
     EXPECT_THROW(formAnalysedSeries(uneven), InvalidArgument);
     SAdvProbe empty;
     formAnalysedSeries(empty);
@@ -92,7 +83,8 @@ TEST(AnalysedSeries, HoldsTheSamplesThatCount) {
 }
 
 TEST(ProbeMoments, NeedThreeSamplesThatCount) {
-    SAdvProbe probe = probeOf({2, 4, 12, 100}, {4, 8, 24, 0}, {1, 2, 6, 0}, {1, 1, 1, 0});
+    SAdvProbe probe = probeOf({{{2, 4, 12, 100}, {4, 8, 24, 0}, {1, 2, 6, 0}}}, kScales);
+    mark(probe, {1, 1, 1, 0});
     probe.useAllSamples = 0;
     computeProbeMoments(probe);
     EXPECT_EQ(probe.VelocityMoments(0), momentsOf(std::vector<double>{1.0, 2.0, 6.0}));
@@ -114,20 +106,21 @@ TEST(ProbeMoments, NeedThreeSamplesThatCount) {
 
 TEST(Stresses, FluctuationsCountEverySampleMomentsOnlyTheMarkedOnes) {
     // U: 0 1 2 5 (mean 2), V: 1 0 -1 4 (mean 1), W: 3 -1 2 0 (mean 1).
-    SAdvProbe probe = probeOf({0, 2, 4, 10}, {4, 0, -4, 16}, {3, -1, 2, 0}, {1, 1, 1, 0});
+    SAdvProbe probe = probeOf({{{0, 2, 4, 10}, {4, 0, -4, 16}, {3, -1, 2, 0}}}, kScales);
+    mark(probe, {1, 1, 1, 0});
     probe.useAllSamples = 0;
     formStresses(probe);
     const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
     ASSERT_EQ(stresses.GetSize(), 3);
-    EXPECT_EQ(stresses.GetAt(0), column(0.5, {0, 2, 0, 18}));      // 0, 1, 0, 9
-    EXPECT_EQ(stresses.GetAt(1), column(0.25, {-16, 8, 0, -12}));  // -4, 2, 0, -3
-    EXPECT_EQ(stresses.GetAt(2), column(1.0, {0, 2, -2, -3}));
+    EXPECT_EQ(stresses.GetAt(0), columnOf({0, 2, 0, 18}, 0.5));      // 0, 1, 0, 9
+    EXPECT_EQ(stresses.GetAt(1), columnOf({-16, 8, 0, -12}, 0.25));  // -4, 2, 0, -3
+    EXPECT_EQ(stresses.GetAt(2), columnOf({0, 2, -2, -3}, 1.0));
     EXPECT_EQ(probe.scalarResults[10], 2.0);
     EXPECT_EQ(probe.scalarResults[11], 1.0);
     EXPECT_EQ(probe.scalarResults[12], 1.0);
     EXPECT_EQ(probe.stressesFormed, 1U);
     EXPECT_EQ(probe.StressMoments(1), momentsOf(std::vector<double>{-4.0, 2.0, 0.0}));
-    EXPECT_EQ(probe.seriesUW.values, column(0.25, {-16, 8, 0}));
+    EXPECT_EQ(probe.seriesUW.values, columnOf({-16, 8, 0}, 0.25));
     EXPECT_EQ(probe.seriesUW.moments, probe.StressMoments(1));
     EXPECT_EQ(probe.seriesVW.values.GetScale(), 1.0);
 
@@ -138,7 +131,7 @@ TEST(Stresses, FluctuationsCountEverySampleMomentsOnlyTheMarkedOnes) {
     EXPECT_EQ(probe.statistics[17], -0.75);
 
     formStresses(probe, StressResolution::StreamwiseU);
-    EXPECT_EQ(stresses.GetAt(2), column(0.5, {0, 4, -4, -6}));
+    EXPECT_EQ(stresses.GetAt(2), columnOf({0, 4, -4, -6}, 0.5));
 }
 
 TEST(Stresses, EmptyRecord) {
@@ -154,7 +147,7 @@ TEST(SeriesIntegrals, EndBeforeTheLastIndex) {
     STimeSeries series;
     series.samplingInterval = 0.5;
     series.moments.variance = 2.0;
-    series.correlation = column(1.0, {8, 6, 4, 2, 100});
+    series.correlation = columnOf({8, 6, 4, 2, 100}, 1.0);
     EXPECT_EQ(correlationIntegral(series, 0, 4), ((4 + 3) + (3 + 2) + (2 + 1)) * 0.5 * 0.5);
     EXPECT_EQ(correlationIntegral(series, 2, 4), 1.5 * 0.5);
     EXPECT_EQ(correlationIntegral(series, 3, 4), 0.0);
@@ -162,7 +155,7 @@ TEST(SeriesIntegrals, EndBeforeTheLastIndex) {
     EXPECT_EQ(correlationIntegral(series, 3, 500), (1 + 50) * 0.5 * 0.5);
     EXPECT_THROW(correlationIntegral(series, -1, 4), InvalidArgument);
 
-    series.spectrum = column(1.0, {8, 6, 4, 2, 100});
+    series.spectrum = columnOf({8, 6, 4, 2, 100}, 1.0);
     const double sum = 7.0 + 5.0 + 3.0;
     EXPECT_DOUBLE_EQ(spectrumIntegral(series, 0, 5), sum / (2.0 * 5 * 0.5));
     EXPECT_DOUBLE_EQ(spectrumIntegral(series, 0, 50), sum / (2.0 * 5 * 0.5));
@@ -175,4 +168,4 @@ TEST(SeriesIntegrals, EndBeforeTheLastIndex) {
 }
 
 }  // namespace
-}  // namespace vorlan
+}  // namespace vorlan::test

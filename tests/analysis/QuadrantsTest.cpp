@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "StressRecord.h"
+#include "Records.h"
 #include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
 #include "analysis/QuadrantSettings.h"
@@ -10,10 +10,8 @@
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
 
-namespace vorlan {
+namespace vorlan::test {
 namespace {
-
-using namespace stress_test;
 
 int plainQuadrant(double a, double b) {
     if (a > 0.0 && b > 0.0) {
@@ -34,51 +32,49 @@ struct PlainQuadrants {
     std::array<std::vector<std::int32_t>, 2> ejection, sweep;
 };
 
-std::vector<std::int32_t> plainPattern(const std::vector<double>& x, const std::vector<std::size_t>& events, int lag,
-                                       double deviation) {
-    std::vector<std::int32_t> result;
-    const auto samples = static_cast<long>(x.size());
-    for (long tau = -lag; tau <= lag; ++tau) {
+/// The average of x around the events, lag by lag.
+std::vector<double> plainAverageAround(const std::vector<std::size_t>& events, const std::vector<double>& x, int lag) {
+    std::vector<double> pattern;
+    for (int tau = -lag; tau <= lag; ++tau) {
         double sum = 0.0;
         int count = 0;
         for (const std::size_t event : events) {
             const long j = static_cast<long>(event) + tau;
-            if (j >= 0 && j < samples) {
+            if (j >= 0 && j < static_cast<long>(x.size())) {
                 sum += x[static_cast<std::size_t>(j)];
                 ++count;
             }
         }
-        result.push_back(count == 0 ? 0 : held(sum / count / deviation, 1e-4));
+        pattern.push_back(count == 0 ? 0.0 : sum / count);
+    }
+    return pattern;
+}
+
+std::vector<std::int32_t> plainPattern(const std::vector<double>& x, const std::vector<std::size_t>& events, int lag,
+                                       double deviation) {
+    std::vector<std::int32_t> result;
+    for (const double average : plainAverageAround(events, x, lag)) {
+        result.push_back(average == 0.0 ? 0 : held(average / deviation, 1e-4));
     }
     return result;
 }
 
-double plainDeviation(const SAdvProbe& probe, int component) {
-    const SArray& column = probe.workTables[0].GetAt(component);
-    std::vector<double> values;
-    for (int j = 0; j < column.GetSize(); ++j) {
-        values.push_back(column.GetAt(j) * column.GetScale());
-    }
-    const double mean = meanOf(values);
+double plainDeviation(const std::vector<double>& fluctuations) {
     double squares = 0.0;
-    for (const double v : values) {
-        squares += (v - mean) * (v - mean);
+    for (const double v : fluctuations) {
+        squares += v * v;
     }
-    return std::sqrt(squares / (static_cast<double>(values.size()) - 1.0));
+    return std::sqrt(squares / (static_cast<double>(fluctuations.size()) - 1.0));
 }
 
 /// The probe's stresses must have been formed.
 PlainQuadrants plainQuadrants(const SAdvProbe& probe, const QuadrantSettings& settings) {
-    const Columns fluctuations = fluctuationsOf(probe);
+    const auto fluctuations = fluctuationsOf(probe);
     const int first = kFirst[settings.stressType];
     const int second = kSecond[settings.stressType];
     const auto& a = fluctuations[static_cast<std::size_t>(first)];
     const auto& b = fluctuations[static_cast<std::size_t>(second)];
-    const SArray& column = probe.workTables[5].GetAt(settings.stressType);
-    std::vector<double> s;
-    for (int j = 0; j < column.GetSize(); ++j) {
-        s.push_back(column.GetAt(j) * column.GetScale());
-    }
+    const std::vector<double> s = probe.workTables[5].GetAt(settings.stressType).Values();
     const double m = meanOf(s);
 
     PlainQuadrants plain;
@@ -117,7 +113,7 @@ PlainQuadrants plainQuadrants(const SAdvProbe& probe, const QuadrantSettings& se
     }
     const int lag = static_cast<int>(settings.maximumLag / probe.samplingInterval);
     for (std::size_t c = 0; c < 2; ++c) {
-        const double deviation = plainDeviation(probe, c == 0 ? first : second);
+        const double deviation = plainDeviation(c == 0 ? a : b);
         plain.ejection[c] = plainPattern(c == 0 ? a : b, events[0], lag, deviation);
         plain.sweep[c] = plainPattern(c == 0 ? a : b, events[1], lag, deviation);
     }
@@ -131,14 +127,14 @@ void expectPlainResults(const SAdvProbe& probe, const QuadrantSettings& settings
     ASSERT_EQ(probe.stageTables[2].GetSize(), 2);
     ASSERT_EQ(probe.stageTables[3].GetSize(), 2);
     for (int q = 0; q < 5; ++q) {
-        EXPECT_EQ(integers(probe.stageTables[0].GetAt(q)), plain.contributions[static_cast<std::size_t>(q)]);
-        EXPECT_EQ(integers(probe.stageTables[1].GetAt(q)), plain.times[static_cast<std::size_t>(q)]);
+        EXPECT_EQ(unitsOf(probe.stageTables[0].GetAt(q)), plain.contributions[static_cast<std::size_t>(q)]);
+        EXPECT_EQ(unitsOf(probe.stageTables[1].GetAt(q)), plain.times[static_cast<std::size_t>(q)]);
         EXPECT_EQ(probe.stageTables[0].GetAt(q).GetScale(), 1e-5);
         EXPECT_EQ(probe.stageTables[1].GetAt(q).GetScale(), 1e-5);
     }
     for (int c = 0; c < 2; ++c) {
-        EXPECT_EQ(integers(probe.stageTables[2].GetAt(c)), plain.ejection[static_cast<std::size_t>(c)]);
-        EXPECT_EQ(integers(probe.stageTables[3].GetAt(c)), plain.sweep[static_cast<std::size_t>(c)]);
+        EXPECT_EQ(unitsOf(probe.stageTables[2].GetAt(c)), plain.ejection[static_cast<std::size_t>(c)]);
+        EXPECT_EQ(unitsOf(probe.stageTables[3].GetAt(c)), plain.sweep[static_cast<std::size_t>(c)]);
         EXPECT_EQ(probe.stageTables[2].GetAt(c).GetScale(), 1e-4);
         EXPECT_EQ(probe.stageTables[3].GetAt(c).GetScale(), 1e-4);
     }
@@ -169,36 +165,20 @@ TEST(Quadrants, HoldTheIntegersOfThePlainLoops) {
     }
 }
 
-/// A record of one repeated pattern of fluctuations, in whole units.
-SAdvProbe patternProbe(const std::vector<std::array<int, 3>>& pattern, int repeats) {
-    SAdvProbe probe;
-    probe.samplingInterval = 0.5;
-    SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
-    velocities.Reshape(3, 1.0);
-    for (int i = 0; i < repeats; ++i) {
-        for (const auto& sample : pattern) {
-            for (int c = 0; c < 3; ++c) {
-                velocities.ElementAt(c).Add(sample[static_cast<std::size_t>(c)]);
-            }
-        }
-    }
-    return probe;
-}
-
 TEST(Quadrants, CountSamplesOnAnAxisAndAtTheHoleSizeInTheHole) {
     // Means 0; u'w' is 4, -4, -4, 0, 0: m = -0.8, r = -5, 5, 5, 0, 0.
-    SAdvProbe probe = patternProbe({{2, 0, 2}, {-2, 0, 2}, {2, 0, -2}, {-2, 0, 0}, {0, 0, -2}}, 1);
+    SAdvProbe probe = probeOf({{{2, -2, 2, -2, 0}, {0, 0, 0, 0, 0}, {2, 2, -2, 0, -2}}});
     NoProgress silent;
     analyseQuadrants(probe, settingsOf(1.0, 6.0, 1.0, 2.0, 2.0, 1), silent);
     const SMultiArray& times = probe.stageTables[SAdvProbe::kTimes];
     ASSERT_EQ(probe.statistics[21], -0.8);
     const std::vector<std::int32_t> outside = {20000, 20000, 20000, 20000, 20000, 0};
-    EXPECT_EQ(integers(times.GetAt(0)), outside);
-    EXPECT_EQ(integers(times.GetAt(1)), outside);
-    EXPECT_EQ(integers(times.GetAt(2)), std::vector<std::int32_t>(6, 0));
-    EXPECT_EQ(integers(times.GetAt(3)), outside);
+    EXPECT_EQ(unitsOf(times.GetAt(0)), outside);
+    EXPECT_EQ(unitsOf(times.GetAt(1)), outside);
+    EXPECT_EQ(unitsOf(times.GetAt(2)), std::vector<std::int32_t>(6, 0));
+    EXPECT_EQ(unitsOf(times.GetAt(3)), outside);
     // The quotient 1 / 1e-5 falls just short of 100000, so a whole share is held as 0.99999.
-    EXPECT_EQ(integers(times.GetAt(4)), (std::vector<std::int32_t>{40000, 40000, 40000, 40000, 40000, 99999}));
+    EXPECT_EQ(unitsOf(times.GetAt(4)), (std::vector<std::int32_t>{40000, 40000, 40000, 40000, 40000, 99999}));
     const SMultiArray& contributions = probe.stageTables[SAdvProbe::kContributions];
     EXPECT_EQ(contributions.GetAt(0).GetAt(0), -99999);
     EXPECT_EQ(contributions.GetAt(1).GetAt(0), 99999);
@@ -208,11 +188,14 @@ TEST(Quadrants, CountSamplesOnAnAxisAndAtTheHoleSizeInTheHole) {
 
 TEST(Quadrants, WrapWhenASumLeavesThirtyTwoBits) {
     // A mean stress near 0 makes every r large; the sums of the units then wrap.
-    SAdvProbe probe = patternProbe({{3, 0, 100}, {-3, 0, 100}, {3, 0, -100}, {-3, 0, -100}}, 150);
-    for (int c : {0, 2}) {
-        probe.workTables[0].ElementAt(c).Add(1);
+    SAdvProbe probe = probeOf({});
+    for (int i = 0; i < 600; ++i) {
+        velocity(probe, 0).Add(i % 2 == 0 ? 3 : -3);
+        velocity(probe, 2).Add(i % 4 < 2 ? 100 : -100);
     }
-    probe.workTables[0].ElementAt(1).Add(0);
+    velocity(probe, 1).SetSize(601);
+    velocity(probe, 0).Add(1);
+    velocity(probe, 2).Add(1);
     NoProgress silent;
     const QuadrantSettings settings = settingsOf(50.0, 1000.0, 1.0, 2.0, 2.0, 1);
     analyseQuadrants(probe, settings, silent);
@@ -225,7 +208,7 @@ TEST(Quadrants, OfAnEmptyRecordAreEmpty) {
     NoProgress silent;
     analyseQuadrants(probe, QuadrantSettings(), silent);
     EXPECT_TRUE(probe.stageTables[SAdvProbe::kContributions].HasNoValues());
-    EXPECT_EQ(integers(probe.stageTables[SAdvProbe::kSweepPattern].GetAt(1)), std::vector<std::int32_t>(41, 0));
+    EXPECT_EQ(unitsOf(probe.stageTables[SAdvProbe::kSweepPattern].GetAt(1)), std::vector<std::int32_t>(41, 0));
 }
 
 TEST(Quadrants, WithANegativeIncrementAverageOnly) {
@@ -292,24 +275,6 @@ TEST(Quadrants, TitleThePatternsByTheirEvents) {
     EXPECT_EQ(patternTitles(negative), "mine|Sweep (dimensionless velocities)|");
 }
 
-/// The definition, lag by lag.
-std::vector<double> plainAverageAround(const std::vector<std::size_t>& events, const std::vector<double>& x, int lag) {
-    std::vector<double> pattern;
-    for (int tau = -lag; tau <= lag; ++tau) {
-        double sum = 0.0;
-        int count = 0;
-        for (const std::size_t event : events) {
-            const long j = static_cast<long>(event) + tau;
-            if (j >= 0 && j < static_cast<long>(x.size())) {
-                sum += x[static_cast<std::size_t>(j)];
-                ++count;
-            }
-        }
-        pattern.push_back(count == 0 ? 0.0 : sum / count);
-    }
-    return pattern;
-}
-
 TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
     // Records shorter than a register and than the lags, and one with more events than are taken at a time.
     for (const std::size_t size : {1U, 2U, 3U, 17U, 777U, 4001U}) {
@@ -335,4 +300,4 @@ TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
 }
 
 }  // namespace
-}  // namespace vorlan
+}  // namespace vorlan::test

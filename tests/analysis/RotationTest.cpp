@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "VelocityRecord.h"
+#include "Records.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
 
