@@ -33,29 +33,6 @@ TEST_F(OutputCommandsTest, ExportWritesTheProbeThatIsAskedFor) {
     EXPECT_TRUE(holds(done({"export", "spectral", "--out", "-", "--header", input}), "PROBE : 1\n"));
 }
 
-TEST_F(OutputCommandsTest, ProbesAndResultsThatAreNotThereAreRefused) {
-    const std::string input = simulated("a.avp");
-    const std::string old = write("old.dat", "precious");
-    const struct {
-        std::vector<std::string> arguments;
-        const char* said;
-    } rows[] = {
-        {{"export", "spectral", "--out", old, input}, "no spectral analysis yet"},
-        {{"export", "velocities", "--out", old, "--file", "2", input}, "there is no data file 2"},
-        {{"export", "velocities", "--out", old, "--probe", "2", input}, "there is no probe 2"},
-        {{"render", "--stage", "spectral", "--out", path("a.png"), input}, "no stage \"Spectral Analysis\" yet"},
-        {{"render", "--stage", "pre-processing", "--out", path("a.png"), "--probe", "9", input}, "there is no probe 9"},
-    };
-    for (const auto& row : rows) {
-        const Result result = run(row.arguments);
-        EXPECT_EQ(result.status, 1) << row.said;
-        EXPECT_TRUE(holds(result.err, input + ": "));
-        EXPECT_TRUE(holds(result.err, row.said));
-    }
-    EXPECT_EQ(read(old), "precious");
-    EXPECT_FALSE(std::filesystem::exists(path("a.png")));
-}
-
 TEST_F(OutputCommandsTest, ColumnsThatDoNotFitTogetherAreRefusedByTheNameOfTheWorkspace) {
     Workspace workspace = openWorkspace(analysed());
     SAdvProbe& damaged = workspace.dataFiles.files.ElementAt(0).probes.ElementAt(0);

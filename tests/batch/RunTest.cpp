@@ -115,52 +115,6 @@ TEST_F(RunTest, EditHandsItsCriteriaOver) {
     EXPECT_FALSE(probeOf(result).UsesAllSamples());
 }
 
-TEST_F(RunTest, RefusalsOfTheDocumentAreToldWordForWord) {
-    const std::string input = simulated("a.avp");
-    const std::string old = write("old.avp", "precious");
-    const struct {
-        const char* recipe;
-        const char* said;
-    } rows[] = {
-        {"[[step]]\ndo = \"spectral\"\nlags = 126",
-         "Truncation point too large ! This value exceed of half time series length."},
-        {"[[step]]\ndo = \"spectral\"\nlags = 2", "The truncation point should be grater than 2!"},
-        {"[[step]]\ndo = \"spectral\"\npercent = 0", "The truncation point should be grater than 0!"},
-        {"[[step]]\ndo = \"clip\"\nfrom = -1\nto = 5", "The limits for clipping are wrong !"},
-        {"[[step]]\ndo = \"filter\"\nhalf_width = 0", "The filter width should be grater than 0!"},
-        {"[[step]]\ndo = \"filter\"\ncutoff = 0", "The cutoff frequency should be grater than 0!"},
-        {"[[step]]\ndo = \"filter\"",
-         "Filter width too large ! This value should be smaller than 1/4 time series length."},
-        {"[[step]]\ndo = \"stationarity\"\nbands = 1", "Band number should be larger than 1!"},
-        {"[[step]]\ndo = \"distributions\"\ngrades = 1", "Number of grades should be larger than 1!"},
-        {"[[step]]\ndo = \"quadrants\"\nlag = 1", "The maximum lag should be grater than 2!"},
-        {"[[step]]\ndo = \"quadrants\"\nincrement = 0", "The size increment should be grater than 0!"},
-        {"[[step]]\ndo = \"cross-spectral\"", "this probe has no spectral analysis yet"},
-        {"[[step]]\ndo = \"edit\"\ntreatment = \"remove\"\nvelocity_threshold = 1\n[[step]]\ndo = \"filter\"\n",
-         "not all of its samples are used"},
-        {"[[step]]\ndo = \"export\"\nkind = \"spectral\"\nout = \"x.dat\"", "this probe has no spectral analysis yet"},
-        {"[[step]]\ndo = \"render\"\nstage = \"spectral\"\nout = \"x.png\"",
-         "this probe has no stage \"Spectral Analysis\" yet"},
-        {"files = [2]\n[[step]]\ndo = \"reset\"", "there is no data file 2, the workspace has 1"},
-        {"probes = [1, 3]\n[[step]]\ndo = \"reset\"", "there is no probe 3, data file 1 has 1"},
-    };
-    for (const auto& row : rows) {
-        const Result result = apply(row.recipe, {"--out", old, input});
-        EXPECT_EQ(result.status, 1) << row.recipe;
-        EXPECT_TRUE(holds(result.err, row.said)) << row.recipe;
-        EXPECT_TRUE(holds(result.err, input + ": ")) << row.recipe;
-        EXPECT_EQ(read(old), "precious");
-    }
-}
-
-TEST_F(RunTest, AWidthOnItsLimitChangesNothingAndGoesOn) {
-    const Result result = apply("[[step]]\ndo = \"filter\"\nhalf_width = 2.5\n" + std::string(kSpectral),
-                                {"--out", path("b.avp"), simulated("a.avp")});
-    EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(holds(result.err, "step 1 (filter): nothing was changed"));
-    EXPECT_EQ(probeOf(openWorkspace(path("b.avp"))).WorkingSamples(), 250);
-}
-
 TEST_F(RunTest, RepeatAnswersTheQuestionAboutDoneStages) {
     const std::string recipe = std::string(kSpectral) + "[[step]]\ndo = \"clip\"\nfrom = 0\nto = 8\n";
     const std::string input = simulated("a.avp");
@@ -176,20 +130,6 @@ TEST_F(RunTest, RepeatAnswersTheQuestionAboutDoneStages) {
     // The clipped record analysed anew is what repeating gives.
     EXPECT_EQ(apply(kSpectral, {"--out", path("again.avp"), path("no.avp")}).status, 0);
     EXPECT_EQ(probeOf(openWorkspace(path("again.avp"))).seriesU, yes.seriesU);
-}
-
-TEST_F(RunTest, AStageThatCannotBeRepeatedIsToldAndTheRunGoesOn) {
-    const Result result = apply(std::string(kSpectral) +
-                                    "[[step]]\ndo = \"clip\"\nfrom = 0\nto = 1\n[[step]]\n"
-                                    "do = \"mean-velocity\"\nmode = \"user\"\n",
-                                {"--out", path("b.avp"), simulated("a.avp")});
-    EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(
-        holds(result.err, "step 2 (clip): Truncation point too large ! This value exceed of half time series length."));
-    const Workspace workspace = openWorkspace(path("b.avp"));
-    EXPECT_EQ(probeOf(workspace).WorkingSamples(), 25);
-    EXPECT_EQ(probeOf(workspace).seriesU.spectrum.GetSize(), 50);
-    EXPECT_EQ(workspace.settings.meanVelocityMode, 1);
 }
 
 TEST_F(RunTest, ExportsAndPicturesTakeTheirNamesFromTheProbe) {
@@ -213,49 +153,6 @@ TEST_F(RunTest, ExportsAndPicturesTakeTheirNamesFromTheProbe) {
     EXPECT_EQ(read(path("sea-1-2.dat")), expected.str());
     EXPECT_TRUE(holds(read(path("2.svg")), "<svg"));
     EXPECT_FALSE(probeOf(workspace).IsDone(DoneMark::Spectral));
-}
-
-TEST_F(RunTest, NothingIsWrittenWhenALaterStepIsRefused) {
-    const std::string old = write("1.dat", "precious");
-    const std::string recipe = "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path("{probe}.dat") +
-                               "\"\n"
-                               "[[step]]\ndo = \"cross-spectral\"\n";
-    EXPECT_EQ(apply(recipe, {"--in-place", simulated("a.avp")}).status, 1);
-    EXPECT_EQ(read(old), "precious");
-    EXPECT_TRUE(sameBytes(read(path("a.avp")), read(simulated("b.avp"))));
-}
-
-TEST_F(RunTest, OutputsMustNotMeet) {
-    const std::string a = simulated("a.avp");
-    std::filesystem::create_directory(path("other"));
-    std::filesystem::create_directory(path("out"));
-    const std::string twin = write("other/a.avp", read(a));
-    const auto exporting = [&](const std::string& out) {
-        return "[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path(out) + "\"\n";
-    };
-    const std::string both = withProbes("both.avp", 2);
-    const struct {
-        std::string recipe;
-        std::vector<std::string> rest;
-    } rows[] = {
-        {kSpectral, {"--out", path("x.avp"), a, both}},
-        {kSpectral, {"--out-dir", path("out"), a, twin}},
-        {kSpectral, {"--in-place", a, path("other/../a.avp")}},
-        {kSpectral, {"--out-dir", path("other"), a, twin}},
-        {kSpectral, {"--out-dir", path("."), a}},
-        {exporting("x.dat"), {a, both}},
-        {exporting("{workspace}.dat"), {a, twin}},
-        {exporting("x.dat"), {both}},
-        {exporting("{probe}.dat") + exporting("out/../{probe}.dat"), {a}},
-        {exporting("a.avp"), {a}},
-    };
-    const std::string before = read(a);
-    for (const auto& row : rows) {
-        const Result result = apply(row.recipe, row.rest);
-        EXPECT_EQ(result.status, 2) << row.recipe << ::testing::PrintToString(row.rest) << result.err;
-    }
-    EXPECT_EQ(read(a), before);
-    EXPECT_TRUE(std::filesystem::is_empty(path("out")));
 }
 
 TEST_F(RunTest, SeveralInputsRunOnWhenOneFailsAndTheWorstStatusCounts) {
@@ -297,27 +194,6 @@ TEST_F(RunTest, JobsKeepLinesWholeAndOutputsInTheOrderOfTheInputs) {
     }
     EXPECT_GT(count, 9 * 10);
     EXPECT_EQ(names().size(), 10U);
-}
-
-TEST_F(RunTest, ProgressIsSilentUnlessItIsAskedFor) {
-    EXPECT_EQ(apply(kSpectral, {"--in-place", simulated("a.avp")}).err, "");
-}
-
-TEST_F(RunTest, AnEmptyWorkspaceHasNoProbeToWorkOn) {
-    done({"new", path("a.avp")});
-    const Result result = apply(kSpectral, {"--out", path("b.avp"), path("a.avp")});
-    EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(holds(result.err, "there is no probe"));
-    EXPECT_TRUE(sameBytes(read(path("b.avp")), read(path("a.avp"))));
-}
-
-TEST_F(RunTest, FaultyAndMissingRecipesRunNothing) {
-    const std::string input = simulated("a.avp");
-    const Result faulty =
-        apply("[[step]]\ndo = \"reset\"\n[[step]]\ndo = \"reset\"\nnow = 1\n", {"--in-place", input, path("none.avp")});
-    EXPECT_EQ(faulty.status, 2);
-    EXPECT_TRUE(holds(faulty.err, path("recipe.toml") + ":5: step 2 (reset): unknown key \"now\""));
-    EXPECT_EQ(run({"run", "--recipe", path("none.toml"), "--in-place", input}).status, 3);
 }
 
 }  // namespace
