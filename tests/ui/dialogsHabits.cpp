@@ -4,16 +4,16 @@
 #include <QRadioButton>
 #include <QSet>
 #include <QTimer>
-#include <functional>
-#include <memory>
 
-#include "ui/DialogDriver.h"
+#include "Approved.h"
+#include "ui/DialogText.h"
 #include "ui/dialogs/CCoordSysDlg.h"
 #include "ui/dialogs/CEditTSDlg.h"
 #include "ui/dialogs/CExportDlg.h"
 #include "ui/dialogs/CExportScopeDlg.h"
 #include "ui/dialogs/CFilterDlg.h"
 #include "ui/dialogs/CHistDlg.h"
+#include "ui/dialogs/CMeanVelDlg.h"
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/CQuadrDlg.h"
 #include "ui/dialogs/CSimulateDlg.h"
@@ -22,29 +22,60 @@
 
 using namespace vorlan;
 
-using MakeDialog = std::function<std::unique_ptr<CParameterDialog>()>;
 Q_DECLARE_METATYPE(MakeDialog)
 
 class DialogsHabits : public QObject {
     Q_OBJECT
 
+    static std::vector<std::pair<const char*, MakeDialog>> dialogs() {
+        static constexpr std::array<ScaleType, 4> kScales{ScaleType::Linear, ScaleType::Logarithmic,
+                                                          ScaleType::LogXLinearY, ScaleType::LinearXLogY};
+        RotationSettings rotation;
+        rotation.position = {1234567.0 * 0.001, 0.1, 0.0};
+        EditingSettings minima;
+        minima.correlation.statistic = minima.signalToNoise.statistic = ScoreStatistic::Minimum;
+        FilterSettings bell{FilterShape::Bell, FilterType::BandCut, 10.0, 2.75};
+        FilterSettings gaussian{FilterShape::Gaussian, FilterType::LowPass, 10.0, 10.0};
+        SpectralSettings lags;
+        lags.truncationMode = 1;
+        lags.percent = 0;
+        SimulationParameters harmonics;
+        harmonics.harmonicCount = 2;
+        for (auto& component : harmonics.components) {
+            component.harmonics.resize(2);
+        }
+        FrameAttributesType logarithmic;
+        logarithmic.scaleType = static_cast<std::int32_t>(ScaleType::LogXLinearY);
+        logarithmic.xMinMode = logarithmic.xMaxMode = 1;
+        return {
+            {"coordinates", [=] { return std::make_unique<CCoordSysDlg>(rotation, QStringLiteral("Probe")); }},
+            {"editing", [] { return std::make_unique<CEditTSDlg>(EditingSettings{}); }},
+            {"editing by minima", [=] { return std::make_unique<CEditTSDlg>(minima); }},
+            {"export", [] { return std::make_unique<CExportDlg>(); }},
+            {"scope", [] { return std::make_unique<CExportScopeDlg>(); }},
+            {"filter", [] { return std::make_unique<CFilterDlg>(FilterSettings{}); }},
+            {"bell filter", [=] { return std::make_unique<CFilterDlg>(bell); }},
+            {"Gaussian filter", [=] { return std::make_unique<CFilterDlg>(gaussian); }},
+            {"histogram", [] { return std::make_unique<CHistDlg>(HistogramSettings{}); }},
+            {"mean velocity", [] { return std::make_unique<CMeanVelDlg>(MeanVelocitySettings{}, 12.5); }},
+            {"user's mean velocity",
+             [] {
+                 return std::make_unique<CMeanVelDlg>(MeanVelocitySettings{1, 10.0}, std::nullopt);
+             }},
+            {"plot options", [=] { return std::make_unique<CPlotOptDlg>(logarithmic, kScales); }},
+            {"quadrants", [] { return std::make_unique<CQuadrDlg>(QuadrantSettings{}); }},
+            {"simulate", [=] { return std::make_unique<CSimulateDlg>(harmonics); }},
+            {"spectral", [] { return std::make_unique<CSpAnalDlg>(SpectralSettings{}); }},
+            {"spectral by lags", [=] { return std::make_unique<CSpAnalDlg>(lags); }},
+            {"stationarity", [] { return std::make_unique<CStatDlg>(StationaritySettings{}); }},
+        };
+    }
+
     static void everyDialog() {
         QTest::addColumn<MakeDialog>("make");
-        const auto row = [](const char* name, MakeDialog make) { QTest::newRow(name) << make; };
-        row("coordinates", [] { return std::make_unique<CCoordSysDlg>(RotationSettings{}, QStringLiteral("Probe")); });
-        row("editing", [] { return std::make_unique<CEditTSDlg>(EditingSettings{}); });
-        row("export", [] { return std::make_unique<CExportDlg>(); });
-        row("scope", [] { return std::make_unique<CExportScopeDlg>(); });
-        row("filter", [] { return std::make_unique<CFilterDlg>(FilterSettings{}); });
-        row("histogram", [] { return std::make_unique<CHistDlg>(HistogramSettings{}); });
-        row("plot options", [] {
-            static constexpr std::array<ScaleType, 1> kLinear{ScaleType::Linear};
-            return std::make_unique<CPlotOptDlg>(FrameAttributesType{}, kLinear);
-        });
-        row("quadrants", [] { return std::make_unique<CQuadrDlg>(QuadrantSettings{}); });
-        row("simulate", [] { return std::make_unique<CSimulateDlg>(SimulationParameters{}); });
-        row("spectral", [] { return std::make_unique<CSpAnalDlg>(SpectralSettings{}); });
-        row("stationarity", [] { return std::make_unique<CStatDlg>(StationaritySettings{}); });
+        for (const auto& [name, make] : dialogs()) {
+            QTest::newRow(name) << make;
+        }
     }
 
     static QList<QWidget*> tabStops(QWidget* dialog) {
@@ -58,6 +89,15 @@ class DialogsHabits : public QObject {
     }
 
   private Q_SLOTS:
+    void holdTheApprovedControls() {
+        QString all;
+        for (const auto& [name, make] : dialogs()) {
+            all += QLatin1String("[") + QLatin1String(name) + QLatin1String("]\n") + dialogText(make) + u'\n';
+        }
+        const std::string change = test::changeOfApproved("dialogs", all.toStdString());
+        QVERIFY2(change.empty(), change.c_str());
+    }
+
     void returnAcceptsAndEscapeRejects_data() { everyDialog(); }
     void returnAcceptsAndEscapeRejects() {
         QFETCH(MakeDialog, make);

@@ -1,0 +1,275 @@
+// What the parameter dialogs hand back.
+#include <QComboBox>
+#include <QSlider>
+
+#include "ui/DialogDriver.h"
+#include "ui/dialogs/CCoordSysDlg.h"
+#include "ui/dialogs/CEditTSDlg.h"
+#include "ui/dialogs/CExportDlg.h"
+#include "ui/dialogs/CExportScopeDlg.h"
+#include "ui/dialogs/CFilterDlg.h"
+#include "ui/dialogs/CHistDlg.h"
+#include "ui/dialogs/CMeanVelDlg.h"
+#include "ui/dialogs/CQuadrDlg.h"
+#include "ui/dialogs/CSimulateDlg.h"
+#include "ui/dialogs/CSpAnalDlg.h"
+#include "ui/dialogs/CStatDlg.h"
+
+using namespace vorlan;
+
+class DialogsValues : public QObject {
+    Q_OBJECT
+
+    // The threshold stands right of its radio button.
+    static void typeThreshold(const DialogDriver& driver, const char* statistic, const char* text) {
+        qobject_cast<QLineEdit*>(driver.button(statistic)->nextInFocusChain())->setText(QString::fromUtf8(text));
+    }
+    static QLineEdit* lagsField(const CSpAnalDlg& dialog) { return dialog.findChild<QLineEdit*>(); }
+    static void choose(const DialogDriver& driver, int component) {
+        driver.field<QComboBox>("Componen&t:")->setCurrentIndex(component);
+    }
+
+  private Q_SLOTS:
+    void ofStationarity() {
+        CStatDlg dialog({});
+        DialogDriver driver(dialog);
+        driver.type("&Number of Bands", "1");
+        QVERIFY(!driver.accepted());
+        QCOMPARE(dialog.values().bands, 10);
+        driver.type("&Number of Bands", "2");
+        driver.click("&cumulative");
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().bands, 2);
+        QCOMPARE(dialog.values().mode, BandMode::Cumulative);
+    }
+
+    void ofHistogramsWhoseArrowsStartAtTen() {
+        CHistDlg dialog({});
+        DialogDriver driver(dialog);
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().grades, 20);
+        driver.moveUpDown(1);
+        driver.field<QSlider>("&Bar Width:")->setValue(0);
+        driver.click("&Approximate by Normal Distribution");
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().grades, 11);
+        QCOMPARE(dialog.values().barWidth, 0);
+        QVERIFY(!dialog.values().normalApproximation);
+        // At the end of its range the pair does not move, and so it writes nothing.
+        driver.moveUpDown(-20);
+        driver.type("&Grades Number:", "150");
+        driver.moveUpDown(-1);
+        QCOMPARE(driver.text("&Grades Number:"), QStringLiteral("150"));
+    }
+
+    void ofQuadrants() {
+        CQuadrDlg dialog({});
+        DialogDriver driver(dialog);
+        driver.type("&Ejection:", "0");
+        driver.type("Hole Size &Maximum Value:", "2");
+        driver.type("Maximum Time &Lag:", "2");
+        driver.type("&Sweep:", "0.5");
+        driver.type("&Hole Size Increment:", "-0.2");
+        driver.click("&v'w' (transverse-vertical)");
+        QVERIFY(driver.accepted());
+        QVERIFY((dialog.values() == QuadrantSettings{-0.2, 2.0, 0.0, 0.5, 2.0, 2}));
+    }
+
+    void ofExports() {
+        CExportDlg options;
+        DialogDriver driver(options);
+        QVERIFY(driver.accepted());
+        QVERIFY(!options.values().header && !options.values().time);
+        QCOMPARE(options.values().separator, Separator::Space);
+        driver.click("&Header field");
+        driver.click("&Time values [sec]");
+        driver.click("&Comma");
+        QVERIFY(driver.accepted());
+        QVERIFY(options.values().header && options.values().time);
+        QCOMPARE(options.values().separator, Separator::Comma);
+
+        CExportScopeDlg scope;
+        DialogDriver scopeDriver(scope);
+        scopeDriver.click("for &all files and probes");
+        QVERIFY(!scope.allProbes());
+        QVERIFY(scopeDriver.accepted());
+        QVERIFY(scope.allProbes());
+    }
+
+    void ofTheMeanVelocity() {
+        CMeanVelDlg dialog({}, 12.5);
+        DialogDriver driver(dialog);
+        driver.click("&Defined by the User [cm/s]");
+        dialog.findChild<QLineEdit*>()->setText(QStringLiteral("0.005"));
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().mode, 1);
+        QCOMPARE(dialog.values().value, 0.005);
+    }
+
+    // Angles count whether they are ticked or not; the coordinates of untouched fields stay exact.
+    void ofTheCoordinateSystem() {
+        RotationSettings settings;
+        settings.position = {1234567.0 * 0.001, 0.1 + 0.2, 0.0};
+        CCoordSysDlg dialog(settings, QString());
+        DialogDriver driver(dialog);
+        driver.click("&Rotate coordinates about  the sampling volume location");
+        driver.type("&Heading:", "720.5");
+        driver.type("&Pitch:", "-1e3");
+        driver.click("&Rotate coordinates about  the sampling volume location");
+        driver.type("&Z:", "-0.125");
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().heading, 720.5);
+        QCOMPARE(dialog.values().pitch, -1000.0);
+        QCOMPARE(dialog.values().roll, 0.0);
+        QVERIFY(dialog.values().position[0] == settings.position[0]);
+        QVERIFY(dialog.values().position[1] == settings.position[1]);
+        QCOMPARE(dialog.values().position[2], -0.125);
+    }
+
+    void ofEditing() {
+        CEditTSDlg dialog({});
+        DialogDriver driver(dialog);
+        driver.click("&Signal to Noise Ratio Threshold:");
+        driver.click("Minimum S&NR value:");
+        typeThreshold(driver, "Minimum S&NR value:", "7.5");
+        driver.click("&Velocity Threshold:");
+        driver.type("Clean up | Vx,y,z |  > ", "-4");
+        driver.click("&Remove bad sample from the time series");
+        QVERIFY(driver.accepted());
+        const EditingSettings values = dialog.values();
+        QVERIFY(!values.correlation.on && values.signalToNoise.on);
+        QCOMPARE(values.signalToNoise.threshold(), 7.5);
+        QCOMPARE(values.signalToNoise.averageThreshold, 10.0);
+        QVERIFY(values.velocityTest && !values.spikeFilter);
+        QCOMPARE(values.velocityThreshold, -4.0);
+        QCOMPARE(values.treatment, BadSampleTreatment::Remove);
+    }
+
+    void ofFiltersWhoseWidthIsSteppedInWholeSeconds() {
+        FilterSettings settings;
+        settings.halfWidth = 2.75;
+        CFilterDlg dialog(settings);
+        DialogDriver driver(dialog);
+        driver.moveUpDown(1);
+        QCOMPARE(driver.text("Digital filter half &width [sec] :"), QStringLiteral("3.00"));
+        driver.moveUpDown(-5);
+        driver.click("&Gaussian-shaped");
+        driver.type("&Cutoff frequency [Hz]:", "0");
+        REFUSED(driver, "The filter width should be grater than 0!");
+        driver.moveUpDown(2);
+        // Also for the shapes that do not use it.
+        driver.click("&Rectangle (averaging)");
+        REFUSED(driver, "The cutoff frequency should be grater than 0!");
+        driver.click("&Gaussian-shaped");
+        driver.type("&Cutoff frequency [Hz]:", "-2");
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().halfWidth, 2.0);
+        QCOMPARE(dialog.values().cutoff, -2.0);
+        QCOMPARE(dialog.values().shape, FilterShape::Gaussian);
+        QCOMPARE(dialog.values().type, FilterType::LowPass);
+    }
+
+    void ofSpectraWhereAClickDecidesHowTheNumberIsRead() {
+        SpectralSettings settings;
+        settings.truncationMode = 1;
+        settings.lags = 40;
+        settings.percentFlag = false;
+        CSpAnalDlg dialog(settings);
+        DialogDriver driver(dialog);
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().truncationMode, 1);
+        QVERIFY2(dialog.values().percentFlag, "a lags mode reopened untouched is read as a percentage");
+        driver.click("&Number of Lags");
+        driver.moveUpDown(2);
+        QVERIFY(driver.accepted());
+        QVERIFY(!dialog.values().percentFlag);
+        QCOMPARE(dialog.values().lags, 42);
+        lagsField(dialog)->setText(QStringLiteral("9999"));
+        driver.moveUpDown(3);
+        QTest::keyClick(lagsField(dialog), Qt::Key_Down);
+        QCOMPARE(lagsField(dialog)->text(), QStringLiteral("9999"));
+        lagsField(dialog)->setText(QStringLiteral("many"));
+        driver.click("&Percent of Time Series Length");
+        dialog.findChild<QSlider*>()->setValue(33);
+        driver.click("P&arzen");
+        driver.click("Ra&d/s");
+        QVERIFY2(driver.accepted(), "a field that is off refuses nothing");
+        QVERIFY(dialog.values().percentFlag);
+        QCOMPARE(dialog.values().percent, 33);
+        QCOMPARE(dialog.values().lags, 42);
+        QCOMPARE(dialog.values().windowButton, 3);
+        QCOMPARE(dialog.values().unitButton, 0);
+    }
+
+    void ofSimulationsAtTheEndsOfTheirRanges() {
+        CSimulateDlg dialog({});
+        DialogDriver driver(dialog);
+        driver.click("&White Noise:");
+        driver.type("&File Name:", "wave 1");
+        driver.type("&Sampling Interval:", "100");
+        driver.type("Time Series &Length:", "0.08");
+        driver.type("&Variance:", "-4");
+        driver.type("Perio&d:", "1e-7");
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().fileName, std::string("wave 1"));
+        QCOMPARE(dialog.values().samplingInterval, 100.0);
+        QCOMPARE(dialog.values().length, 0.08);
+        QCOMPARE(dialog.values().components[0].noiseVariance, -4.0);
+        QCOMPARE(dialog.values().components[0].harmonics[0].period, 1e-7);
+        QVERIFY(dialog.values().whiteNoise);
+    }
+
+    void ofComponentsRoundedWhenAnotherOneIsChosen() {
+        CSimulateDlg dialog({});
+        DialogDriver driver(dialog);
+        driver.type("&Phase:", "ninety");
+        choose(driver, 2);
+        QCOMPARE(driver.boxes.size(), std::size_t{1});
+        QCOMPARE(driver.field<QComboBox>("Componen&t:")->currentIndex(), 0);
+        driver.type("&Phase:", "90");
+        driver.type("&Mean Velocities:", "12.3456");
+        driver.type("Perio&d:", "0.004");
+        choose(driver, 1);
+        driver.type("&Mean Velocities:", "-7");
+        choose(driver, 0);
+        QCOMPARE(driver.text("&Mean Velocities:"), QStringLiteral("12.35"));
+        // The small period is lost as soon as it has been shown again, and now its range is checked.
+        REFUSED(driver, "Please enter a number between 1e-07 and 1e+07.");
+        choose(driver, 2);
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().components[0].meanVelocity, 12.35);
+        QCOMPARE(dialog.values().components[0].harmonics[0].period, 0.0);
+        QCOMPARE(dialog.values().components[1].meanVelocity, -7.0);
+    }
+
+    void ofHarmonicsThatFollowTheirNumber() {
+        CSimulateDlg dialog({});
+        DialogDriver driver(dialog);
+        driver.moveUpDown(1);
+        QVERIFY(driver.shows("Harmonic # 1"));
+        driver.type("&Harmonics Number:", "3");
+        driver.type("&Amplitude:", "1.005");
+        driver.moveUpDown(1);
+        driver.type("&Amplitude:", "2");
+        driver.moveUpDown(5);
+        QVERIFY(driver.shows("Harmonic # 3"));
+        driver.type("&Amplitude:", "333");
+        REFUSED(driver, "Please enter a number between -200 and 200.");
+        // Out of sight it is not checked.
+        driver.moveUpDown(-1);
+        QVERIFY(driver.accepted());
+        const auto& harmonics = dialog.values().components[0].harmonics;
+        QCOMPARE(harmonics.size(), std::size_t{3});
+        QCOMPARE(harmonics[0].amplitude, 1.005);
+        QCOMPARE(harmonics[1].amplitude, 2.0);
+        QCOMPARE(harmonics[2].amplitude, 333.0);
+        QCOMPARE(dialog.values().components[2].harmonics.size(), std::size_t{3});
+        driver.type("&Harmonics Number:", "1");
+        QVERIFY(driver.accepted());
+        QVERIFY(driver.shows("Harmonic # 1"));
+        QCOMPARE(dialog.values().components[0].harmonics.size(), std::size_t{1});
+    }
+};
+
+QTEST_MAIN(DialogsValues)
+#include "dialogsValues.moc"
