@@ -62,8 +62,8 @@ TEST(Exports, AreTheApprovedOnes) {
     for (const ExportKindInfo& info : exportKinds()) {
         all += kindAndText(info, " of one probe", exported(info.kind, probe));
         if (info.dialog == ExportDialog::Options) {
-            all += kindAndText(info, " with header, time values and commas",
-                               exported(info.kind, probe, kHeaderTimeComma));
+            all +=
+                kindAndText(info, " with header, time values and commas", exported(info.kind, probe, kHeaderTimeComma));
         } else {
             all += kindAndText(info, " of all probes", exported(info.kind, probe, {}, true));
         }

@@ -14,10 +14,10 @@ namespace {
 
 using test::asText;
 using test::Bytes;
-using test::WorkspaceImage;
 using test::slurp;
 using test::spill;
 using test::TempFolder;
+using test::WorkspaceImage;
 
 class WorkspaceFile : public testing::Test {
   protected:
