@@ -6,6 +6,7 @@
 #include "batch/Subcommands.h"
 #include "batch/TextValues.h"
 #include "io/DelimitedTable.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -28,7 +29,7 @@ SAdvProbe readProbe(const std::string& path, const ImportOptions& options, std::
     try {
         const DelimitedTable table = readDelimitedTable(path, options.table);
         for (const std::string& column : table.unused) {
-            console.complain(path + ": column \"" + nameAsUtf8(column) + "\" is not used");
+            console.complain(path + ": column \"" + utf8Text(column) + "\" is not used");
         }
         ImportSettings settings = options.settings;
         settings.probeNumber = number;

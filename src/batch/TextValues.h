@@ -32,7 +32,4 @@ inline constexpr const char* kPictureSizeFault = "must be a width and a height o
 /// "1200x900"; nothing unless both sides lie in 1..kLargest.
 std::optional<PictureSize> parsePictureSize(std::string_view text);
 
-/// A name of unknown encoding as UTF-8: unchanged when it is UTF-8 already, else read as Windows-1252.
-std::string nameAsUtf8(const std::string& bytes);
-
 }  // namespace vorlan

@@ -7,7 +7,6 @@
 
 #include "analysis/EditingAssessment.h"
 #include "analysis/RotationSettings.h"
-#include "batch/TextValues.h"
 #include "model/ProbeInformation.h"
 #include "model/Text.h"
 
@@ -42,7 +41,7 @@ Json probeAsJson(const SAdvProbe& probe) {
     json["samples"] = SAdvProbe::ColumnLength(probe.sampledTables[SAdvProbe::kVelocities]);
     json["workingSamples"] = probe.WorkingSamples();
     json["interval"] = probe.samplingInterval;
-    json["title"] = nameAsUtf8(probe.title);
+    json["title"] = utf8Text(probe.title);
     json["zoomMode"] = probe.zoomMode;
     json["useAllSamples"] = probe.useAllSamples;
     json["validSamples"] = validSamples(probe);
@@ -124,7 +123,7 @@ std::string probeAsText(const SAdvProbe& probe, const WorkspaceSettings& setting
     std::string text = "  " + probeListText(probe) + ": " + plural(samples, "sample") +
                        formatted(" at %g s (%g s)", probe.samplingInterval, samples * probe.samplingInterval) + "\n";
     if (!probe.title.empty()) {
-        text += "    " + nameAsUtf8(probe.title) + "\n";
+        text += "    " + utf8Text(probe.title) + "\n";
     }
     text += "    Working record: " + plural(working, "sample") + ", " + std::to_string(validSamples(probe)) + " valid" +
             (probe.UsesAllSamples() ? "" : "; only those are used") + "\n";
@@ -151,7 +150,7 @@ int validSamples(const SAdvProbe& probe) {
 
 std::string summaryAsJson(const Workspace& workspace, const std::string& version) {
     Json json;
-    json["version"] = nameAsUtf8(version);
+    json["version"] = utf8Text(version);
     json["activeFile"] = workspace.settings.activeFile;
     json["activeProbe"] = workspace.settings.activeProbe;
     json["files"] = Json::array();
@@ -160,21 +159,21 @@ std::string summaryAsJson(const Workspace& workspace, const std::string& version
         for (const SAdvProbe& probe : file.probes) {
             probes.push_back(probeAsJson(probe));
         }
-        json["files"].push_back({{"name", nameAsUtf8(file.fileName)}, {"probes", std::move(probes)}});
+        json["files"].push_back({{"name", utf8Text(file.fileName)}, {"probes", std::move(probes)}});
     }
     return json.dump(2) + "\n";
 }
 
 std::string summaryAsText(const Workspace& workspace, const std::string& version, const std::string& name) {
     std::string text =
-        name + ": " + nameAsUtf8(version) + ", " + plural(workspace.dataFiles.files.GetSize(), "data file");
+        name + ": " + utf8Text(version) + ", " + plural(workspace.dataFiles.files.GetSize(), "data file");
     if (!workspace.boundaries.IsEmpty()) {
         text += ", " + plural(workspace.boundaries.GetSize(), "boundary file");
     }
     text += "\n";
     int number = 0;
     for (const SAdvFile& file : workspace.dataFiles.files) {
-        text += "\nData file " + std::to_string(++number) + ": " + nameAsUtf8(file.fileName) + "\n";
+        text += "\nData file " + std::to_string(++number) + ": " + utf8Text(file.fileName) + "\n";
         for (const SAdvProbe& probe : file.probes) {
             text += probeAsText(probe, workspace.settings);
         }

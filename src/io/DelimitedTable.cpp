@@ -1,13 +1,13 @@
 #include "io/DelimitedTable.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <memory>
 
 #include "io/ReadFile.h"
 #include "io/TableText.h"
+#include "model/ParseNumber.h"
 #include "model/StoreValue.h"
 #include "model/Text.h"
 
@@ -83,11 +83,8 @@ Reading readNumber(std::string_view field, double& value) {
     if (field.empty()) {
         return Reading::Missing;
     }
-    if (field.size() > 1 && field[0] == '+' && field[1] != '-') {
-        field.remove_prefix(1);
-    }
-    const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
-    if (error == std::errc::invalid_argument || end != field.data() + field.size()) {
+    const std::errc error = parseNumber(field, value);
+    if (error == std::errc::invalid_argument) {
         return Reading::NoNumber;
     }
     if (error != std::errc()) {

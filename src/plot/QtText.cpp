@@ -4,10 +4,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Text.h"
+
 namespace vorlan {
 
 QFont qtFont(const FontDescription& font, double scale) {
-    QFont result(QString::fromStdString(font.face()));
+    QFont result(QString::fromStdString(utf8Text(font.face())));
     result.setStyleHint(QFont::SansSerif);
     result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale))));
     const int weight = font.weight();

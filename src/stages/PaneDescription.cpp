@@ -4,6 +4,7 @@
 
 #include "model/DefaultFrames.h"
 #include "model/Errors.h"
+#include "stages/PaneTexts.h"
 #include "stages/StagePanes.h"
 
 namespace vorlan {
@@ -27,8 +28,10 @@ PaneContent describePane(const PaneRequest& request) {
         return {};
     }
     try {
-        return kDescribers[static_cast<std::size_t>(request.stage)](
+        PaneContent content = kDescribers[static_cast<std::size_t>(request.stage)](
             request, probeAt(request.workspace.dataFiles, request.file, request.probe));
+        decodeTexts(content);
+        return content;
     } catch (const std::logic_error&) {
         // A pane is described while it is painted, where nobody could tell the user.
         return PaneMessage{InvalidArgument().what()};

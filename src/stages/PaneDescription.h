@@ -23,7 +23,8 @@ struct PaneRequest {
 
 /// What the pane shows: window, printer, clipboard and files all draw this. Nothing when file or probe name no probe,
 /// except for the plans and the table that span all files. The workspace is only read: missing frame attributes
-/// are supplied as defaults. Never throws for a damaged workspace: what cannot be described is a message.
+/// are supplied as defaults; its texts come as UTF-8. Never throws for a damaged workspace: what cannot be described is
+/// a message.
 PaneContent describePane(const PaneRequest& request);
 
 /// The stored attributes of a slot, or its defaults while nothing is stored. probe may be null for slots of the set.

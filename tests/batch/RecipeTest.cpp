@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "batch/TextValues.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -58,14 +59,14 @@ TEST(TextValues, NumbersAreWholeTextsWithAPoint) {
     }
 }
 
-TEST(TextValues, NamesAreUtf8OrElseWindows1252) {
-    EXPECT_EQ(nameAsUtf8("Fl\xC3\xBCgel \xF0\x9F\x8C\x8A"), "Fl\xC3\xBCgel \xF0\x9F\x8C\x8A");
-    EXPECT_EQ(nameAsUtf8("Fl\xFCgel \x80\x96"), "Fl\xC3\xBCgel \xE2\x82\xAC\xE2\x80\x93");
+TEST(Text, IsUtf8OrElseWindows1252) {
+    EXPECT_EQ(utf8Text("Fl\xC3\xBCgel \xF0\x9F\x8C\x8A"), "Fl\xC3\xBCgel \xF0\x9F\x8C\x8A");
+    EXPECT_EQ(utf8Text("Fl\xFCgel \x80\x96"), "Fl\xC3\xBCgel \xE2\x82\xAC\xE2\x80\x93");
     // Cut, overlong, surrogate and too large sequences are no UTF-8.
-    EXPECT_EQ(nameAsUtf8("\xC3"), "\xC3\x83");
-    EXPECT_EQ(nameAsUtf8("\xC0\xAF"), "\xC3\x80\xC2\xAF");
-    EXPECT_EQ(nameAsUtf8("\xED\xA0\x80"), "\xC3\xAD\xC2\xA0\xE2\x82\xAC");
-    EXPECT_EQ(nameAsUtf8("\xF4\x90\x80\x80").substr(0, 2), "\xC3\xB4");
+    EXPECT_EQ(utf8Text("\xC3"), "\xC3\x83");
+    EXPECT_EQ(utf8Text("\xC0\xAF"), "\xC3\x80\xC2\xAF");
+    EXPECT_EQ(utf8Text("\xED\xA0\x80"), "\xC3\xAD\xC2\xA0\xE2\x82\xAC");
+    EXPECT_EQ(utf8Text("\xF4\x90\x80\x80").substr(0, 2), "\xC3\xB4");
 }
 
 }  // namespace

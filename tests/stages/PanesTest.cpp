@@ -245,6 +245,21 @@ TEST(Panes, ShowWhatWasChanged) {
     EXPECT_EQ(changeOfApproved("panes-changed", all), "");
 }
 
+TEST(Panes, ShowTextsOfOneBytePerCharacterAsUtf8) {
+    Workspace workspace = analysed();
+    FrameAttributesType& frame = workspace.dataFiles.frameAttributes.GrowTo(0);
+    frame.plotTitle = "Fl\xFCgel";
+    frame.xTitle = "\xB0";
+    frame.yTitle = "\xE9";
+    frame.legendTitle = "\xD6l";
+    workspace.dataFiles.files.ElementAt(0).fileName = "M\xFCll";
+    const auto shown = [&](Pane pane) { return describePane({workspace, 0, 0, Stage::MeanVelocityVectors, pane}); };
+    const FrameAttributesType titles = std::get<Diagram>(shown(Pane::LeftTop)).frame;
+    EXPECT_EQ(titles.plotTitle + titles.xTitle + titles.yTitle + titles.legendTitle,
+              "Fl\xC3\xBCgel\xC2\xB0\xC3\xA9\xC3\x96l");
+    EXPECT_EQ(std::get<TableContent>(shown(Pane::RightBottom)).rows[0].title, "M\xC3\xBCll, probe 1");
+}
+
 TEST(Panes, NeedWhatTheyShow) {
     const Workspace workspace = analysed();
     const Workspace before = workspace;

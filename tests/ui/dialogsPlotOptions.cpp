@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QListWidget>
 
+#include "plot/QtText.h"
 #include "ui/DialogDriver.h"
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/FontConversion.h"
@@ -244,7 +245,6 @@ class DialogsPlotOptions : public QObject {
         QCOMPARE(offered, FrameAttributesType().gridColour);
         QVERIFY(driver.accepted());
         QCOMPARE(dialog.values().gridColour, 1 + 256 * 2 + 65536 * 3);
-        QCOMPARE(platformColour(1 + 256 * 2 + 65536 * 3), QColor(1, 2, 3));
         CColorDlg colours(200 + 256 * 100);
         QCOMPARE(colours.values(), 200 + 256 * 100);
     }
@@ -255,7 +255,7 @@ class DialogsPlotOptions : public QObject {
         CFontDlg untouched(stored);
         QVERIFY(untouched.values() == stored);
 
-        const QFont opened = platformFont(stored);
+        const QFont opened = qtFont(stored, 1.0);
         QCOMPARE(opened.pixelSize(), 12);
         QCOMPARE(static_cast<int>(opened.weight()), 650);
         QFont bold = opened;

@@ -7,8 +7,7 @@
 
 namespace vorlan {
 
-/// A stored colour, red + 256 green + 65536 blue, and the platform's.
-QColor platformColour(std::int32_t word);
+/// The stored colour, red + 256 green + 65536 blue, of the platform's.
 std::int32_t colourWord(const QColor& colour);
 
 /// The platform's colour dialog on a stored colour.

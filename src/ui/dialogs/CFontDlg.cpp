@@ -2,13 +2,14 @@
 
 #include <QFontInfo>
 
+#include "plot/QtText.h"
 #include "ui/dialogs/FontConversion.h"
 
 namespace vorlan {
 
 CFontDlg::CFontDlg(const FontDescription& font, QWidget* parent) : QFontDialog(parent), before_(font) {
     // A family that is not installed opens on the one that is drawn in its place.
-    QFont shown = platformFont(font);
+    QFont shown = qtFont(font, 1.0);
     shown.setFamily(QFontInfo(shown).family());
     setCurrentFont(shown);
     // The dialog settles on an installed family and a whole point size: those are no choice of the user.

@@ -11,6 +11,8 @@
 #include <algorithm>
 
 #include "model/FrameLimits.h"
+#include "plot/PaintSeries.h"
+#include "plot/QtText.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 #include "ui/dialogs/FontConversion.h"
@@ -41,7 +43,7 @@ FontDescription& fontOfRow(FrameAttributesType& frame, int row) {
 
 // Large letters must not drive the dialog off the screen.
 QFont previewFont(const FontDescription& description) {
-    QFont font = platformFont(description);
+    QFont font = qtFont(description, 1.0);
     font.setPixelSize(std::min(font.pixelSize(), kLargestPreview));
     return font;
 }
@@ -105,7 +107,7 @@ void CPlotOptDlg::showFontText() {
 
 void CPlotOptDlg::showColour() {
     QPixmap swatch(16, 16);
-    swatch.fill(platformColour(chosen_.gridColour));
+    swatch.fill(colourOf(chosen_.gridColour));
     colour_->setIcon(swatch);
 }
 

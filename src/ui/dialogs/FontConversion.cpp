@@ -2,30 +2,10 @@
 
 #include <QFontInfo>
 #include <QStringList>
-#include <algorithm>
 
 #include "ui/dialogs/RawText.h"
 
 namespace vorlan {
-
-namespace {
-
-// 0 asks for the platform's normal weight.
-QFont::Weight platformWeight(int weight) {
-    return weight == 0 ? QFont::Normal : static_cast<QFont::Weight>(std::clamp(weight, 1, 1000));
-}
-
-}  // namespace
-
-QFont platformFont(const FontDescription& description) {
-    QFont font(displayText(description.face()));
-    font.setPixelSize(description.pixelSize());
-    font.setWeight(platformWeight(description.weight()));
-    font.setItalic(description.italic());
-    font.setUnderline(description.underline());
-    font.setStrikeOut(description.strikeOut());
-    return font;
-}
 
 QString fontText(const FontDescription& description) {
     constexpr int kBoldFrom = 600;

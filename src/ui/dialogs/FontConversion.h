@@ -6,9 +6,6 @@
 
 namespace vorlan {
 
-/// The platform's font for a stored description.
-QFont platformFont(const FontDescription& description);
-
 /// Face, size and style in words: "ARIAL, 12 px, bold italic".
 QString fontText(const FontDescription& description);
 

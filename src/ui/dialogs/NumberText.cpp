@@ -1,9 +1,9 @@
 #include "ui/dialogs/NumberText.h"
 
-#include <charconv>
 #include <cmath>
 #include <string>
 
+#include "model/ParseNumber.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -12,18 +12,8 @@ namespace {
 
 template <typename Value>
 std::optional<Value> parsed(const QString& text) {
-    std::string digits = text.trimmed().toStdString();
-    const bool plus = digits.starts_with('+') && !digits.starts_with("+-");
-    if (plus) {
-        digits.erase(0, 1);
-    }
     Value value{};
-    const char* end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, value);
-    if (error != std::errc{} || stop != end) {
-        return std::nullopt;
-    }
-    return value;
+    return parseNumber(text.trimmed().toStdString(), value) == std::errc{} ? std::optional(value) : std::nullopt;
 }
 
 }  // namespace
