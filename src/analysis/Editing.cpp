@@ -8,6 +8,7 @@
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/StageTable.h"
 #include "model/StoreValue.h"
 #include "model/Text.h"
 
@@ -96,16 +97,12 @@ double surelySmall(double threshold, double interval) {
 
 /// Forgets the stages whose results are of all samples, once bad samples are left out.
 void removeMarkedStages(SAdvProbe& probe) {
-    constexpr std::array<std::pair<DoneMark, Stage>, 4> kStages = {{{DoneMark::Stationarity, Stage::Stationarity},
-                                                                    {DoneMark::Spectral, Stage::Spectral},
-                                                                    {DoneMark::CrossSpectral, Stage::CrossSpectral},
-                                                                    {DoneMark::Quadrants, Stage::Quadrants}}};
-    for (const auto& [mark, stage] : kStages) {
-        if (!probe.IsDone(mark)) {
+    for (const StageRow& row : stageTable()) {
+        if (!row.forgottenOnRemoval || !probe.IsDone(*row.mark)) {
             continue;
         }
-        probe.SetDone(mark, false);
-        const int tab = probe.tabItems.LastIndexOfStage(static_cast<int>(stage));
+        probe.SetDone(*row.mark, false);
+        const int tab = probe.tabItems.LastIndexOfStage(static_cast<int>(row.stage));
         if (tab < 0) {
             continue;
         }

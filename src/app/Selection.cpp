@@ -1,14 +1,8 @@
 // The document's selection: data file, probe, stage, physical value, active view.
 #include "app/CVorl_ADVDoc.h"
+#include "model/StageTable.h"
 
 namespace vorlan {
-
-namespace {
-
-// Display switch by stage number: the stages with four diagrams have no table to show.
-constexpr std::array<int, kStageCount> kDisplaySwitch = {1, 0, 1, 1, 1, 0, 0};
-
-}  // namespace
 
 int CVorl_ADVDoc::ActiveFile() const {
     const int index = workspace_.settings.activeFile;
@@ -55,9 +49,8 @@ int CVorl_ADVDoc::ShownTab() const {
 int CVorl_ADVDoc::StageCode() const {
     const int tab = ShownTab();
     if (tab >= 0) {
-        const std::uint32_t stage = Probe().tabItems.GetAt(tab).imageIndex;
-        if (stage < static_cast<std::uint32_t>(kStageCount)) {
-            return static_cast<int>(stage) + 1;
+        if (const StageRow* row = stageNumbered(Probe().tabItems.GetAt(tab).imageIndex)) {
+            return static_cast<int>(row->stage) + 1;
         }
     }
     return workspace_.settings.choiceA;
@@ -65,16 +58,17 @@ int CVorl_ADVDoc::StageCode() const {
 
 bool CVorl_ADVDoc::ShowsTable() const {
     const int code = StageCode();
-    if (code != workspace_.settings.choiceA && code >= 1 && code <= kStageCount) {
+    const StageRow* row = stageNumbered(std::int64_t{code} - 1);
+    if (code != workspace_.settings.choiceA && row != nullptr) {
         // Tab and switch were stored for different stages: the switch of the shown stage is its own.
-        return kDisplaySwitch[static_cast<std::size_t>(code - 1)] == 1;
+        return row->opensWithTable();
     }
     return workspace_.settings.displaySwitch == 1;
 }
 
 Stage CVorl_ADVDoc::CurrentStage() const {
-    const int code = StageCode();
-    return code >= 1 && code <= kStageCount ? static_cast<Stage>(code - 1) : Stage::PreProcessing;
+    const StageRow* row = stageNumbered(std::int64_t{StageCode()} - 1);
+    return row != nullptr ? row->stage : Stage::PreProcessing;
 }
 
 PhysicalValue CVorl_ADVDoc::CurrentValue() const {
@@ -98,7 +92,7 @@ void CVorl_ADVDoc::SelectFile(int index) {
         return;
     }
     TestSelectionChange();
-    Tell(Change::Selection);
+    Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::SelectProbe(int index) {
@@ -114,7 +108,7 @@ void CVorl_ADVDoc::SelectProbe(int index) {
 void CVorl_ADVDoc::SelectStage(int tabIndex) {
     StoreStageOfTab(tabIndex);
     TestSelectionChange();
-    Tell(Change::Selection);
+    Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::StoreStageOfTab(int tabIndex) {
@@ -128,10 +122,9 @@ void CVorl_ADVDoc::StoreStageOfTab(int tabIndex) {
     if (tabIndex < 0 || tabIndex >= tabs.GetSize()) {
         return;
     }
-    const std::uint32_t stage = tabs.GetAt(tabIndex).imageIndex;
-    if (stage < static_cast<std::uint32_t>(kStageCount)) {
-        settings.choiceA = static_cast<int>(stage) + 1;
-        settings.displaySwitch = kDisplaySwitch[stage];
+    if (const StageRow* row = stageNumbered(tabs.GetAt(tabIndex).imageIndex)) {
+        settings.choiceA = static_cast<int>(row->stage) + 1;
+        settings.displaySwitch = row->opensWithTable() ? 1 : 0;
     }
 }
 
@@ -143,7 +136,7 @@ void CVorl_ADVDoc::EnterStage(Stage stage) {
 
 void CVorl_ADVDoc::SelectPhysicalValue(PhysicalValue value) {
     workspace_.settings.physicalValue = static_cast<int>(value);
-    Tell(Change::Selection);
+    Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::SelectActivePane(Pane pane) {
@@ -156,7 +149,7 @@ void CVorl_ADVDoc::ShowTable(bool on) {
         StoreStageOfTab(ShownTab());
     }
     workspace_.settings.displaySwitch = on ? 1 : 0;
-    Tell(Change::Selection);
+    Tell(Change::Content);
 }
 
 bool CVorl_ADVDoc::TestSelectionChange() {
@@ -194,7 +187,7 @@ Outcome CVorl_ADVDoc::CloseFile() {
         settings.activeItem = -1;
     }
     SetModified();
-    Tell(Change::Workspace);
+    Tell(Change::Content);
     return Outcome::Done;
 }
 

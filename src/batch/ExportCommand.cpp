@@ -16,10 +16,6 @@ struct ExportArguments {
     int separator = 0;
 };
 
-constexpr const char* kKindHelp =
-    "What to write: velocities, stationarity, histograms, statistics,\nspectral, scales, stresses, stress-statistics, "
-    "cross-spectral,\ncontributions, times or patterns";
-
 void runExport(const ExportArguments& arguments, Console& console) {
     const std::string fault = faultOf(arguments.request);
     if (!fault.empty()) {
@@ -45,7 +41,9 @@ void runExport(const ExportArguments& arguments, Console& console) {
 Subcommand addExportCommand(CLI::App& program) {
     CLI::App* app = program.add_subcommand("export", "Write results as text, for other programs");
     const auto arguments = std::make_shared<ExportArguments>();
-    addChoice(*app, "KIND", arguments->kind, exportNames(), kKindHelp)->required()->type_name("");
+    addChoice(*app, "KIND", arguments->kind, exportNames(), choicesHelp("What to write", exportNames()))
+        ->required()
+        ->type_name("");
     app->add_option("--out", arguments->out, "The file to write; - is standard output")
         ->required()
         ->type_name("OUT.dat");

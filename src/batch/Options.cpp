@@ -107,6 +107,19 @@ CLI::Option* addChoice(CLI::App& app, const std::string& name, int& target, cons
         ->type_name("NAME");
 }
 
+std::string choicesHelp(const std::string& what, const std::vector<std::string>& choices) {
+    constexpr std::size_t kLineLength = 68;
+    std::string help;
+    std::size_t column = 0;
+    for (const std::string& word : splitText(what + ": " + listed(choices), ' ')) {
+        const bool fits = column + 1 + word.size() <= kLineLength;
+        help += help.empty() ? "" : fits ? " " : "\n";
+        column = fits ? column + 1 + word.size() : word.size();
+        help += word;
+    }
+    return help;
+}
+
 void addPlace(CLI::App& app, ProbePlace& place) {
     addNumber(app, "--file", place.file, "Data file, counted from 1");
     addNumber(app, "--probe", place.probe, "Probe in the data file, counted from 1");

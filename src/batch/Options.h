@@ -30,6 +30,9 @@ CLI::Option* addTriple(CLI::App& app, const std::string& name, std::array<double
 CLI::Option* addChoice(CLI::App& app, const std::string& name, int& target, const std::vector<std::string>& choices,
                        const std::string& help);
 
+/// Help of a choice with many names: "The stage: one, two or three", in lines that fit beside the options.
+std::string choicesHelp(const std::string& what, const std::vector<std::string>& choices);
+
 /// "--file N" and "--probe N", numbers from 1.
 void addPlace(CLI::App& app, ProbePlace& place);
 

@@ -17,9 +17,6 @@ struct RenderArguments {
     int value = 0;
 };
 
-constexpr const char* kStageHelp =
-    "The stage: pre-processing, stationarity, histograms, spectral,\nvectors, quadrants or cross-spectral";
-
 void runRender(RenderArguments& arguments, Console& console) {
     RenderRequest& request = arguments.request;
     request.stage = static_cast<Stage>(arguments.stage);
@@ -48,7 +45,9 @@ void runRender(RenderArguments& arguments, Console& console) {
 Subcommand addRenderCommand(CLI::App& program) {
     CLI::App* app = program.add_subcommand("render", "Draw a stage's diagrams into a picture");
     const auto arguments = std::make_shared<RenderArguments>();
-    addChoice(*app, "--stage", arguments->stage, stageNames(), kStageHelp)->required()->type_name("STAGE");
+    addChoice(*app, "--stage", arguments->stage, stageNames(), choicesHelp("The stage", stageNames()))
+        ->required()
+        ->type_name("STAGE");
     addChoice(*app, "--pane", arguments->pane, paneNames(),
               "One pane: " + listed(paneNames()) + ";\nall four without it")
         ->type_name("PANE");

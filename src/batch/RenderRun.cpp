@@ -9,6 +9,7 @@
 #include "batch/BatchError.h"
 #include "batch/Console.h"
 #include "batch/WorkspaceAccess.h"
+#include "model/StageTable.h"
 #include "plot/RenderFile.h"
 #include "stages/PaneDescription.h"
 
@@ -42,8 +43,13 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 }  // namespace
 
 const std::vector<std::string>& stageNames() {
-    static const std::vector<std::string> names = {"pre-processing", "stationarity", "histograms",    "spectral",
-                                                   "vectors",        "quadrants",    "cross-spectral"};
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> list;
+        for (const StageRow& row : stageTable()) {
+            list.emplace_back(row.name);
+        }
+        return list;
+    }();
     return names;
 }
 
@@ -99,9 +105,9 @@ Renderer::~Renderer() = default;
 std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& request) {
     // The plans show what every probe has; the other stages exist once they were run.
     const bool selected = selectStage(document, request.stage);
-    if (!selected && request.stage != Stage::MeanVelocityVectors && request.stage != Stage::PreProcessing) {
-        throw refusal(std::string("this probe has no stage \"") + kStageTexts[static_cast<std::size_t>(request.stage)] +
-                      "\" yet");
+    const StageRow& row = stageRow(request.stage);
+    if (!selected && row.mark && !row.spansAllFiles()) {
+        throw refusal(std::string("this probe has no stage \"") + row.text + "\" yet");
     }
     std::vector<PaneContent> panes;
     for (int pane = 0; pane < kPaneCount; ++pane) {

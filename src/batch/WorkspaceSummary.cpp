@@ -8,6 +8,7 @@
 #include "analysis/EditingAssessment.h"
 #include "analysis/RotationSettings.h"
 #include "model/ProbeInformation.h"
+#include "model/StageTable.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -19,9 +20,6 @@ using Json = nlohmann::ordered_json;
 constexpr const char* kVelocityNames[] = {"u", "v", "w"};
 constexpr const char* kStressNames[] = {"u'v'", "u'w'", "v'w'"};
 constexpr const char* kWindowNames[] = {"rectangle", "Tukey", "Bartlett", "Parzen"};
-// Stages by done mark; pre-processing has none.
-constexpr Stage kMarkedStages[kDoneMarkCount] = {Stage::Stationarity,        Stage::Histograms,    Stage::Spectral,
-                                                 Stage::MeanVelocityVectors, Stage::CrossSpectral, Stage::Quadrants};
 
 // The library writes what is not finite as null.
 Json momentsAsJson(const Moments& m) {
@@ -76,7 +74,7 @@ std::string stagesText(const SAdvProbe& probe) {
             continue;
         }
         text += text.empty() ? "" : ", ";
-        text += kStageTexts[static_cast<std::size_t>(kMarkedStages[mark])];
+        text += stageOfMark(static_cast<DoneMark>(mark)).text;
         if (static_cast<DoneMark>(mark) == DoneMark::Spectral) {
             text += spectralText(probe);
         }

@@ -1,30 +1,25 @@
 #include "model/FrameSlot.h"
 
 #include "model/DefaultFrames.h"
+#include "model/StageTable.h"
 
 namespace vorlan {
 
 std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value, bool showTable) {
-    const int group = static_cast<int>(stage);
     const int record = static_cast<int>(pane);
-    const FrameSlot own{false, group, record};
-    switch (stage) {
-        case Stage::PreProcessing:
-            if (pane == Pane::LeftTop && value == PhysicalValue::Stresses) {
-                return FrameSlot{false, kStressFrameGroup, 0};
-            }
-            [[fallthrough]];
-        case Stage::Histograms:
-            return pane == Pane::RightBottom && showTable ? std::nullopt : std::optional(own);
-        case Stage::Spectral:
-            return pane == Pane::RightBottom ? std::nullopt : std::optional(own);
-        case Stage::MeanVelocityVectors:
-            return pane == Pane::LeftTop || pane == Pane::LeftBottom ? std::optional(FrameSlot{true, 0, record})
-                                                                     : std::nullopt;
-        case Stage::Stationarity:
-        case Stage::Quadrants:
-        case Stage::CrossSpectral:
+    const FrameSlot own{false, static_cast<int>(stage), record};
+    switch (stageRow(stage).pane(pane)) {
+        case PaneKind::Diagram:
             return own;
+        case PaneKind::RecordDiagram:
+            return value == PhysicalValue::Stresses ? FrameSlot{false, kStressFrameGroup, record} : own;
+        case PaneKind::Plan:
+            return FrameSlot{true, 0, record};
+        case PaneKind::TableOrDiagram:
+            return showTable ? std::nullopt : std::optional(own);
+        case PaneKind::Table:
+        case PaneKind::Text:
+            break;
     }
     return std::nullopt;
 }

@@ -1,8 +1,7 @@
 #include "model/PageAttributes.h"
 
-#include <array>
-
 #include "model/Archive.h"
+#include "model/StageTable.h"
 
 namespace vorlan {
 
@@ -45,9 +44,8 @@ void SPageAtrArray::Serialize(Archive& archive) {
 }
 
 int pageRecordOfStageCode(int choiceA) {
-    // The last three are reversed in every workspace's page block.
-    constexpr std::array<int, 8> records = {0, 0, 1, 2, 3, 6, 5, 4};
-    return choiceA >= 0 && choiceA < 8 ? records[static_cast<std::size_t>(choiceA)] : 0;
+    const StageRow* row = stageNumbered(std::int64_t{choiceA} - 1);
+    return row != nullptr ? row->pageRecord : 0;
 }
 
 }  // namespace vorlan

@@ -1,7 +1,7 @@
 #include "model/STabsArray.h"
 
 #include "model/Archive.h"
-#include "model/Stages.h"
+#include "model/StageTable.h"
 
 namespace vorlan {
 
@@ -19,8 +19,8 @@ void STabsArray::Serialize(Archive& archive) {
         archive.value(item.imageIndex);
         archive.value(item.parameter);
         if (archive.isLoading()) {
-            if (item.imageIndex < static_cast<std::uint32_t>(kStageCount)) {
-                item.text = kStageTexts[item.imageIndex];
+            if (const StageRow* row = stageNumbered(item.imageIndex)) {
+                item.text = row->text;
             } else if (i > 0) {
                 item.text = items()[i - 1].text;
             }
@@ -47,7 +47,8 @@ int STabsArray::LastIndexOfStage(int stage) const {
 }
 
 int STabsArray::AppendStage(int stage) {
-    if (stage < 0 || stage >= kStageCount) {
+    const StageRow* row = stageNumbered(stage);
+    if (row == nullptr) {
         throw InvalidArgument();
     }
     const int present = IndexOfStage(stage);
@@ -57,7 +58,7 @@ int STabsArray::AppendStage(int stage) {
     TabItem item;
     item.imageIndex = static_cast<std::uint32_t>(stage);
     item.parameter = item.imageIndex;
-    item.text = kStageTexts[static_cast<std::size_t>(stage)];
+    item.text = row->text;
     Add(item);
     return GetSize() - 1;
 }

@@ -18,11 +18,6 @@ enum class Stage : int {
 
 inline constexpr int kStageCount = 7;
 
-/// Tab texts by stage number; the spelling is the system's own.
-inline constexpr std::array<const char*, kStageCount> kStageTexts = {
-    "Pre-Processing",    "Stationarity",           "Histograms", "Spectral Analysis", "Mean Velocity Vectors",
-    "Qudrants Analysis", "Cross-Spectral Analysis"};
-
 /// Entries of SAdvProbe::stageDone.
 enum class DoneMark : int {
     Stationarity = 0,

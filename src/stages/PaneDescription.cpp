@@ -11,12 +11,6 @@ namespace vorlan {
 
 namespace {
 
-/// By stage number.
-constexpr std::array<StageDescriber, kStageCount> kDescribers = {
-    describePreProcessing, describeStationarity, describeHistograms,   describeSpectra,
-    describeVectors,       describeQuadrants,    describeCrossSpectra,
-};
-
 bool isStage(Stage stage) {
     return static_cast<int>(stage) >= 0 && static_cast<int>(stage) < kStageCount;
 }
@@ -28,8 +22,8 @@ PaneContent describePane(const PaneRequest& request) {
         return {};
     }
     try {
-        PaneContent content = kDescribers[static_cast<std::size_t>(request.stage)](
-            request, probeAt(request.workspace.dataFiles, request.file, request.probe));
+        PaneContent content = stageView(request.stage)
+                                  .describe(request, probeAt(request.workspace.dataFiles, request.file, request.probe));
         decodeTexts(content);
         return content;
     } catch (const std::logic_error&) {

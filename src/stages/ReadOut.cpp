@@ -2,42 +2,15 @@
 #include <algorithm>
 
 #include "model/Text.h"
-#include "stages/PaneDescription.h"
+#include "stages/StagePanes.h"
 
 namespace vorlan {
 
 namespace {
 
-enum class Quantity { Velocity, Stress, Correlation, Time, Lag, Nothing };
-
-Quantity quantityOf(Stage stage, Pane pane, PhysicalValue value) {
-    switch (stage) {
-        case Stage::PreProcessing:
-            if (pane != Pane::LeftTop) {
-                return Quantity::Time;
-            }
-            return value == PhysicalValue::Stresses ? Quantity::Stress : Quantity::Velocity;
-        case Stage::Stationarity:
-            return Quantity::Time;
-        case Stage::Spectral:
-            return pane == Pane::LeftTop    ? Quantity::Correlation
-                   : pane == Pane::RightTop ? Quantity::Lag
-                                            : Quantity::Nothing;
-        case Stage::Quadrants:
-            return pane == Pane::LeftBottom || pane == Pane::RightBottom ? Quantity::Time : Quantity::Nothing;
-        case Stage::CrossSpectral:
-            return pane == Pane::LeftTop ? Quantity::Correlation : Quantity::Nothing;
-        case Stage::Histograms:
-        case Stage::MeanVelocityVectors:
-            break;
-    }
-    return Quantity::Nothing;
-}
-
 std::string axisText(Quantity quantity, double x) {
     switch (quantity) {
-        case Quantity::Velocity:
-        case Quantity::Stress:
+        case Quantity::Record:
         case Quantity::Time:
             return formatted("Time: %.2fs", x);
         case Quantity::Correlation:
@@ -55,17 +28,16 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
     if (!geometry.overXRange(px)) {
         return {};
     }
-    const Quantity quantity = quantityOf(stage, pane, value);
+    const Quantity quantity = stageView(stage).quantities.at(static_cast<std::size_t>(pane));
     const double x = geometry.xValue(px);
     if (!geometry.contains(px, py)) {
         return axisText(quantity, x);
     }
     const double y = geometry.yValue(py);
     switch (quantity) {
-        case Quantity::Velocity:
-            return formatted("Time: %.2f s   Velocity: %.2f cm/s", x, y);
-        case Quantity::Stress:
-            return formatted("Time: %.2f s   Stress: %.2f (cm/s)^2", x, y);
+        case Quantity::Record:
+            return value == PhysicalValue::Stresses ? formatted("Time: %.2f s   Stress: %.2f (cm/s)^2", x, y)
+                                                    : formatted("Time: %.2f s   Velocity: %.2f cm/s", x, y);
         case Quantity::Correlation:
             return formatted("Lag Time: %.2f s   Correlation : %.2f", x, y);
         default:

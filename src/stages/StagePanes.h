@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "stages/PaneDescription.h"
 
 namespace vorlan {
@@ -14,5 +16,22 @@ PaneContent describeSpectra(const PaneRequest& request, const SAdvProbe* probe);
 PaneContent describeVectors(const PaneRequest& request, const SAdvProbe* probe);
 PaneContent describeQuadrants(const PaneRequest& request, const SAdvProbe* probe);
 PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* probe);
+
+/// What the cursor reads off a diagram.
+enum class Quantity {
+    Record,  ///< time and the physical value
+    Correlation,
+    Time,
+    Lag,
+    Nothing,
+};
+
+/// How a stage is shown: who describes it, and what its panes are read for, in their order.
+struct StageView {
+    StageDescriber describe;
+    std::array<Quantity, kPaneCount> quantities;
+};
+
+const StageView& stageView(Stage stage);
 
 }  // namespace vorlan

@@ -14,6 +14,7 @@
 #include "analysis/Simulation.h"
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/Stationarity.h"
+#include "model/StageTable.h"
 #include "stages/PaneDescription.h"
 #include "stages/PaneText.h"
 
@@ -66,7 +67,7 @@ PaneTexts paneTexts(const Workspace& workspace) {
     PaneTexts texts;
     for (int stage = 0; stage < kStageCount; ++stage) {
         for (int pane = 0; pane < kPaneCount; ++pane) {
-            const std::string name = formatted("%d %s, %s", stage, kStageTexts.at(static_cast<std::size_t>(stage)),
+            const std::string name = formatted("%d %s, %s", stage, stageRow(static_cast<Stage>(stage)).text,
                                                kPaneTexts.at(static_cast<std::size_t>(pane)));
             for (const PhysicalValue value : kValues) {
                 for (const bool showTable : {false, true}) {
@@ -316,7 +317,7 @@ TEST(Panes, AreReadOut) {
             for (const PhysicalValue value : kValues) {
                 const auto s = static_cast<Stage>(stage);
                 const auto p = static_cast<Pane>(pane);
-                all += formatted("%s, %s%s\n", kStageTexts.at(static_cast<std::size_t>(stage)),
+                all += formatted("%s, %s%s\n", stageRow(static_cast<Stage>(stage)).text,
                                  kPaneTexts.at(static_cast<std::size_t>(pane)),
                                  value == PhysicalValue::Stresses ? ", stresses" : "");
                 const std::string lines[] = {readOut(s, p, value, g, 70, 110), readOut(s, p, value, g, 70, 160),
