@@ -22,7 +22,7 @@ Outcome CVorl_ADVDoc::Analyse(Stage stage, const ProbeOperation& analysis, int p
     if (outcome == Outcome::Done) {
         EnterStage(stage);
     }
-    Tell(outcome == Outcome::Done ? Change::Selection : Change::View);
+    Tell(outcome == Outcome::Done ? Change::Content : Change::View);
     return outcome;
 }
 

@@ -61,7 +61,7 @@ void CVorl_ADVDoc::NewWorkspace() {
     path_.clear();
     stamp_.reset();
     modified_ = false;
-    Tell(Change::Workspace);
+    Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
@@ -72,7 +72,7 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
     path_ = path;
     stamp_ = stamp;
     modified_ = false;
-    Tell(Change::Workspace);
+    Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::SaveWorkspace(const std::filesystem::path& path) {

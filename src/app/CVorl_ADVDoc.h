@@ -28,10 +28,8 @@ enum class Outcome { Done, Refused, Cancelled };
 
 /// What changed, for those who show it.
 enum class Change {
-    Workspace,  ///< everything: another workspace, a data file more or less
-    Selection,  ///< file, probe, stage or physical value
-    Content,    ///< results, attributes or parameters of what is selected
-    View,       ///< the active view only: nothing has to be drawn again
+    Content,  ///< the workspace, or what of it is selected
+    View,     ///< the active view only: nothing has to be drawn again
 };
 
 /// The convective velocity of Taylor's hypothesis.

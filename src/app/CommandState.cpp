@@ -3,206 +3,157 @@
 #include <vector>
 
 #include "model/FrameSlot.h"
+#include "model/StageTable.h"
 
 namespace vorlan {
 
 namespace {
 
-/// What a command needs; each with the words for a user whose script asks for it too early.
-enum class Need {
-    DataFile,
-    Probe,
-    AllSamples,
-    PreProcessing,
-    SpectralStage,
-    StationarityDone,
-    HistogramsDone,
-    SpectralDone,
-    CrossSpectralDone,
-    QuadrantsDone,
-    TableStage,
-    DiagramInView,
-    SpectrumOrStructureInView,
-    CorrelationOrSpectrumInView,
-    SpectrumInView,
-    StructureInView,
-    NotYetOffered,
+/// What a command may need of the document and the views: why it is not given, empty when it is.
+using Need = std::string (*)(const CVorl_ADVDoc& document, const ShownPanes& shown);
+
+std::string dataFile(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.HasFile() ? "" : "no data file is selected";
+}
+
+std::string probe(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.HasProbe() ? "" : "no probe is selected";
+}
+
+std::string allSamples(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.Probe().UsesAllSamples()
+               ? ""
+               : "bad samples were removed from this probe: not all of its samples are used";
+}
+
+template <Stage stage>
+std::string selected(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.StageCode() == static_cast<int>(stage) + 1
+               ? ""
+               : std::string("the stage \"") + stageRow(stage).text + "\" is not selected";
+}
+
+std::string doneReason(const CVorl_ADVDoc& document, DoneMark mark) {
+    return document.Probe().IsDone(mark) ? "" : std::string("this probe has no ") + stageOfMark(mark).results + " yet";
+}
+
+template <DoneMark mark>
+std::string done(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return doneReason(document, mark);
+}
+
+std::string exportReason(const CVorl_ADVDoc& document, const ExportKindInfo& info) {
+    std::string reason = probe(document, {});
+    return reason.empty() && info.needs ? doneReason(document, *info.needs) : reason;
+}
+
+std::string tableBesideDiagram(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return stageRow(document.CurrentStage()).pane(Pane::RightBottom) == PaneKind::TableOrDiagram
+               ? ""
+               : "this stage has no table to switch";
+}
+
+std::string diagramInView(const CVorl_ADVDoc& document, const ShownPanes& shown) {
+    const bool hasDiagram =
+        frameSlotOf(document.CurrentStage(), document.ActivePane(), document.CurrentValue(), document.ShowsTable())
+            .has_value();
+    return hasDiagram && shown.diagramInActivePane ? "" : "the active view shows no diagram";
+}
+
+std::string notYetOffered(const CVorl_ADVDoc&, const ShownPanes&) {
+    return "this version does not offer it";
+}
+
+bool inZoomMode(const CVorl_ADVDoc& document) {
+    return document.HasProbe() && document.Probe().zoomMode != 0;
+}
+
+bool showsTable(const CVorl_ADVDoc& document) {
+    return document.ShowsTable();
+}
+
+/// One command: what it needs, told in this order; whether it shows as checked.
+struct CommandRow {
+    Command command;
+    std::vector<Need> needs;
+    bool (*checked)(const CVorl_ADVDoc& document) = nullptr;
 };
 
-bool activePaneIsOneOf(const CVorl_ADVDoc& document, Pane a, Pane b) {
-    return document.ActivePane() == a || document.ActivePane() == b;
+// A need may take for granted what stands before it. The exports need what their own table says.
+const std::vector<CommandRow>& commandTable() {
+    constexpr Need preProcessing = selected<Stage::PreProcessing>;
+    static const std::vector<CommandRow> rows = {
+        {Command::NewWorkspace, {}},
+        {Command::OpenWorkspace, {}},
+        {Command::SaveWorkspace, {}},
+        {Command::SaveWorkspaceAs, {}},
+        {Command::CloseFile, {dataFile}},
+        {Command::PageSetup, {notYetOffered}},
+        {Command::PrintPreview, {notYetOffered}},
+        {Command::Print, {notYetOffered}},
+        {Command::RecentWorkspace, {}},
+        {Command::Exit, {}},
+        {Command::BitmapCopy, {dataFile}},
+        {Command::SelectionToolbar, {}},
+        {Command::SpectralToolbar, {}},
+        {Command::StatusBar, {}},
+        {Command::ResultsTable, {probe, tableBesideDiagram}, showsTable},
+        {Command::PlotFrameOptions, {probe, diagramInView}},
+        {Command::ZoomAndClipping, {probe, preProcessing}, inZoomMode},
+        {Command::ResetTimeSeries, {probe, preProcessing}},
+        {Command::CoordinateSystem, {probe, preProcessing}},
+        {Command::EditingTimeSeries, {probe, preProcessing}},
+        {Command::DigitalFiltration, {probe, allSamples}},
+        {Command::StationarityAnalysis, {probe, allSamples}},
+        {Command::Histograms, {probe}},
+        {Command::SpectralAnalysis, {probe, allSamples}},
+        {Command::CrossSpectralAnalysis, {probe, allSamples, done<DoneMark::Spectral>}},
+        {Command::QuadrantsAnalysis, {probe, allSamples}},
+        {Command::MeanVelocityVectors, {notYetOffered}},
+        {Command::ExtractDissipationRate, {notYetOffered}},
+        {Command::ExtractScales, {notYetOffered}},
+        {Command::TriangleSpectrum, {notYetOffered}},
+        {Command::TriangleStructure, {notYetOffered}},
+        {Command::MeanVelocity, {}},
+        {Command::GridEditor, {notYetOffered}},
+        {Command::SimulateTimeSeries, {}},
+        {Command::About, {}},
+    };
+    return rows;
 }
 
-bool holds(const CVorl_ADVDoc& document, Need need) {
-    const auto done = [&](DoneMark mark) { return document.HasProbe() && document.Probe().IsDone(mark); };
-    switch (need) {
-        case Need::DataFile:
-            return document.HasFile();
-        case Need::Probe:
-            return document.HasProbe();
-        case Need::AllSamples:
-            return document.HasProbe() && document.Probe().UsesAllSamples();
-        case Need::PreProcessing:
-            return document.StageCode() == 1;
-        case Need::SpectralStage:
-            return document.CurrentStage() == Stage::Spectral;
-        case Need::StationarityDone:
-            return done(DoneMark::Stationarity);
-        case Need::HistogramsDone:
-            return done(DoneMark::Histograms);
-        case Need::SpectralDone:
-            return done(DoneMark::Spectral);
-        case Need::CrossSpectralDone:
-            return done(DoneMark::CrossSpectral);
-        case Need::QuadrantsDone:
-            return done(DoneMark::Quadrants);
-        case Need::TableStage:
-            return document.CurrentStage() == Stage::PreProcessing || document.CurrentStage() == Stage::Histograms;
-        case Need::DiagramInView:
-            return frameSlotOf(document.CurrentStage(), document.ActivePane(), document.CurrentValue(),
-                               document.ShowsTable())
-                .has_value();
-        case Need::SpectrumOrStructureInView:
-            return activePaneIsOneOf(document, Pane::LeftBottom, Pane::RightTop);
-        case Need::CorrelationOrSpectrumInView:
-            return activePaneIsOneOf(document, Pane::LeftTop, Pane::LeftBottom);
-        case Need::SpectrumInView:
-            return document.ActivePane() == Pane::LeftBottom;
-        case Need::StructureInView:
-            return document.ActivePane() == Pane::RightTop;
-        case Need::NotYetOffered:
-            return false;
+/// Why the document and the views do not give the command now.
+std::string reasonOf(const CVorl_ADVDoc& document, const CommandRow& row, const ShownPanes& shown) {
+    std::string reason;
+    for (const Need need : row.needs) {
+        if (reason.empty()) {
+            reason = need(document, shown);
+        }
     }
-    return false;
-}
-
-const char* wordsFor(Need need) {
-    switch (need) {
-        case Need::DataFile:
-            return "no data file is selected";
-        case Need::Probe:
-            return "no probe is selected";
-        case Need::AllSamples:
-            return "bad samples were removed from this probe: not all of its samples are used";
-        case Need::PreProcessing:
-            return "the stage \"Pre-Processing\" is not selected";
-        case Need::SpectralStage:
-            return "the stage \"Spectral Analysis\" is not selected";
-        case Need::StationarityDone:
-            return "this probe has no stationarity analysis yet";
-        case Need::HistogramsDone:
-            return "this probe has no histograms yet";
-        case Need::SpectralDone:
-            return "this probe has no spectral analysis yet";
-        case Need::CrossSpectralDone:
-            return "this probe has no cross-spectral analysis yet";
-        case Need::QuadrantsDone:
-            return "this probe has no quadrants analysis yet";
-        case Need::TableStage:
-            return "this stage has no table to switch";
-        case Need::DiagramInView:
-        case Need::SpectrumOrStructureInView:
-        case Need::CorrelationOrSpectrumInView:
-        case Need::SpectrumInView:
-        case Need::StructureInView:
-            return "the active view shows another diagram";
-        case Need::NotYetOffered:
-            return "this version does not offer it";
-    }
-    return "";
-}
-
-std::vector<Need> needsOf(Command command) {
-    switch (command) {
-        case Command::NewWorkspace:
-        case Command::OpenWorkspace:
-        case Command::SaveWorkspace:
-        case Command::SaveWorkspaceAs:
-        case Command::RecentWorkspace:
-        case Command::Exit:
-        case Command::SelectionToolbar:
-        case Command::SpectralToolbar:
-        case Command::StatusBar:
-        case Command::MeanVelocity:
-        case Command::SimulateTimeSeries:
-        case Command::About:
-            return {};
-        case Command::CloseFile:
-        case Command::BitmapCopy:
-            return {Need::DataFile};
-        case Command::ExportVelocities:
-        case Command::ExportStatistics:
-        case Command::ExportScales:
-        case Command::ExportStresses:
-        case Command::ExportStressStatistics:
-        case Command::Histograms:
-            return {Need::Probe};
-        case Command::ExportStationarity:
-            return {Need::Probe, Need::StationarityDone};
-        case Command::ExportHistograms:
-            return {Need::Probe, Need::HistogramsDone};
-        case Command::ExportSpectral:
-            return {Need::Probe, Need::SpectralDone};
-        case Command::ExportCrossSpectral:
-            return {Need::Probe, Need::CrossSpectralDone};
-        case Command::ExportContributions:
-        case Command::ExportTimes:
-        case Command::ExportPatterns:
-            return {Need::Probe, Need::QuadrantsDone};
-        case Command::ResultsTable:
-            return {Need::Probe, Need::TableStage};
-        case Command::PlotFrameOptions:
-            return {Need::Probe, Need::DiagramInView};
-        case Command::ZoomAndClipping:
-        case Command::ResetTimeSeries:
-        case Command::CoordinateSystem:
-        case Command::EditingTimeSeries:
-            return {Need::Probe, Need::PreProcessing};
-        case Command::DigitalFiltration:
-        case Command::StationarityAnalysis:
-        case Command::SpectralAnalysis:
-        case Command::QuadrantsAnalysis:
-            return {Need::Probe, Need::AllSamples};
-        case Command::CrossSpectralAnalysis:
-            return {Need::Probe, Need::AllSamples, Need::SpectralDone};
-        // Offered once their stage exists.
-        case Command::PageSetup:
-        case Command::PrintPreview:
-        case Command::Print:
-        case Command::MeanVelocityVectors:
-        case Command::ExtractDissipationRate:
-        case Command::ExtractScales:
-        case Command::TriangleSpectrum:
-        case Command::TriangleStructure:
-        case Command::GridEditor:
-            return {Need::NotYetOffered};
-    }
-    return {Need::NotYetOffered};
+    return reason;
 }
 
 }  // namespace
 
-CommandState commandState(const CVorl_ADVDoc& document, Command command) {
+CommandState commandState(const CVorl_ADVDoc& document, Command command, const ShownPanes& shown) {
     CommandState state;
-    state.enabled = disabledReason(document, command).empty();
-    if (command == Command::ZoomAndClipping) {
-        state.checked = document.HasProbe() && document.Probe().zoomMode != 0;
-    } else if (command == Command::ResultsTable) {
-        state.checked = document.ShowsTable();
-    }
-    return state;
-}
-
-std::string disabledReason(const CVorl_ADVDoc& document, Command command) {
-    if (document.IsRunning()) {
-        return "a calculation is running";
-    }
-    for (const Need need : needsOf(command)) {
-        if (!holds(document, need)) {
-            return wordsFor(need);
+    state.reason = notYetOffered(document, shown);
+    for (const CommandRow& row : commandTable()) {
+        if (row.command == command) {
+            state.checked = row.checked != nullptr && row.checked(document);
+            state.reason = reasonOf(document, row, shown);
         }
     }
-    return {};
+    for (const ExportKindInfo& info : exportKinds()) {
+        if (exportCommand(info.kind) == command) {
+            state.reason = exportReason(document, info);
+        }
+    }
+    if (document.IsRunning()) {
+        state.reason = "a calculation is running";
+    }
+    state.enabled = state.reason.empty();
+    return state;
 }
 
 }  // namespace vorlan

@@ -63,16 +63,19 @@ inline Command exportCommand(ExportKind kind) {
     return static_cast<Command>(static_cast<int>(Command::ExportVelocities) + static_cast<int>(kind));
 }
 
+/// What the views show, as far as commands depend on it: a stage's diagram may be a message instead.
+struct ShownPanes {
+    bool diagramInActivePane = true;
+};
+
 struct CommandState {
     bool enabled = false;
     bool checked = false;
+    std::string reason;  ///< why it is disabled, for the user of a window or a script; empty when it is enabled
 };
 
 /// Whether a command may be given now, and whether it shows as checked. The window's own switches (toolbars, status
 /// bar) are always enabled here; their check mark is the window's.
-CommandState commandState(const CVorl_ADVDoc& document, Command command);
-
-/// Why a disabled command is disabled, in words for a script's user; empty when it is enabled.
-std::string disabledReason(const CVorl_ADVDoc& document, Command command);
+CommandState commandState(const CVorl_ADVDoc& document, Command command, const ShownPanes& shown = {});
 
 }  // namespace vorlan

@@ -16,7 +16,7 @@ void CVorl_ADVDoc::AppendFile(SAdvFile file) {
     settings.activeItem = -1;
     TestSelectionChange();
     SetModified();
-    Tell(Change::Workspace);
+    Tell(Change::Content);
 }
 
 Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& settings) {

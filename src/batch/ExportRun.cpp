@@ -41,7 +41,7 @@ Command commandOf(ExportKind kind) {
 }
 
 std::string exportedText(const CVorl_ADVDoc& document, const ExportRequest& request) {
-    const std::string reason = disabledReason(document, commandOf(request.kind));
+    const std::string reason = commandState(document, commandOf(request.kind)).reason;
     if (!reason.empty()) {
         throw refusal(reason);
     }

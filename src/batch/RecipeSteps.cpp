@@ -36,7 +36,7 @@ Outcome runStep(const StepKind& kind, const StepValues& values, StepContext& con
         selectStage(context.document, *kind.stage);
     }
     if (kind.command) {
-        const std::string reason = disabledReason(context.document, *kind.command);
+        const std::string reason = commandState(context.document, *kind.command).reason;
         if (!reason.empty()) {
             throw refusal(reason);
         }

@@ -63,7 +63,7 @@ CMainFrame::CMainFrame(QWidget* parent)
     setBoxes(platformBoxes_);
     // The whole window on a small screen, its frame included.
     resize(QSize(1200, 800).boundedTo(screen()->availableSize() - QSize(16, 48)));
-    documentChanged(Change::Workspace);
+    documentChanged(Change::Content);
     actions_->setRecentFiles(files_.recentPaths());
 }
 
@@ -156,7 +156,7 @@ void CMainFrame::connectWidgets() {
 }
 
 void CMainFrame::runCommand(Command command) {
-    if (commandState(document_, command).enabled) {
+    if (commandState(document_, command, shownPanes()).enabled) {
         commands_.run(command);
     }
     refreshCommands();
@@ -177,11 +177,11 @@ void CMainFrame::documentChanged(Change change) {
 }
 
 void CMainFrame::refreshCommands() {
-    actions_->update(document_);
-    // A pane that only says why it has no diagram offers no options for it.
-    if (!panes_->view(document_.ActivePane()).showsDiagram()) {
-        actions_->of(Command::PlotFrameOptions)->setEnabled(false);
-    }
+    actions_->update(document_, shownPanes());
+}
+
+ShownPanes CMainFrame::shownPanes() const {
+    return {panes_->view(document_.ActivePane()).showsDiagram()};
 }
 
 void CMainFrame::refreshTitle() {

@@ -50,6 +50,7 @@ class CMainFrame : public QMainWindow {
     void runStateChanged(bool running);
     void showWaiting(const QString& text);
     void refreshCommands();
+    ShownPanes shownPanes() const;
     void refreshTitle();
     void showCursorValues(Pane pane, QPoint position);
     void showDraggedInterval(Pane pane, int fromX, int toX);

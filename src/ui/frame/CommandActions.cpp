@@ -66,11 +66,11 @@ QAction* CommandActions::makeAction(const MenuItem& item) {
     return action;
 }
 
-void CommandActions::update(const CVorl_ADVDoc& document) {
+void CommandActions::update(const CVorl_ADVDoc& document, const ShownPanes& shown) {
     for (int i = 0; i < kCommandCount; ++i) {
         const auto command = static_cast<Command>(i);
         QAction* action = of(command);
-        const CommandState state = commandState(document, command);
+        const CommandState state = commandState(document, command, shown);
         action->setEnabled(state.enabled);
         if (action->isCheckable() && !isWindowSwitch(command)) {
             action->setChecked(state.checked);

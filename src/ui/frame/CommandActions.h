@@ -19,7 +19,7 @@ class CommandActions : public QObject {
 
     QAction* of(Command command) const { return actions_[static_cast<std::size_t>(command)]; }
     /// Enables and checks every action as the document says. The window's own switches keep their check marks.
-    void update(const CVorl_ADVDoc& document);
+    void update(const CVorl_ADVDoc& document, const ShownPanes& shown);
     void setRecentFiles(const QStringList& paths);
 
   Q_SIGNALS:
