@@ -23,6 +23,8 @@ class CountedSamples {
         }
     }
 
+    int size() const { return all_ ? samples_ : static_cast<int>(indexes_.size()); }
+
     SArray of(const SArray& column) const {
         if (all_ && column.GetSize() == samples_) {
             return column;
@@ -64,6 +66,10 @@ void formAnalysedSeries(SAdvProbe& probe) {
         }
         series.values = counted.of(column);
     }
+}
+
+int countedSamples(const SAdvProbe& probe) {
+    return CountedSamples(probe, probe.WorkingSamples()).size();
 }
 
 SArray countedColumn(const SAdvProbe& probe, const SArray& column) {

@@ -8,6 +8,9 @@ namespace vorlan {
 /// working columns) and gives them the probe's sampling interval. The three always have one length.
 void formAnalysedSeries(SAdvProbe& probe);
 
+/// Number of working samples that count: the length that the analysed series take.
+int countedSamples(const SAdvProbe& probe);
+
 /// The part of column that counts by the probe's marks: integers copied, resolution kept.
 SArray countedColumn(const SAdvProbe& probe, const SArray& column);
 

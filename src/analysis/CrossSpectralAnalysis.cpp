@@ -88,14 +88,9 @@ void computeCoherence(SAdvProbe& probe) {
 
 }  // namespace
 
-std::string crossSpectralRefusal(const SAdvProbe& probe) {
-    const auto half = static_cast<std::uint32_t>(probe.WorkingSamples() / 2);
-    return probe.spectralLags > half ? kTruncationTooLarge : "";
-}
-
-void analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
-    if (!crossSpectralRefusal(probe).empty()) {
-        throw InvalidArgument();
+std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
+    if (probe.spectralLags > static_cast<std::uint32_t>(probe.WorkingSamples() / 2)) {
+        return kTruncationTooLarge;
     }
     progress.status(kCrossSpectralStatus);
     progress.breathe();
@@ -130,6 +125,7 @@ void analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
 
     progress.position(100);
     probe.SetDone(DoneMark::CrossSpectral);
+    return {};
 }
 
 }  // namespace vorlan

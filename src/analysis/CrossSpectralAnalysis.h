@@ -9,9 +9,6 @@ namespace vorlan {
 
 inline constexpr const char* kCrossSpectralStatus = "Cross-spectral analysis calculations:";
 
-/// Why the cross-spectral analysis cannot run with the truncation point that the probe recorded; empty when it can.
-std::string crossSpectralRefusal(const SAdvProbe& probe);
-
 /// Cross-covariance functions in both directions, co-, quadrature, phase and coherence spectra of u'v', u'w', v'w',
 /// with the truncation point M, window and unit of the probe's last spectral analysis, whose spectra the coherence
 /// divides by. All are stored at 1e-7; functions of a later step read those of an earlier one as they were stored.
@@ -21,8 +18,9 @@ std::string crossSpectralRefusal(const SAdvProbe& probe);
 /// for M = 1: one value everywhere except that the phase has none. Sets the stage's mark. Progress positions 5, 30,
 /// 50, 80, 90, 100.
 ///
-/// InvalidArgument when the analysis is refused, when the record's columns differ in length, or when the probe's
-/// spectra are shorter than M - 1.
-void analyseCrossSpectra(SAdvProbe& probe, Progress& progress);
+/// Returns why it is refused (the recorded truncation point does not fit the record any more; nothing is then changed),
+/// empty when done. InvalidArgument when the record's columns differ in length, or when the probe's spectra are shorter
+/// than M - 1.
+std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress);
 
 }  // namespace vorlan

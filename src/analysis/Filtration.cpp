@@ -81,10 +81,16 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     }
 }
 
-void finishFiltration(SAdvProbe& probe, Progress& progress) {
+FilterDecision filterSeries(SAdvProbe& probe, const FilterSettings& settings, Progress& progress) {
+    FilterDecision decision = decideFilter(settings, probe.WorkingSamples(), probe.samplingInterval);
+    if (!decision.run) {
+        return decision;
+    }
+    filterVelocities(probe, settings, progress);
     setRecordTitle(probe, "Filtered time series");
     formStresses(probe, StressResolution::SamePosition, progress);
     computeProbeMoments(probe, progress);
+    return decision;
 }
 
 }  // namespace vorlan

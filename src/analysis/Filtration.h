@@ -27,7 +27,8 @@ std::vector<double> filtered(std::span<const double> x, std::span<const double> 
 /// shorter than the record; ask decideFilter() first.
 void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress& progress);
 
-/// What follows a filtration: the title "Filtered time series", stresses and moments.
-void finishFiltration(SAdvProbe& probe, Progress& progress = noProgress());
+/// Filters the working record as decideFilter() decides; then the title "Filtered time series", stresses and moments
+/// follow. Returns that decision: without a run nothing is changed.
+FilterDecision filterSeries(SAdvProbe& probe, const FilterSettings& settings, Progress& progress);
 
 }  // namespace vorlan

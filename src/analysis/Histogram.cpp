@@ -90,7 +90,7 @@ void computeHistogram(STimeSeries& series, int grades) {
     }
 }
 
-void analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, Progress& progress) {
+std::string analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, Progress& progress) {
     progress.status("Distribution calculations: ");
     formAnalysedSeries(probe);
     const bool empty = probe.seriesU.values.IsEmpty();
@@ -111,6 +111,7 @@ void analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, P
         progress.breathe();
     }
     probe.SetDone(DoneMark::Histograms);
+    return {};
 }
 
 NormalCurve normalApproximation(const STimeSeries& series) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "analysis/HistogramSettings.h"
@@ -19,8 +20,8 @@ inline constexpr int kMaximumGrades = 10'000'000;
 void computeHistogram(STimeSeries& series, int grades);
 
 /// Forms the analysed series, then moments and histogram of U, V and W; sets the stage's mark. Without a sample the
-/// earlier histograms stay and the moments are not finite.
-void analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, Progress& progress);
+/// earlier histograms stay and the moments are not finite. Returns why it is refused: never, so it is empty.
+std::string analyseDistributions(SAdvProbe& probe, const HistogramSettings& settings, Progress& progress);
 
 /// Normal density over the range of a series: x[i] = min + i |max - min| / 500,
 /// y[i] = exp(-(x[i] - mean)^2 / (2 variance)) / sqrt(6.28 variance), with the moments that the series holds.

@@ -143,7 +143,7 @@ void titlePatterns(SAdvProbe& probe, bool interactions) {
 
 }  // namespace
 
-void analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progress& progress) {
+std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progress& progress) {
     if (settings.stressType < 0 || settings.stressType >= kStressPairs) {
         throw InvalidArgument();
     }
@@ -172,6 +172,7 @@ void analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progre
     run[3] = record.meanStress;
     titlePatterns(probe, probe.coordinateSystem == 0 || record.meanStress > 0.0);
     probe.SetDone(DoneMark::Quadrants);
+    return {};
 }
 
 }  // namespace vorlan

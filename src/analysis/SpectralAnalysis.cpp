@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
 #include "analysis/SpectralFunctions.h"
 
@@ -32,7 +33,22 @@ bool truncationPointFits(int lags, int samples) {
     return lags <= samples / 2;
 }
 
-void analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress) {
+SpectralRun spectralRunOf(const SpectralSettings& settings, int samples) {
+    return {truncationPoint(settings, samples), windowCodeOfButton(settings.windowButton),
+            unitSelectorOfButton(settings.unitButton)};
+}
+
+SpectralRun spectralRunOf(const SAdvProbe& probe) {
+    return {static_cast<int>(probe.spectralLags), static_cast<int>(probe.spectralWindow),
+            static_cast<int>(probe.spectralUnit)};
+}
+
+std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress) {
+    formAnalysedSeries(probe);
+    if (!truncationPointFits(run.lags, probe.seriesU.values.GetSize())) {
+        return kTruncationTooLarge;
+    }
+    progress.status("Spectral analysis calculations: ");
     int position = 0;
     const auto advance = [&](int step) {
         position += step;
@@ -71,6 +87,7 @@ void analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress
     probe.spectralWindow = static_cast<std::uint32_t>(run.windowCode);
     probe.spectralUnit = static_cast<std::uint32_t>(run.unitSelector);
     probe.SetDone(DoneMark::Spectral);
+    return {};
 }
 
 }  // namespace vorlan

@@ -118,7 +118,7 @@ void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progr
     }
 }
 
-void analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress) {
+std::string analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress) {
     progress.status("Stationarity calculations: ");
     formAnalysedSeries(probe);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
@@ -128,6 +128,7 @@ void analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings,
     }
     probe.bandMode = static_cast<std::uint32_t>(settings.mode);
     probe.SetDone(DoneMark::Stationarity);
+    return {};
 }
 
 }  // namespace vorlan

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "analysis/Progress.h"
 #include "analysis/StationaritySettings.h"
 #include "model/SAdvProbe.h"
@@ -20,7 +22,7 @@ inline constexpr int kMaximumBands = 10'000'000;
 void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progress);
 
 /// Forms the analysed series and replaces the bands of U, V and W; records mode and number of bands and sets the
-/// stage's mark.
-void analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress);
+/// stage's mark. Returns why it is refused: never, so it is empty.
+std::string analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress);
 
 }  // namespace vorlan

@@ -17,8 +17,16 @@ constexpr int kCrossSpectralBarOffset = 200;
 
 }  // namespace
 
-Outcome CVorl_ADVDoc::Analyse(Stage stage, const ProbeOperation& analysis, int progressOffset) {
-    const Outcome outcome = RunOnProbe(analysis, progressOffset);
+Outcome CVorl_ADVDoc::Analyse(Stage stage, const Analysis& analysis, int progressOffset) {
+    const Outcome outcome = RunOnProbe(
+        [&](SAdvProbe& copy, Progress& progress) {
+            const std::string refusal = analysis(copy, progress);
+            if (!refusal.empty()) {
+                port_->refuse(refusal);
+            }
+            return refusal.empty() ? Outcome::Done : Outcome::Refused;
+        },
+        progressOffset);
     if (outcome == Outcome::Done) {
         EnterStage(stage);
     }
@@ -29,68 +37,41 @@ Outcome CVorl_ADVDoc::Analyse(Stage stage, const ProbeOperation& analysis, int p
 Outcome CVorl_ADVDoc::StationarityAnalysis(const StationaritySettings& settings) {
     storeStationaritySettings(settings, workspace_.settings);
     SetModified();
-    return Analyse(Stage::Stationarity, [&](SAdvProbe& copy, Progress& progress) {
-        analyseStationarity(copy, settings, progress);
-        return Outcome::Done;
-    });
+    return Analyse(Stage::Stationarity,
+                   [&](SAdvProbe& copy, Progress& progress) { return analyseStationarity(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::Distributions(const HistogramSettings& settings) {
     storeHistogramSettings(settings, workspace_.settings);
     SetModified();
-    return Analyse(Stage::Histograms, [&](SAdvProbe& copy, Progress& progress) {
-        analyseDistributions(copy, settings, progress);
-        return Outcome::Done;
-    });
+    return Analyse(Stage::Histograms,
+                   [&](SAdvProbe& copy, Progress& progress) { return analyseDistributions(copy, settings, progress); });
 }
 
-Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralSettings& dialog) {
-    WorkspaceSettings& settings = workspace_.settings;
-    storeSpectralSettings(dialog, settings);
-    settings.lastWindowCode = windowCodeOfButton(dialog.windowButton);
-    const int unit = unitSelectorOfButton(dialog.unitButton);
-    settings.lastUnitIsRad = unit == 1;
+Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralSettings& settings) {
+    storeSpectralSettings(settings, workspace_.settings);
     SetModified();
     return Analyse(
         Stage::Spectral,
         [&](SAdvProbe& copy, Progress& progress) {
-            formAnalysedSeries(copy);
-            const int samples = copy.seriesU.values.GetSize();
-            const SpectralRun run{truncationPoint(dialog, samples), settings.lastWindowCode, unit};
-            settings.lastTruncationPoint = run.lags;
-            if (!truncationPointFits(run.lags, samples)) {
-                port_->refuse(kTruncationTooLarge);
-                return Outcome::Refused;
-            }
-            progress.status("Spectral analysis calculations: ");
-            analyseSpectra(copy, run, progress);
-            return Outcome::Done;
+            const SpectralRun run = spectralRunOf(settings, countedSamples(copy));
+            workspace_.settings.lastTruncationPoint = run.lags;
+            return analyseSpectra(copy, run, progress);
         },
         kSpectralBarOffset);
 }
 
 Outcome CVorl_ADVDoc::CrossSpectralAnalysis() {
     return Analyse(
-        Stage::CrossSpectral,
-        [&](SAdvProbe& copy, Progress& progress) {
-            const std::string refusal = crossSpectralRefusal(copy);
-            if (!refusal.empty()) {
-                port_->refuse(refusal);
-                return Outcome::Refused;
-            }
-            analyseCrossSpectra(copy, progress);
-            return Outcome::Done;
-        },
+        Stage::CrossSpectral, [](SAdvProbe& copy, Progress& progress) { return analyseCrossSpectra(copy, progress); },
         kCrossSpectralBarOffset);
 }
 
 Outcome CVorl_ADVDoc::QuadrantsAnalysis(const QuadrantSettings& settings) {
     storeQuadrantSettings(settings, workspace_.settings);
     SetModified();
-    return Analyse(Stage::Quadrants, [&](SAdvProbe& copy, Progress& progress) {
-        analyseQuadrants(copy, settings, progress);
-        return Outcome::Done;
-    });
+    return Analyse(Stage::Quadrants,
+                   [&](SAdvProbe& copy, Progress& progress) { return analyseQuadrants(copy, settings, progress); });
 }
 
 }  // namespace vorlan

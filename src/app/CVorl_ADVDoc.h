@@ -148,14 +148,16 @@ class CVorl_ADVDoc {
 
   private:
     using ProbeOperation = std::function<Outcome(SAdvProbe& copy, Progress& progress)>;
+    /// Returns why it is refused, empty when done.
+    using Analysis = std::function<std::string(SAdvProbe& copy, Progress& progress)>;
 
     SAdvProbe& ProbeForWriting();
     /// Runs operation on a copy of the active probe and writes the copy back when it is done.
     Outcome RunOnProbe(const ProbeOperation& operation, int progressOffset);
     /// RunOnProbe for a change of the working series: change, then the change rule, then the probe's moments.
     Outcome ChangeSeries(const ProbeOperation& change);
-    /// RunOnProbe for an analysis; enters its stage when it is done.
-    Outcome Analyse(Stage stage, const ProbeOperation& analysis, int progressOffset = -1);
+    /// RunOnProbe for an analysis; says why it is refused, or enters its stage when it is done.
+    Outcome Analyse(Stage stage, const Analysis& analysis, int progressOffset = -1);
     /// The question that every change of the working series ends with; OK repeats the done stages on the copy.
     void ApplyChangeRule(SAdvProbe& copy, Progress& progress);
     /// Appends the stage's tab to the active probe when it has none and makes the stage current.

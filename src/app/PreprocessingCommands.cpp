@@ -69,17 +69,15 @@ Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
     storeFilterSettings(settings, workspace_.settings);
     SetModified();
     return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
-        const FilterDecision decision = decideFilter(settings, copy.WorkingSamples(), copy.samplingInterval);
+        const FilterDecision decision = filterSeries(copy, settings, progress);
         for (const std::string& refusal : decision.refusals) {
             port_->refuse(refusal);
         }
-        if (!decision.run) {
-            // At equality with a limit nothing happens and nothing is said.
-            return decision.refusals.empty() ? Outcome::Cancelled : Outcome::Refused;
+        if (decision.run) {
+            return Outcome::Done;
         }
-        filterVelocities(copy, settings, progress);
-        finishFiltration(copy, progress);
-        return Outcome::Done;
+        // At equality with a limit nothing happens and nothing is said.
+        return decision.refusals.empty() ? Outcome::Cancelled : Outcome::Refused;
     });
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "analysis/AnalysedSeries.h"
 #include "analysis/CrossSpectralAnalysis.h"
 #include "analysis/Histogram.h"
 #include "analysis/Quadrants.h"
@@ -12,45 +11,6 @@
 namespace vorlan {
 
 namespace {
-
-std::string repeatStationarity(SAdvProbe& probe, const WorkspaceSettings& settings, Progress& progress) {
-    analyseStationarity(probe, stationaritySettingsOf(settings), progress);
-    return {};
-}
-
-std::string repeatDistributions(SAdvProbe& probe, const WorkspaceSettings& settings, Progress& progress) {
-    analyseDistributions(probe, histogramSettingsOf(settings), progress);
-    return {};
-}
-
-std::string repeatSpectral(SAdvProbe& probe, const WorkspaceSettings&, Progress& progress) {
-    const SpectralRun run{static_cast<int>(probe.spectralLags), static_cast<int>(probe.spectralWindow),
-                          static_cast<int>(probe.spectralUnit)};
-    formAnalysedSeries(probe);
-    if (!truncationPointFits(run.lags, probe.seriesU.values.GetSize())) {
-        return kTruncationTooLarge;
-    }
-    analyseSpectra(probe, run, progress);
-    return {};
-}
-
-// Nothing of this stage is computed: it draws the working record.
-std::string repeatMeanVelocity(SAdvProbe&, const WorkspaceSettings&, Progress&) {
-    return {};
-}
-
-std::string repeatCrossSpectral(SAdvProbe& probe, const WorkspaceSettings&, Progress& progress) {
-    std::string refusal = crossSpectralRefusal(probe);
-    if (refusal.empty()) {
-        analyseCrossSpectra(probe, progress);
-    }
-    return refusal;
-}
-
-std::string repeatQuadrants(SAdvProbe& probe, const WorkspaceSettings& settings, Progress& progress) {
-    analyseQuadrants(probe, quadrantSettingsOf(settings), progress);
-    return {};
-}
 
 // A stage that raises keeps its results like one that is refused; the chain goes on.
 std::string repeatOn(SAdvProbe& probe, const StageRepeat& stage, const WorkspaceSettings& settings,
@@ -70,10 +30,26 @@ std::string repeatOn(SAdvProbe& probe, const StageRepeat& stage, const Workspace
 }  // namespace
 
 const std::vector<StageRepeat>& recomputeChain() {
+    using Settings = WorkspaceSettings;
     static const std::vector<StageRepeat> chain = {
-        {DoneMark::Stationarity, repeatStationarity},   {DoneMark::Histograms, repeatDistributions},
-        {DoneMark::Spectral, repeatSpectral},           {DoneMark::MeanVelocity, repeatMeanVelocity},
-        {DoneMark::CrossSpectral, repeatCrossSpectral}, {DoneMark::Quadrants, repeatQuadrants},
+        {DoneMark::Stationarity,
+         [](SAdvProbe& probe, const Settings& settings, Progress& progress) {
+             return analyseStationarity(probe, stationaritySettingsOf(settings), progress);
+         }},
+        {DoneMark::Histograms,
+         [](SAdvProbe& probe, const Settings& settings, Progress& progress) {
+             return analyseDistributions(probe, histogramSettingsOf(settings), progress);
+         }},
+        {DoneMark::Spectral, [](SAdvProbe& probe, const Settings&,
+                                Progress& progress) { return analyseSpectra(probe, spectralRunOf(probe), progress); }},
+        // Nothing of this stage is computed: it draws the working record.
+        {DoneMark::MeanVelocity, [](SAdvProbe&, const Settings&, Progress&) { return std::string(); }},
+        {DoneMark::CrossSpectral,
+         [](SAdvProbe& probe, const Settings&, Progress& progress) { return analyseCrossSpectra(probe, progress); }},
+        {DoneMark::Quadrants,
+         [](SAdvProbe& probe, const Settings& settings, Progress& progress) {
+             return analyseQuadrants(probe, quadrantSettingsOf(settings), progress);
+         }},
     };
     return chain;
 }

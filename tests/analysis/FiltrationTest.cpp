@@ -114,11 +114,10 @@ TEST(Filtration, EveryShapeAndTypeStoresThePlainSums) {
     }
 }
 
-TEST(Filtration, FinishFormsStressesOfTheShorterRecord) {
+TEST(Filtration, FormsStressesOfTheShorterRecord) {
     SAdvProbe probe = velocityRecord(100);
     NoProgress progress;
-    filterVelocities(probe, settingsOf(FilterShape::Tukey, FilterType::LowPass, 0.4), progress);
-    finishFiltration(probe);
+    EXPECT_TRUE(filterSeries(probe, settingsOf(FilterShape::Tukey, FilterType::LowPass, 0.4), progress).run);
     EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetAt(2).GetSize(), 80);
     EXPECT_EQ(probe.frameAttributes[0].GetAt(0).plotTitle, "Filtered time series");
     EXPECT_NE(probe.VelocityMoments(0).variance, 0.0);

@@ -102,8 +102,9 @@ TEST(SpectralAnalysis, RecordsItsRunAndTellsItsProgress) {
     EXPECT_EQ(progress.positions, (std::vector<int>{5, 15, 25, 35, 40, 50, 60, 70, 75, 85, 95, 100}));
     const std::vector<std::string> once = {
         "Cov. function calculations: ", "Spectrum calculations: ", "Str. function calculations: "};
-    ASSERT_EQ(progress.texts.size(), 9U);
-    EXPECT_TRUE(std::equal(once.begin(), once.end(), progress.texts.begin() + 6));
+    ASSERT_EQ(progress.texts.size(), 10U);
+    EXPECT_EQ(progress.texts.front(), "Spectral analysis calculations: ");
+    EXPECT_TRUE(std::equal(once.begin(), once.end(), progress.texts.begin() + 7));
     EXPECT_TRUE(probe.IsDone(DoneMark::Spectral));
     EXPECT_EQ(probe.spectralLags, 10U);
     EXPECT_EQ(probe.spectralWindow, 3U);
