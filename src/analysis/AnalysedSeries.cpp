@@ -50,7 +50,7 @@ class CountedSamples {
 }  // namespace
 
 void formAnalysedSeries(SAdvProbe& probe) {
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& velocities = probe.Velocities();
     const int samples = probe.WorkingSamples();
     const CountedSamples counted(probe, samples);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {

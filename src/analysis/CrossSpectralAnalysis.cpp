@@ -51,29 +51,29 @@ void computeCovariances(SAdvProbe& probe, int lags, Progress& progress) {
         forward.push_back(crossCovariance(x, y, lags, progress));
         backward.push_back(crossCovariance(y, x, lags, progress));
     }
-    store(probe.workTables[SAdvProbe::kCrossForward], forward);
-    store(probe.workTables[SAdvProbe::kCrossBackward], backward);
+    store(probe.CrossForward(), forward);
+    store(probe.CrossBackward(), backward);
 }
 
 void computePhase(SAdvProbe& probe) {
     Functions phases;
     for (int pair = 0; pair < kStressPairs; ++pair) {
-        const std::vector<double> co = probe.workTables[SAdvProbe::kCoSpectra].GetAt(pair).Values();
-        const std::vector<double> quadrature = probe.workTables[SAdvProbe::kQuadratureSpectra].GetAt(pair).Values();
+        const std::vector<double> co = probe.CoSpectra().GetAt(pair).Values();
+        const std::vector<double> quadrature = probe.QuadratureSpectra().GetAt(pair).Values();
         std::vector<double>& phase = phases.emplace_back();
         for (std::size_t i = 0; i + 1 < co.size(); ++i) {
             phase.push_back(crossPhase(co[i], quadrature[i]));
         }
     }
-    store(probe.stageTables[SAdvProbe::kPhase], phases);
+    store(probe.Phase(), phases);
 }
 
 void computeCoherence(SAdvProbe& probe) {
     Functions coherences;
     for (int pair = 0; pair < kStressPairs; ++pair) {
         const StressPair& components = kStressPairComponents[static_cast<std::size_t>(pair)];
-        const std::vector<double> co = probe.workTables[SAdvProbe::kCoSpectra].GetAt(pair).Values();
-        const std::vector<double> quadrature = probe.workTables[SAdvProbe::kQuadratureSpectra].GetAt(pair).Values();
+        const std::vector<double> co = probe.CoSpectra().GetAt(pair).Values();
+        const std::vector<double> quadrature = probe.QuadratureSpectra().GetAt(pair).Values();
         const SArray& spectrumX = probe.Series(components.first).spectrum;
         const SArray& spectrumY = probe.Series(components.second).spectrum;
         std::vector<double>& coherence = coherences.emplace_back();
@@ -83,7 +83,7 @@ void computeCoherence(SAdvProbe& probe) {
                 squaredCoherence(co[i], quadrature[i], spectrumX.GetValue(index), spectrumY.GetValue(index)));
         }
     }
-    store(probe.stageTables[SAdvProbe::kCoherence], coherences);
+    store(probe.Coherence(), coherences);
 }
 
 }  // namespace
@@ -94,12 +94,10 @@ std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
     }
     progress.status(kCrossSpectralStatus);
     progress.breathe();
-    for (const std::size_t table :
-         {SAdvProbe::kCrossForward, SAdvProbe::kCrossBackward, SAdvProbe::kCoSpectra, SAdvProbe::kQuadratureSpectra}) {
-        probe.workTables[table].RemoveAll();
+    for (SMultiArray* table : {&probe.CrossForward(), &probe.CrossBackward(), &probe.CoSpectra(),
+                               &probe.QuadratureSpectra(), &probe.Phase(), &probe.Coherence()}) {
+        table->RemoveAll();
     }
-    probe.stageTables[SAdvProbe::kPhase].RemoveAll();
-    probe.stageTables[SAdvProbe::kCoherence].RemoveAll();
     progress.breathe();
 
     progress.position(5);
@@ -107,15 +105,14 @@ std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
     computeCovariances(probe, static_cast<int>(probe.spectralLags), progress);
 
     progress.position(30);
-    const SMultiArray& forward = probe.workTables[SAdvProbe::kCrossForward];
-    const SMultiArray& backward = probe.workTables[SAdvProbe::kCrossBackward];
+    const SMultiArray& forward = probe.CrossForward();
+    const SMultiArray& backward = probe.CrossBackward();
     const CrossSpectrumRun run{static_cast<int>(probe.spectralWindow), static_cast<int>(probe.spectralUnit),
                                probe.samplingInterval};
-    store(probe.workTables[SAdvProbe::kCoSpectra], coSpectra(halfSums(forward, backward, 1.0), run, progress));
+    store(probe.CoSpectra(), coSpectra(halfSums(forward, backward, 1.0), run, progress));
 
     progress.position(50);
-    store(probe.workTables[SAdvProbe::kQuadratureSpectra],
-          quadratureSpectra(halfSums(forward, backward, -1.0), run, progress));
+    store(probe.QuadratureSpectra(), quadratureSpectra(halfSums(forward, backward, -1.0), run, progress));
 
     progress.position(80);
     computePhase(probe);

@@ -123,7 +123,7 @@ CriterionResult testScores(SAdvProbe& probe, std::size_t scoreTable, ScoreStatis
         return result;
     }
     const Columns scores(probe.workTables[scoreTable], samples);
-    Columns velocities(probe.workTables[SAdvProbe::kVelocities], samples);
+    Columns velocities(probe.Velocities(), samples);
     const auto reject = [&](int i) {
         if (probe.UsesAllSamples()) {
             velocities.interpolateAll(i);
@@ -159,7 +159,7 @@ CriterionResult filterSpikes(SAdvProbe& probe, double accelerationThreshold, Pro
     // sample itself is replaced when both exceed the threshold.
     const bool repairs = probe.UsesAllSamples() && threshold < std::fabs(-1.0 / interval);
     const double small = surelySmall(threshold, interval);
-    Columns velocities(probe.workTables[SAdvProbe::kVelocities], samples);
+    Columns velocities(probe.Velocities(), samples);
     using Turns = std::array<double, 3>;
     const auto turnsAt = [](const Columns& columns, int i) {
         Turns turns;
@@ -206,7 +206,7 @@ CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress) {
         means[c] = moments.mean;
         limits[c] = k * std::sqrt(moments.variance);
     }
-    Columns velocities(probe.workTables[SAdvProbe::kVelocities], samples);
+    Columns velocities(probe.Velocities(), samples);
     const auto farOff = [&velocities, means, limits](std::size_t c, int i) {
         return std::fabs(velocities.value(c, i) - means[c]) > limits[c];
     };

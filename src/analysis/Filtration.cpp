@@ -69,7 +69,7 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     progress.status("Digital filtration calculations: ");
     const std::vector<double> weights =
         filterWeights(settings.shape, static_cast<int>(m), settings.cutoff * probe.samplingInterval);
-    SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    SMultiArray& velocities = probe.Velocities();
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         SArray& column = velocities.ElementAt(component);
         const std::vector<double> samples = column.Values();

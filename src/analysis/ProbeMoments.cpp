@@ -21,7 +21,7 @@ std::array<Moments, 3> countedMoments(const SAdvProbe& probe, const std::array<c
 }
 
 std::array<Moments, 3> probeMoments(const SAdvProbe& probe) {
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& velocities = probe.Velocities();
     if (velocities.IsEmpty()) {
         return {};
     }

@@ -46,7 +46,7 @@ PairRecord pairRecord(const SAdvProbe& probe, int type, Progress& progress) {
     progress.breathe();
     record.b = workingFluctuation(probe, pair.second);
     progress.breathe();
-    record.r = probe.workTables[SAdvProbe::kStresses].GetAt(type).Values();
+    record.r = probe.Stresses().GetAt(type).Values();
     record.meanStress = probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(type)];
     for (double& r : record.r) {
         r /= record.meanStress;
@@ -56,8 +56,8 @@ PairRecord pairRecord(const SAdvProbe& probe, int type, Progress& progress) {
 }
 
 void storeShares(SAdvProbe& probe, const HoleSums& sums, int sizes) {
-    SMultiArray& contributions = probe.stageTables[SAdvProbe::kContributions];
-    SMultiArray& times = probe.stageTables[SAdvProbe::kTimes];
+    SMultiArray& contributions = probe.Contributions();
+    SMultiArray& times = probe.ContributionTimes();
     for (int h = 0; h < sizes; ++h) {
         const auto index = static_cast<std::size_t>(h);
         std::array<double, kQuadrantBuckets> shares{};
@@ -120,8 +120,8 @@ void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSet
         sweeps = eventsOf(record, 2, settings.sweepThreshold);
     }
     progress.breathe();
-    storePattern(probe.stageTables[SAdvProbe::kEjectionPattern], ejections, record, deviations, lag, progress);
-    storePattern(probe.stageTables[SAdvProbe::kSweepPattern], sweeps, record, deviations, lag, progress);
+    storePattern(probe.EjectionPattern(), ejections, record, deviations, lag, progress);
+    storePattern(probe.SweepPattern(), sweeps, record, deviations, lag, progress);
 }
 
 /// Titles the pattern diagrams. A title that the user gave goes only when the events are interactions.
@@ -155,8 +155,8 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
 
     prepareStresses(probe, progress);
     const PairRecord record = pairRecord(probe, settings.stressType, progress);
-    probe.stageTables[SAdvProbe::kContributions].Reshape(kQuadrantBuckets, kShareResolution);
-    probe.stageTables[SAdvProbe::kTimes].Reshape(kQuadrantBuckets, kShareResolution);
+    probe.Contributions().Reshape(kQuadrantBuckets, kShareResolution);
+    probe.ContributionTimes().Reshape(kQuadrantBuckets, kShareResolution);
     if (!record.r.empty()) {
         storeShares(probe, sweepHoles(record.r, record.a, record.b, settings.increment, sizes, kShareResolution),
                     sizes);

@@ -37,7 +37,7 @@ void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll, Pr
     if (samples == 0) {
         return;
     }
-    SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    SMultiArray& velocities = probe.Velocities();
     SArray& u = velocities.ElementAt(0);
     SArray& v = velocities.ElementAt(1);
     SArray& w = velocities.ElementAt(2);

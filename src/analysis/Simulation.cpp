@@ -97,7 +97,7 @@ SAdvFile simulate(const SimulationParameters& parameters, std::uint64_t seed) {
                 velocity[c] += gaussianNumber(random, component.noiseMean, component.noiseVariance);
             }
         }
-        addRow(probe.sampledTables[SAdvProbe::kVelocities], velocity);
+        addRow(probe.SampledVelocities(), velocity);
         addRow(probe.sampledTables[SAdvProbe::kCorrelation],
                noisyRow(random, {correlation, correlation, correlation}, kCorrelationDeviation));
         addRow(probe.sampledTables[SAdvProbe::kSignalToNoise],

@@ -7,7 +7,7 @@
 namespace vorlan {
 
 std::vector<double> workingFluctuation(const SAdvProbe& probe, int component) {
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& velocities = probe.Velocities();
     std::vector<double> fluctuation(static_cast<std::size_t>(probe.WorkingSamples()));
     if (velocities.IsEmpty()) {
         return fluctuation;
@@ -24,7 +24,7 @@ std::vector<double> workingFluctuation(const SAdvProbe& probe, int component) {
 }
 
 void prepareStresses(SAdvProbe& probe, Progress& progress) {
-    const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
+    const SMultiArray& stresses = probe.Stresses();
     if (stresses.HasNoValues()) {
         formStresses(probe, StressResolution::StreamwiseU, progress);
     }

@@ -16,7 +16,7 @@ namespace {
 /// The working velocities, all of the first column's length.
 ThreeColumns workingVelocities(const SAdvProbe& probe) {
     ThreeColumns columns;
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& velocities = probe.Velocities();
     const auto samples = static_cast<std::size_t>(probe.WorkingSamples());
     for (std::size_t c = 0; c < columns.size() && !velocities.IsEmpty(); ++c) {
         columns[c] = ColumnSamples::of(velocities.GetAt(static_cast<int>(c)));
@@ -61,8 +61,8 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
     std::copy(means.begin(), means.end(), probe.scalarResults.begin() + SAdvProbe::kFluctuationMeans);
     progress.breathe();
 
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
-    SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
+    const SMultiArray& velocities = probe.Velocities();
+    SMultiArray& stresses = probe.Stresses();
     stresses.Reshape(kStressPairs, 1.0);
     for (int pair = 0; pair < kStressPairs && !velocities.IsEmpty(); ++pair) {
         const int lender = resolution == StressResolution::SamePosition ? pair : 0;
@@ -89,7 +89,7 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
 void computeStressStatistics(SAdvProbe& probe, Progress& progress) {
     const std::array<Moments, 3> velocities = columnMoments(workingVelocities(probe));
     progress.breathe();
-    const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
+    const SMultiArray& stresses = probe.Stresses();
     const std::array<double, 3> means =
         columnMeans({ColumnSamples::of(stresses.GetAt(0)), ColumnSamples::of(stresses.GetAt(1)),
                      ColumnSamples::of(stresses.GetAt(2))});

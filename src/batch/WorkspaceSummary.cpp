@@ -36,7 +36,7 @@ Json resultsAsJson(const SAdvProbe& probe) {
 Json probeAsJson(const SAdvProbe& probe) {
     Json json;
     json["number"] = probe.probeNumber;
-    json["samples"] = SAdvProbe::ColumnLength(probe.sampledTables[SAdvProbe::kVelocities]);
+    json["samples"] = SAdvProbe::ColumnLength(probe.SampledVelocities());
     json["workingSamples"] = probe.WorkingSamples();
     json["interval"] = probe.samplingInterval;
     json["title"] = utf8Text(probe.title);
@@ -115,7 +115,7 @@ std::string editingText(const SAdvProbe& probe, const WorkspaceSettings& setting
 }
 
 std::string probeAsText(const SAdvProbe& probe, const WorkspaceSettings& settings) {
-    const int samples = SAdvProbe::ColumnLength(probe.sampledTables[SAdvProbe::kVelocities]);
+    const int samples = SAdvProbe::ColumnLength(probe.SampledVelocities());
     const int working = probe.WorkingSamples();
     const std::array<double, 3> position = rotationSettingsOf(probe).position;
     std::string text = "  " + probeListText(probe) + ": " + plural(samples, "sample") +

@@ -16,10 +16,10 @@ void writeCrossSpectral(std::ostream& stream, const ExportSource& source, const 
         rows.text(frequencyUnitLine(probe));
         rows.text("FUNCTIONS: CROSS-SPECTRA, COHERENCE, PHASE (u'v',u'w',v'w')\n");
     }
-    const SMultiArray& co = probe.workTables[SAdvProbe::kCoSpectra];
-    const SMultiArray& quadrature = probe.workTables[SAdvProbe::kQuadratureSpectra];
-    const SMultiArray& phase = probe.stageTables[SAdvProbe::kPhase];
-    const SMultiArray& coherence = probe.stageTables[SAdvProbe::kCoherence];
+    const SMultiArray& co = probe.CoSpectra();
+    const SMultiArray& quadrature = probe.QuadratureSpectra();
+    const SMultiArray& phase = probe.Phase();
+    const SMultiArray& coherence = probe.Coherence();
     const double step =
         frequencyStep(SAdvProbe::ColumnLength(co), probe.samplingInterval, static_cast<int>(probe.spectralUnit));
     double lag = 0.0;

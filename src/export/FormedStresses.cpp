@@ -7,7 +7,7 @@ namespace vorlan {
 namespace {
 
 std::optional<SAdvProbe> formedCopy(const SAdvProbe& probe) {
-    if (!probe.workTables[SAdvProbe::kStresses].HasNoValues()) {
+    if (!probe.Stresses().HasNoValues()) {
         return std::nullopt;
     }
     SAdvProbe copy = probe;
@@ -21,7 +21,7 @@ FormedStresses::FormedStresses(const SAdvProbe& probe)
     : copy_(formedCopy(probe)), probe_(copy_.has_value() ? *copy_ : probe) {}
 
 const SArray& FormedStresses::pair(int index) const {
-    return probe_.workTables[SAdvProbe::kStresses].GetAt(index);
+    return probe_.Stresses().GetAt(index);
 }
 
 }  // namespace vorlan

@@ -29,18 +29,18 @@ void writeShares(std::ostream& stream, const ExportSource& source, const ExportO
 }  // namespace
 
 void writeContributions(std::ostream& stream, const ExportSource& source, const ExportOptions& options) {
-    writeShares(stream, source, options, source.probe.stageTables[SAdvProbe::kContributions],
+    writeShares(stream, source, options, source.probe.Contributions(),
                 "HOLE SIZE AND CONTRIBUTION RATES TO STRESSES (Quadrants: 1,2,3,4 and all):\n");
 }
 
 void writeTimes(std::ostream& stream, const ExportSource& source, const ExportOptions& options) {
-    writeShares(stream, source, options, source.probe.stageTables[SAdvProbe::kTimes],
+    writeShares(stream, source, options, source.probe.ContributionTimes(),
                 "HOLE SIZE AND FRACTIONAL TIMES (Quadrants: 1,2,3,4 and all):\n");
 }
 
 void writePatterns(std::ostream& stream, const ExportSource& source, const ExportOptions& options) {
-    const SMultiArray& ejection = source.probe.stageTables[SAdvProbe::kEjectionPattern];
-    const SMultiArray& sweep = source.probe.stageTables[SAdvProbe::kSweepPattern];
+    const SMultiArray& ejection = source.probe.EjectionPattern();
+    const SMultiArray& sweep = source.probe.SweepPattern();
     RowWriter rows(stream, options.separator);
     if (options.header) {
         writeHeader(rows, FileLabel::Capitalised, source, "VELOCITY Patterns (Ejection pare, Sweep pare):\n");

@@ -10,7 +10,7 @@ void writeVelocities(std::ostream& stream, const ExportSource& source, const Exp
         writeHeader(rows, FileLabel::Capitals, source, "VELOCITIES (U, V, W):\n");
     }
     const SAdvProbe& probe = source.probe;
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& velocities = probe.Velocities();
     const int samples = probe.WorkingSamples();
     for (int i = 0; i < samples; ++i) {
         if (!probe.Counts(i)) {

@@ -35,13 +35,7 @@ void FrameAttributesType::Serialize(Archive& archive) {
 }
 
 void SFrameAtrArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.count(items().size(), kSmallestFrame);
-    if (archive.isLoading()) {
-        items().resize(items().size() + count);
-    }
-    for (std::size_t i = items().size() - count; i < items().size(); ++i) {
-        items()[i].Serialize(archive);
-    }
+    serializeItems(archive, archive.count(items().size(), kSmallestFrame));
 }
 
 }  // namespace vorlan

@@ -84,6 +84,20 @@ class GrowArray : public SObject {
         fresh.resize(size);
         return fresh;
     }
+    /// The elements behind their count, which the archive gives or takes in the list's own width. Loading appends.
+    template <class Archive>
+    void serializeItems(Archive& archive, std::size_t count) {
+        if (archive.isStoring()) {
+            for (T& item : items()) {
+                item.Serialize(archive);
+            }
+            return;
+        }
+        items().reserve(items().size() + count);
+        for (std::size_t i = 0; i < count; ++i) {
+            items().emplace_back().Serialize(archive);
+        }
+    }
     /// Plain elements: their count, then all of them as one block. Loading appends.
     template <class Archive>
     void serializeBlock(Archive& archive) {

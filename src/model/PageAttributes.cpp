@@ -34,13 +34,7 @@ void PageAtrType::Serialize(Archive& archive) {
 }
 
 void SPageAtrArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.shortCount(items().size(), kSmallestPage);
-    if (archive.isLoading()) {
-        items().resize(items().size() + count);
-    }
-    for (std::size_t i = items().size() - count; i < items().size(); ++i) {
-        items()[i].Serialize(archive);
-    }
+    serializeItems(archive, archive.shortCount(items().size(), kSmallestPage));
 }
 
 int pageRecordOfStageCode(int choiceA) {

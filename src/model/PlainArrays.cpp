@@ -13,13 +13,7 @@ void SDArray::Serialize(Archive& archive) {
 }
 
 void SDMultiArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.count(items().size(), sizeof(std::int32_t));
-    if (archive.isLoading()) {
-        items().resize(items().size() + count);
-    }
-    for (std::size_t i = items().size() - count; i < items().size(); ++i) {
-        items()[i].Serialize(archive);
-    }
+    serializeItems(archive, archive.count(items().size(), sizeof(std::int32_t)));
 }
 
 void StrArray::Serialize(Archive& archive) {

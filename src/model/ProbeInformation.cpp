@@ -9,7 +9,7 @@ namespace vorlan {
 
 std::array<double, 3> meanVelocities(const SAdvProbe& probe) {
     std::array<double, 3> sums{};
-    const SMultiArray& velocities = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& velocities = probe.Velocities();
     int count = 0;
     for (int i = 0; i < probe.WorkingSamples(); ++i) {
         if (!probe.Counts(i)) {

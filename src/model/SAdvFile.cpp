@@ -42,17 +42,7 @@ void SAdvFile::Serialize(Archive& archive) {
 }
 
 void SAdvFilesArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.count(items().size(), kSmallestFile);
-    if (archive.isLoading()) {
-        items().reserve(items().size() + count);
-        for (std::size_t i = 0; i < count; ++i) {
-            items().emplace_back().Serialize(archive);
-        }
-    } else {
-        for (SAdvFile& file : items()) {
-            file.Serialize(archive);
-        }
-    }
+    serializeItems(archive, archive.count(items().size(), kSmallestFile));
 }
 
 }  // namespace vorlan

@@ -117,17 +117,7 @@ const STimeSeries& SAdvProbe::Series(int kind) const {
 }
 
 void SAdvProbesArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.count(items().size(), kSmallestProbe);
-    if (archive.isLoading()) {
-        items().reserve(items().size() + count);
-        for (std::size_t i = 0; i < count; ++i) {
-            items().emplace_back().Serialize(archive);
-        }
-    } else {
-        for (SAdvProbe& probe : items()) {
-            probe.Serialize(archive);
-        }
-    }
+    serializeItems(archive, archive.count(items().size(), kSmallestProbe));
 }
 
 }  // namespace vorlan

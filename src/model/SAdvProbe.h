@@ -88,6 +88,42 @@ class SAdvProbe : public SObject {
     static constexpr std::size_t kTimeScales = 1;
     static constexpr std::size_t kSpectrumIntegrals = 4;
 
+    // The tables by what they hold.
+    SMultiArray& Velocities() { return workTables[kVelocities]; }
+    const SMultiArray& Velocities() const { return workTables[kVelocities]; }
+    SMultiArray& CorrelationScores() { return workTables[kCorrelation]; }
+    const SMultiArray& CorrelationScores() const { return workTables[kCorrelation]; }
+    SMultiArray& SignalToNoise() { return workTables[kSignalToNoise]; }
+    const SMultiArray& SignalToNoise() const { return workTables[kSignalToNoise]; }
+    SMultiArray& Compass() { return workTables[kWorkCompass]; }
+    const SMultiArray& Compass() const { return workTables[kWorkCompass]; }
+    SMultiArray& Pressure() { return workTables[kWorkPressure]; }
+    const SMultiArray& Pressure() const { return workTables[kWorkPressure]; }
+    SMultiArray& Stresses() { return workTables[kStresses]; }
+    const SMultiArray& Stresses() const { return workTables[kStresses]; }
+    SMultiArray& CrossForward() { return workTables[kCrossForward]; }
+    const SMultiArray& CrossForward() const { return workTables[kCrossForward]; }
+    SMultiArray& CrossBackward() { return workTables[kCrossBackward]; }
+    const SMultiArray& CrossBackward() const { return workTables[kCrossBackward]; }
+    SMultiArray& CoSpectra() { return workTables[kCoSpectra]; }
+    const SMultiArray& CoSpectra() const { return workTables[kCoSpectra]; }
+    SMultiArray& QuadratureSpectra() { return workTables[kQuadratureSpectra]; }
+    const SMultiArray& QuadratureSpectra() const { return workTables[kQuadratureSpectra]; }
+    SMultiArray& Contributions() { return stageTables[kContributions]; }
+    const SMultiArray& Contributions() const { return stageTables[kContributions]; }
+    SMultiArray& ContributionTimes() { return stageTables[kTimes]; }
+    const SMultiArray& ContributionTimes() const { return stageTables[kTimes]; }
+    SMultiArray& EjectionPattern() { return stageTables[kEjectionPattern]; }
+    const SMultiArray& EjectionPattern() const { return stageTables[kEjectionPattern]; }
+    SMultiArray& SweepPattern() { return stageTables[kSweepPattern]; }
+    const SMultiArray& SweepPattern() const { return stageTables[kSweepPattern]; }
+    SMultiArray& Phase() { return stageTables[kPhase]; }
+    const SMultiArray& Phase() const { return stageTables[kPhase]; }
+    SMultiArray& Coherence() { return stageTables[kCoherence]; }
+    const SMultiArray& Coherence() const { return stageTables[kCoherence]; }
+    SMultiArray& SampledVelocities() { return sampledTables[kVelocities]; }
+    const SMultiArray& SampledVelocities() const { return sampledTables[kVelocities]; }
+
     /// Moments of velocity component 0..2 as the moment block holds them.
     Moments VelocityMoments(int component) const {
         return MomentsAt(scalarResults.data() + kVelocityMoments, component);

@@ -27,17 +27,7 @@ void SArray::StoreValues(std::span<const double> values) {
 }
 
 void SMultiArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.count(items().size(), kSmallestColumn);
-    if (archive.isLoading()) {
-        items().reserve(items().size() + count);
-        for (std::size_t i = 0; i < count; ++i) {
-            items().emplace_back().Serialize(archive);
-        }
-    } else {
-        for (SArray& column : items()) {
-            column.Serialize(archive);
-        }
-    }
+    serializeItems(archive, archive.count(items().size(), kSmallestColumn));
 }
 
 void SMultiArray::Reshape(int columns, double scale) {
@@ -57,13 +47,7 @@ bool SMultiArray::HasNoValues() const {
 }
 
 void SSuperArray::Serialize(Archive& archive) {
-    const std::size_t count = archive.shortCount(items().size(), sizeof(std::int32_t));
-    if (archive.isLoading()) {
-        items().resize(items().size() + count);
-    }
-    for (std::size_t i = items().size() - count; i < items().size(); ++i) {
-        items()[i].Serialize(archive);
-    }
+    serializeItems(archive, archive.shortCount(items().size(), sizeof(std::int32_t)));
 }
 
 }  // namespace vorlan

@@ -36,17 +36,7 @@ void SBndFile::RemoveNode(int index) {
 }
 
 void SBndSet::Serialize(Archive& archive) {
-    const std::size_t count = archive.count(items().size(), kSmallestBoundary);
-    if (archive.isLoading()) {
-        items().reserve(items().size() + count);
-        for (std::size_t i = 0; i < count; ++i) {
-            items().emplace_back().Serialize(archive);
-        }
-    } else {
-        for (SBndFile& boundary : items()) {
-            boundary.Serialize(archive);
-        }
-    }
+    serializeItems(archive, archive.count(items().size(), kSmallestBoundary));
 }
 
 }  // namespace vorlan

@@ -38,13 +38,13 @@ PaneContent correlations(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
     for (int pair = 0; pair < kStressPairs; ++pair) {
         const double factor = correlationFactor(probe, pair, request.value);
-        std::vector<double> values = plotColumn(probe.workTables[SAdvProbe::kCrossBackward], pair, factor);
+        std::vector<double> values = plotColumn(probe.CrossBackward(), pair, factor);
         std::reverse(values.begin(), values.end());
         if (!values.empty()) {
             values.pop_back();
         }
         const double start = -static_cast<double>(values.size()) * probe.samplingInterval;
-        const std::vector<double> forward = plotColumn(probe.workTables[SAdvProbe::kCrossForward], pair, factor);
+        const std::vector<double> forward = plotColumn(probe.CrossForward(), pair, factor);
         values.insert(values.end(), forward.begin(), forward.end());
         diagram.plot.series.push_back(
             curve(std::move(values), SeriesX{start, probe.samplingInterval, {}}, pair, labelOf(pair, request.value)));
@@ -53,12 +53,12 @@ PaneContent correlations(const PaneRequest& request, const SAdvProbe& probe) {
 }
 
 std::vector<double> crossSpectrum(const SAdvProbe& probe, int pair, PhysicalValue value) {
-    const SMultiArray& coSpectra = probe.workTables[SAdvProbe::kCoSpectra];
+    const SMultiArray& coSpectra = probe.CoSpectra();
     if (value == PhysicalValue::Stresses) {
         return plotColumn(coSpectra, pair, -1.0);
     }
     std::vector<double> amplitudes = plotColumn(coSpectra, pair);
-    const std::vector<double> quadrature = plotColumn(probe.workTables[SAdvProbe::kQuadratureSpectra], pair);
+    const std::vector<double> quadrature = plotColumn(probe.QuadratureSpectra(), pair);
     amplitudes.resize(std::min(amplitudes.size(), quadrature.size()));
     for (std::size_t i = 0; i < amplitudes.size(); ++i) {
         amplitudes[i] = std::sqrt(amplitudes[i] * amplitudes[i] + quadrature[i] * quadrature[i]);
@@ -73,7 +73,7 @@ Diagram overFrequency(const PaneRequest& request, const SAdvProbe& probe, Physic
     nameFrequencyUnit(diagram.frame, probe.spectralUnit);
     beginXAtZero(diagram.frame);
     // Quadrature, phase and coherence are shorter than the covariance that sets the frequencies.
-    const int length = SAdvProbe::ColumnLength(probe.workTables[SAdvProbe::kCoSpectra]);
+    const int length = SAdvProbe::ColumnLength(probe.CoSpectra());
     const double step = frequencyStep(length, probe.samplingInterval, static_cast<int>(probe.spectralUnit));
     for (int pair = 0; pair < kStressPairs; ++pair) {
         diagram.plot.series.push_back(curve(valuesOfPair(pair), SeriesX{0.0, step, {}}, pair, labelOf(pair, labels)));
@@ -109,8 +109,8 @@ PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* pr
     if (probe == nullptr) {
         return {};
     }
-    const auto table = [&](std::size_t index) {
-        return [probe, index](int pair) { return plotColumn(probe->stageTables[index], pair); };
+    const auto columnsOf = [](const SMultiArray& table) {
+        return [&table](int pair) { return plotColumn(table, pair); };
     };
     switch (request.pane) {
         case Pane::LeftTop:
@@ -120,9 +120,9 @@ PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* pr
                 request, *probe, request.value, [&](int pair) { return crossSpectrum(*probe, pair, request.value); }));
         case Pane::RightTop:
             return diagramOrMessage(
-                overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kCoherence)));
+                overFrequency(request, *probe, PhysicalValue::Velocities, columnsOf(probe->Coherence())));
         case Pane::RightBottom: {
-            Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, table(SAdvProbe::kPhase));
+            Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, columnsOf(probe->Phase()));
             drawAsPoints(diagram);
             markQuarters(diagram.frame);
             return diagramOrMessage(std::move(diagram));

@@ -85,7 +85,7 @@ TableContent momentsTable(const SAdvProbe& probe, PhysicalValue value) {
     }
     table.title = "    Statistical moments of stresses distributions";
     // The stored block may be older than the marks; it is all there is when the series are not.
-    const SMultiArray& stresses = probe.workTables[SAdvProbe::kStresses];
+    const SMultiArray& stresses = probe.Stresses();
     std::array<const SArray*, 3> columns{};
     for (int pair = 0; pair < std::min(stresses.GetSize(), 3); ++pair) {
         columns[static_cast<std::size_t>(pair)] = stresses.GetAt(pair).IsEmpty() ? nullptr : &stresses.GetAt(pair);

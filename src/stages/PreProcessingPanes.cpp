@@ -74,7 +74,7 @@ Diagram recordDiagram(const PaneRequest& request, const SAdvProbe& probe, const 
 }
 
 PaneContent velocities(const PaneRequest& request, const SAdvProbe& probe) {
-    Diagram diagram = recordDiagram(request, probe, probe.workTables[SAdvProbe::kVelocities], kVelocityLabels);
+    Diagram diagram = recordDiagram(request, probe, probe.Velocities(), kVelocityLabels);
     addRejected(diagram, probe);
     // The probe's caption tells more than the title it begins with (how many spikes were removed).
     std::string& title = diagram.frame.plotTitle;
@@ -85,7 +85,7 @@ PaneContent velocities(const PaneRequest& request, const SAdvProbe& probe) {
 }
 
 PaneContent stresses(const PaneRequest& request, const SAdvProbe& probe) {
-    Diagram diagram = recordDiagram(request, probe, probe.workTables[SAdvProbe::kStresses], kStressLabels);
+    Diagram diagram = recordDiagram(request, probe, probe.Stresses(), kStressLabels);
     addRejected(diagram, probe);
     return diagramOrMessage(std::move(diagram));
 }
@@ -116,8 +116,8 @@ PaneContent qualityScores(const PaneRequest& request, const SAdvProbe& probe) {
         return PaneMessage{kNoQualityText};
     }
     Diagram diagram = newDiagram(request, &probe);
-    addRecord(diagram, probe, beamAverages(probe.workTables[SAdvProbe::kCorrelation]), "Correlation");
-    addRecord(diagram, probe, beamAverages(probe.workTables[SAdvProbe::kSignalToNoise]), "SNR");
+    addRecord(diagram, probe, beamAverages(probe.CorrelationScores()), "Correlation");
+    addRecord(diagram, probe, beamAverages(probe.SignalToNoise()), "SNR");
     addRejected(diagram, probe);
     return diagramOrMessage(std::move(diagram));
 }
@@ -163,13 +163,12 @@ PaneContent describePreProcessing(const PaneRequest& request, const SAdvProbe* p
         case Pane::LeftBottom:
             return qualityScores(request, *probe);
         case Pane::RightTop:
-            return auxiliary(request, *probe, probe->workTables[SAdvProbe::kWorkCompass],
-                             std::array{"Heading", "Pitch", "Roll"});
+            return auxiliary(request, *probe, probe->Compass(), std::array{"Heading", "Pitch", "Roll"});
         case Pane::RightBottom:
             if (request.showTable) {
                 return statisticsTable(*probe);
             }
-            return auxiliary(request, *probe, probe->workTables[SAdvProbe::kWorkPressure], std::array{"Pressure"});
+            return auxiliary(request, *probe, probe->Pressure(), std::array{"Pressure"});
     }
     return {};
 }

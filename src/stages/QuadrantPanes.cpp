@@ -12,26 +12,23 @@ namespace {
 
 constexpr std::array<const char*, 5> kBucketLabels = {"1", "2", "3", "4", "Hole"};
 
-PaneContent byHoleSize(const PaneRequest& request, const SAdvProbe& probe, std::size_t table) {
+Diagram byHoleSize(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table) {
     Diagram diagram = newDiagram(request, &probe);
-    if (table == SAdvProbe::kTimes) {
-        beginYAtZero(diagram.frame);
-    }
     const SeriesX sizes{0.0, holeIncrementOf(probe, request.workspace.settings.holeIncrement), {}};
     for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
         diagram.plot.series.push_back(
-            curve(plotColumn(probe.stageTables[table], q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));
+            curve(plotColumn(table, q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));
     }
-    return diagramOrMessage(std::move(diagram));
+    return diagram;
 }
 
-PaneContent pattern(const PaneRequest& request, const SAdvProbe& probe, std::size_t table) {
+PaneContent pattern(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table) {
     Diagram diagram = newDiagram(request, &probe);
     const auto type = std::min<std::size_t>(probe.quadrantStress, kStressPairComponents.size() - 1);
     const StressPair pair = kStressPairComponents[type];
     int column = 0;
     for (const int component : {pair.first, pair.second}) {
-        std::vector<double> values = plotColumn(probe.stageTables[table], column);
+        std::vector<double> values = plotColumn(table, column);
         const double first = patternLag(0, static_cast<int>(values.size()), probe.samplingInterval);
         const SeriesX times{first, probe.samplingInterval, {}};
         diagram.plot.series.push_back(
@@ -49,13 +46,16 @@ PaneContent describeQuadrants(const PaneRequest& request, const SAdvProbe* probe
     }
     switch (request.pane) {
         case Pane::LeftTop:
-            return byHoleSize(request, *probe, SAdvProbe::kContributions);
+            return diagramOrMessage(byHoleSize(request, *probe, probe->Contributions()));
         case Pane::LeftBottom:
-            return pattern(request, *probe, SAdvProbe::kEjectionPattern);
-        case Pane::RightTop:
-            return byHoleSize(request, *probe, SAdvProbe::kTimes);
+            return pattern(request, *probe, probe->EjectionPattern());
+        case Pane::RightTop: {
+            Diagram times = byHoleSize(request, *probe, probe->ContributionTimes());
+            beginYAtZero(times.frame);
+            return diagramOrMessage(std::move(times));
+        }
         case Pane::RightBottom:
-            return pattern(request, *probe, SAdvProbe::kSweepPattern);
+            return pattern(request, *probe, probe->SweepPattern());
     }
     return {};
 }

@@ -34,7 +34,7 @@ Plane planeOf(const WorkspaceSettings& settings) {
 
 /// False for a record whose columns do not belong together: it has no mean flow.
 bool hasWholeRecord(const SAdvProbe& probe) {
-    const SMultiArray& table = probe.workTables[SAdvProbe::kVelocities];
+    const SMultiArray& table = probe.Velocities();
     return table.GetSize() >= SAdvProbe::kComponents &&
            std::all_of(table.begin(), table.end(),
                        [&](const SArray& column) { return column.GetSize() >= probe.WorkingSamples(); });
@@ -56,7 +56,7 @@ VelocityExtremes velocityExtremes(const SAdvProbe& probe) {
     }
     const int samples = probe.WorkingSamples();
     for (std::size_t c = 0; c < extremes.lowest.size(); ++c) {
-        const SArray& column = probe.workTables[SAdvProbe::kVelocities].GetAt(static_cast<int>(c));
+        const SArray& column = probe.Velocities().GetAt(static_cast<int>(c));
         const auto units = column.view();
         std::int32_t lowest = std::numeric_limits<std::int32_t>::max();
         std::int32_t highest = std::numeric_limits<std::int32_t>::min();
