@@ -24,12 +24,12 @@ void storeFilterSettings(const FilterSettings& dialog, WorkspaceSettings& settin
     settings.filterHalfWidth = dialog.halfWidth;
 }
 
-std::string refusalOf(const FilterSettings& settings) {
+Refusal refusalOf(const FilterSettings& settings) {
     if (settings.halfWidth == 0.0) {
-        return "The filter width should be grater than 0!";
+        return {"The filter width should be grater than 0!", "half_width"};
     }
     if (settings.cutoff == 0.0) {
-        return "The cutoff frequency should be grater than 0!";
+        return {"The cutoff frequency should be grater than 0!", "cutoff"};
     }
     return {};
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Refusal.h"
 #include "model/WorkspaceSettings.h"
 
 namespace vorlan {
@@ -28,7 +29,7 @@ FilterSettings filterSettingsOf(const WorkspaceSettings& settings);
 void storeFilterSettings(const FilterSettings& dialog, WorkspaceSettings& settings);
 
 /// Why the dialog may not be accepted; empty when it may. Only values equal to 0 are refused.
-std::string refusalOf(const FilterSettings& settings);
+Refusal refusalOf(const FilterSettings& settings);
 
 /// The type that a click on a shape selects, and the types that may be chosen afterwards.
 FilterType defaultTypeOf(FilterShape shape);

@@ -12,8 +12,8 @@ void storeHistogramSettings(const HistogramSettings& dialog, WorkspaceSettings& 
     settings.normalApproximation = dialog.normalApproximation ? 1 : 0;
 }
 
-std::string refusalOf(const HistogramSettings& settings) {
-    return settings.grades < 2 ? "Number of grades should be larger than 1!" : "";
+Refusal refusalOf(const HistogramSettings& settings) {
+    return settings.grades < 2 ? Refusal{"Number of grades should be larger than 1!", "grades"} : Refusal{};
 }
 
 }  // namespace vorlan

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "model/Refusal.h"
 #include "model/WorkspaceSettings.h"
 
 namespace vorlan {
@@ -17,6 +16,6 @@ HistogramSettings histogramSettingsOf(const WorkspaceSettings& settings);
 void storeHistogramSettings(const HistogramSettings& dialog, WorkspaceSettings& settings);
 
 /// Why the dialog may not be accepted; empty when it may.
-std::string refusalOf(const HistogramSettings& settings);
+Refusal refusalOf(const HistogramSettings& settings);
 
 }  // namespace vorlan

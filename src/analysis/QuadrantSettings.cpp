@@ -26,21 +26,21 @@ void storeQuadrantSettings(const QuadrantSettings& dialog, WorkspaceSettings& se
     settings.quadrantStress = dialog.stressType;
 }
 
-std::string refusalOf(const QuadrantSettings& settings) {
+Refusal refusalOf(const QuadrantSettings& settings) {
     if (settings.ejectionThreshold < 0.0) {
-        return "The ejection threshold should be grater than 0!";
+        return {"The ejection threshold should be grater than 0!", "ejection"};
     }
     if (settings.maximum < 2.0) {
-        return "The maximum size should be grater than 2!";
+        return {"The maximum size should be grater than 2!", "maximum"};
     }
     if (settings.maximumLag < 2.0) {
-        return "The maximum lag should be grater than 2!";
+        return {"The maximum lag should be grater than 2!", "lag"};
     }
     if (settings.sweepThreshold < 0.0) {
-        return "The sweep threshold should be grater than 0!";
+        return {"The sweep threshold should be grater than 0!", "sweep"};
     }
     if (settings.increment == 0.0) {
-        return "The size increment should be grater than 0!";
+        return {"The size increment should be grater than 0!", "increment"};
     }
     return {};
 }

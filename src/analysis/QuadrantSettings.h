@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "model/Refusal.h"
 #include "model/WorkspaceSettings.h"
 
 namespace vorlan {
@@ -24,6 +23,6 @@ void storeQuadrantSettings(const QuadrantSettings& dialog, WorkspaceSettings& se
 
 /// Why the dialog may not be accepted; empty when it may. The texts promise more than the checks: thresholds of 0, a
 /// maximum of 2, a lag of 2 and a negative increment pass.
-std::string refusalOf(const QuadrantSettings& settings);
+Refusal refusalOf(const QuadrantSettings& settings);
 
 }  // namespace vorlan

@@ -36,12 +36,12 @@ void storeSpectralSettings(const SpectralSettings& dialog, WorkspaceSettings& se
     settings.lastUnitIsRad = unitSelectorOfButton(dialog.unitButton) == 1;
 }
 
-std::string refusalOf(const SpectralSettings& settings) {
+Refusal refusalOf(const SpectralSettings& settings) {
     if (settings.truncationMode == kPercentMode && settings.percent == 0) {
-        return "The truncation point should be grater than 0!";
+        return {"The truncation point should be grater than 0!", "percent"};
     }
     if (settings.truncationMode == kLagsMode && settings.lags < kFewestLags) {
-        return "The truncation point should be grater than 2!";
+        return {"The truncation point should be grater than 2!", "lags"};
     }
     return {};
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "model/Refusal.h"
 #include "model/WorkspaceSettings.h"
 
 namespace vorlan {
@@ -22,7 +21,7 @@ SpectralSettings spectralSettingsOf(const WorkspaceSettings& settings);
 void storeSpectralSettings(const SpectralSettings& dialog, WorkspaceSettings& settings);
 
 /// Why the dialog may not be accepted; empty when it may.
-std::string refusalOf(const SpectralSettings& settings);
+Refusal refusalOf(const SpectralSettings& settings);
 
 int windowCodeOfButton(int windowButton);
 int unitSelectorOfButton(int unitButton);

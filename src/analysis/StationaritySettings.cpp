@@ -11,8 +11,8 @@ void storeStationaritySettings(const StationaritySettings& dialog, WorkspaceSett
     settings.bandCount = dialog.bands;
 }
 
-std::string refusalOf(const StationaritySettings& settings) {
-    return settings.bands < 2 ? "Band number should be larger than 1!" : "";
+Refusal refusalOf(const StationaritySettings& settings) {
+    return settings.bands < 2 ? Refusal{"Band number should be larger than 1!", "bands"} : Refusal{};
 }
 
 }  // namespace vorlan

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "model/Refusal.h"
 #include "model/WorkspaceSettings.h"
 
 namespace vorlan {
@@ -18,6 +17,6 @@ StationaritySettings stationaritySettingsOf(const WorkspaceSettings& settings);
 void storeStationaritySettings(const StationaritySettings& dialog, WorkspaceSettings& settings);
 
 /// Why the dialog may not be accepted; empty when it may.
-std::string refusalOf(const StationaritySettings& settings);
+Refusal refusalOf(const StationaritySettings& settings);
 
 }  // namespace vorlan

@@ -24,11 +24,11 @@ struct StepContext {
     ProbePlace place;
 
     /// What a dialog does with parameters that it does not accept: says why, and true.
-    bool refuses(const std::string& text) {
-        if (!text.empty()) {
-            port.refuse(text);
+    bool refuses(const Refusal& refusal) {
+        if (!refusal.empty()) {
+            port.refuse(refusal.text);
         }
-        return !text.empty();
+        return !refusal.empty();
     }
 };
 

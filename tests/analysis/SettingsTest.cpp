@@ -97,29 +97,35 @@ SpectralSettings truncation(int mode, int percent, int lags) {
 
 TEST(Settings, AreRefusedInTheOrderOfTheirFields) {
     const struct {
-        std::string said;
-        const char* expected;
+        Refusal said;
+        const char* text;
+        const char* field;
     } rows[] = {
-        {refusalOf(filter(0.0, 0.0)), "The filter width should be grater than 0!"},
-        {refusalOf(filter(1.0, 0.0)), "The cutoff frequency should be grater than 0!"},
-        {refusalOf(filter(-1.0, -1.0)), ""},
-        {refusalOf(StationaritySettings{BandMode::Fixed, 1}), "Band number should be larger than 1!"},
-        {refusalOf(StationaritySettings{BandMode::Fixed, 2}), ""},
-        {refusalOf(HistogramSettings{1, 90, true}), "Number of grades should be larger than 1!"},
-        {refusalOf(HistogramSettings{2, 90, true}), ""},
-        {refusalOf(truncation(0, 0, 2)), "The truncation point should be grater than 0!"},
-        {refusalOf(truncation(0, 1, 2)), ""},
-        {refusalOf(truncation(1, 0, 2)), "The truncation point should be grater than 2!"},
-        {refusalOf(truncation(1, 0, 3)), ""},
-        {refusalOf(QuadrantSettings{0.0, 1.9, -0.1, -0.1, 1.9, 1}), "The ejection threshold should be grater than 0!"},
-        {refusalOf(QuadrantSettings{0.0, 1.9, 0.0, -0.1, 1.9, 1}), "The maximum size should be grater than 2!"},
-        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, -0.1, 1.9, 1}), "The maximum lag should be grater than 2!"},
-        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, -0.1, 2.0, 1}), "The sweep threshold should be grater than 0!"},
-        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, 0.0, 2.0, 1}), "The size increment should be grater than 0!"},
-        {refusalOf(QuadrantSettings{-0.1, 2.0, 0.0, 0.0, 2.0, 1}), ""},
+        {refusalOf(filter(0.0, 0.0)), "The filter width should be grater than 0!", "half_width"},
+        {refusalOf(filter(1.0, 0.0)), "The cutoff frequency should be grater than 0!", "cutoff"},
+        {refusalOf(filter(-1.0, -1.0)), "", ""},
+        {refusalOf(StationaritySettings{BandMode::Fixed, 1}), "Band number should be larger than 1!", "bands"},
+        {refusalOf(StationaritySettings{BandMode::Fixed, 2}), "", ""},
+        {refusalOf(HistogramSettings{1, 90, true}), "Number of grades should be larger than 1!", "grades"},
+        {refusalOf(HistogramSettings{2, 90, true}), "", ""},
+        {refusalOf(truncation(0, 0, 2)), "The truncation point should be grater than 0!", "percent"},
+        {refusalOf(truncation(0, 1, 2)), "", ""},
+        {refusalOf(truncation(1, 0, 2)), "The truncation point should be grater than 2!", "lags"},
+        {refusalOf(truncation(1, 0, 3)), "", ""},
+        {refusalOf(QuadrantSettings{0.0, 1.9, -0.1, -0.1, 1.9, 1}), "The ejection threshold should be grater than 0!",
+         "ejection"},
+        {refusalOf(QuadrantSettings{0.0, 1.9, 0.0, -0.1, 1.9, 1}), "The maximum size should be grater than 2!",
+         "maximum"},
+        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, -0.1, 1.9, 1}), "The maximum lag should be grater than 2!", "lag"},
+        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, -0.1, 2.0, 1}), "The sweep threshold should be grater than 0!",
+         "sweep"},
+        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, 0.0, 2.0, 1}), "The size increment should be grater than 0!",
+         "increment"},
+        {refusalOf(QuadrantSettings{-0.1, 2.0, 0.0, 0.0, 2.0, 1}), "", ""},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(row.said, row.expected);
+        EXPECT_EQ(row.said.text, row.text);
+        EXPECT_EQ(row.said.field, row.field);
     }
 }
 

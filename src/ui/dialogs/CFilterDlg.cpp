@@ -77,8 +77,7 @@ bool CFilterDlg::takeFields(FieldReader& reader) {
     read.shape = static_cast<FilterShape>(chosen(shape_, static_cast<int>(values_.shape)));
     read.type = static_cast<FilterType>(chosen(type_, static_cast<int>(values_.type)));
     reader.number(cutoff_, read.cutoff).number(halfWidth_, read.halfWidth);
-    const std::string refusal = refusalOf(read);
-    if (!reader.require(refusal, fieldNamedIn(refusal, {{"width", halfWidth_}, {"cutoff", cutoff_}})).good()) {
+    if (!reader.require(refusalOf(read), {{"half_width", halfWidth_}, {"cutoff", cutoff_}}).good()) {
         return false;
     }
     values_ = read;

@@ -55,7 +55,7 @@ bool CHistDlg::takeFields(FieldReader& reader) {
     HistogramSettings read = values_;
     read.barWidth = barWidth_->value();
     read.normalApproximation = normal_->isChecked();
-    if (!reader.integer(grades_, read.grades).require(refusalOf(read), grades_).good()) {
+    if (!reader.integer(grades_, read.grades).require(refusalOf(read), {{"grades", grades_}}).good()) {
         return false;
     }
     values_ = read;

@@ -178,9 +178,7 @@ bool CPlotOptDlg::takeFields(FieldReader& reader) {
     count(ticksPerMark_, read.ticksPerMark, kLargestCount);
     count(xDigits_, read.xDigits, kLargestDigits);
     count(yDigits_, read.yDigits, kLargestDigits);
-    const std::string refusal = limitsRefusal(read);
-    QWidget* field = fieldNamedIn(refusal, {{"Xmin", xMin_.value}, {"Ymin", yMin_.value}});
-    if (!reader.require(refusal, field, QMessageBox::Ok).good()) {
+    if (!reader.require(limitsRefusal(read), {{"xMin", xMin_.value}, {"yMin", yMin_.value}}, QMessageBox::Ok).good()) {
         return false;
     }
     xMin_.keepStored(read.xMin, chosen_.xMin);

@@ -74,13 +74,10 @@ bool CQuadrDlg::takeFields(FieldReader& reader) {
         .number(ejection_, read.ejectionThreshold)
         .number(sweep_, read.sweepThreshold)
         .number(lag_, read.maximumLag);
-    const std::string refusal = refusalOf(read);
-    QWidget* field = fieldNamedIn(refusal, {{"ejection", ejection_},
-                                            {"maximum size", maximum_},
-                                            {"maximum lag", lag_},
-                                            {"sweep", sweep_},
-                                            {"increment", increment_}});
-    if (!reader.require(refusal, field).good()) {
+    reader.require(
+        refusalOf(read),
+        {{"ejection", ejection_}, {"maximum", maximum_}, {"lag", lag_}, {"sweep", sweep_}, {"increment", increment_}});
+    if (!reader.good()) {
         return false;
     }
     values_ = read;

@@ -110,8 +110,8 @@ bool CSpAnalDlg::takeFields(FieldReader& reader) {
     read.truncationMode = chosen(mode_, values_.truncationMode);
     read.percent = percent_->value();
     read.percentFlag = percentFlag_;
-    QWidget* field = read.truncationMode == kPercentMode ? static_cast<QWidget*>(percent_) : lags_;
-    if (!reader.integer(lags_, read.lags).require(refusalOf(read), field).good()) {
+    reader.integer(lags_, read.lags).require(refusalOf(read), {{"percent", percent_}, {"lags", lags_}});
+    if (!reader.good()) {
         return false;
     }
     values_ = read;

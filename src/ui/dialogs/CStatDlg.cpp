@@ -27,7 +27,7 @@ CStatDlg::CStatDlg(const StationaritySettings& settings, QWidget* parent)
 bool CStatDlg::takeFields(FieldReader& reader) {
     StationaritySettings read = values_;
     read.mode = static_cast<BandMode>(chosen(mode_, static_cast<int>(values_.mode)));
-    if (!reader.integer(bands_, read.bands).require(refusalOf(read), bands_).good()) {
+    if (!reader.integer(bands_, read.bands).require(refusalOf(read), {{"bands", bands_}}).good()) {
         return false;
     }
     values_ = read;

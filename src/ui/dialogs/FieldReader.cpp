@@ -1,5 +1,6 @@
 #include "ui/dialogs/FieldReader.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "model/Text.h"
@@ -56,18 +57,12 @@ FieldReader& FieldReader::integer(IntegerField* field, int& into, int minimum, i
     return *this;
 }
 
-QWidget* fieldNamedIn(const std::string& refusal, std::initializer_list<std::pair<const char*, QWidget*>> fields) {
-    for (const auto& [word, field] : fields) {
-        if (refusal.find(word) != std::string::npos) {
-            return field;
-        }
-    }
-    return nullptr;
-}
-
-FieldReader& FieldReader::require(const std::string& refusal, QWidget* field, QMessageBox::StandardButtons buttons) {
+FieldReader& FieldReader::require(const Refusal& refusal, NamedFields fields, QMessageBox::StandardButtons buttons) {
     if (good_ && !refusal.empty()) {
-        refuse({QMessageBox::Critical, QString::fromStdString(refusal), buttons}, field);
+        const auto* const named =
+            std::find_if(fields.begin(), fields.end(), [&](const auto& field) { return field.first == refusal.field; });
+        refuse({QMessageBox::Critical, QString::fromStdString(refusal.text), buttons},
+               named != fields.end() ? named->second : nullptr);
     }
     return *this;
 }

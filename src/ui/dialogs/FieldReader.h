@@ -1,9 +1,10 @@
 #pragma once
 
 #include <initializer_list>
-#include <string>
+#include <string_view>
 #include <utility>
 
+#include "model/Refusal.h"
 #include "ui/dialogs/DialogMessage.h"
 #include "ui/dialogs/NumberFields.h"
 
@@ -23,8 +24,10 @@ class FieldReader {
     FieldReader& integer(IntegerField* field, int& into);
     FieldReader& integer(IntegerField* field, int& into, int minimum, int maximum);
 
-    /// A refusal with the stop icon; an empty text passes. The field gets the focus when there is one that is enabled.
-    FieldReader& require(const std::string& refusal, QWidget* field,
+    /// The fields by the names that refusals give them.
+    using NamedFields = std::initializer_list<std::pair<std::string_view, QWidget*>>;
+    /// A refusal with the stop icon; an empty one passes. Its field gets the focus when it is enabled.
+    FieldReader& require(const Refusal& refusal, NamedFields fields,
                          QMessageBox::StandardButtons buttons = QMessageBox::Ok | QMessageBox::Cancel);
 
     bool good() const { return good_; }
@@ -36,8 +39,5 @@ class FieldReader {
     const MessageFunction& show_;
     bool good_ = true;
 };
-
-/// The field that a refusal speaks of, told by a word of its text; none when no word occurs.
-QWidget* fieldNamedIn(const std::string& refusal, std::initializer_list<std::pair<const char*, QWidget*>> fields);
 
 }  // namespace vorlan
