@@ -11,12 +11,12 @@
 #include "model/StageTable.h"
 #include "model/StoreValue.h"
 #include "model/Text.h"
+#include "model/Units.h"
 
 namespace vorlan {
 
 namespace {
 
-constexpr double kGravity = 981.0;  // cm/s^2
 constexpr const char* kTitle = "Cleaned-up time series";
 
 /// Three columns that all cover the working record, read and written where they lie: nobody else may change or copy

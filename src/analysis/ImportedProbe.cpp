@@ -12,7 +12,6 @@ namespace {
 using Column = RecordColumns::Column;
 
 constexpr double kOtherResolution = 0.001;
-constexpr double kMillimetre = 0.001;  // in metres
 
 void store(SMultiArray& table, std::initializer_list<std::vector<double>> columns, double resolution) {
     table.Reshape(static_cast<int>(columns.size()), resolution);
@@ -83,9 +82,7 @@ SAdvProbe importedProbe(const RecordColumns& record, const ImportSettings& setti
     SAdvProbe probe;
     probe.probeNumber = settings.probeNumber;
     probe.samplingInterval = settings.samplingInterval;
-    probe.samplingVolumeX = settings.position[0] / kMillimetre;
-    probe.samplingVolumeY = settings.position[1] / kMillimetre;
-    probe.samplingVolumeZ = settings.position[2] / kMillimetre;
+    probe.SetPosition(settings.position);
     auto& tables = probe.sampledTables;
     store(tables[SAdvProbe::kVelocities],
           {bridged(record, Column::U), bridged(record, Column::V), bridged(record, Column::W)}, settings.resolution);

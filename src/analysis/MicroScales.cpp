@@ -2,13 +2,14 @@
 
 #include <cmath>
 
+#include "model/Units.h"
+
 namespace vorlan {
 
 namespace {
 // The cube of the viscosity as the scale is defined with it, rounded more coarsely than the viscosity itself.
 constexpr double kViscosityCubed = 1.01e-6;
 constexpr double kViscosity = 0.0101;  // of water, cm^2/s
-constexpr double kGravity = 981.0;     // cm/s^2
 }  // namespace
 
 double kolmogorovMicroScale(double dissipationRate) {

@@ -10,7 +10,6 @@ namespace vorlan {
 namespace {
 
 constexpr const char* kTitle = "New Coordinate System";
-constexpr double kMetresPerMillimetre = 0.001;
 
 void rotateColumns(SArray& first, SArray& second, int samples, double angle, Progress& progress) {
     if (angle == 0.0) {
@@ -49,9 +48,7 @@ void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll, Pr
 
 void changeCoordinateSystem(SAdvProbe& probe, const RotationSettings& settings, Progress& progress) {
     progress.status("Coordinate rotation calculations: ");
-    probe.samplingVolumeX = settings.position[0] / kMetresPerMillimetre;
-    probe.samplingVolumeY = settings.position[1] / kMetresPerMillimetre;
-    probe.samplingVolumeZ = settings.position[2] / kMetresPerMillimetre;
+    probe.SetPosition(settings.position);
     rotateProbe(probe, settings.heading, settings.pitch, settings.roll, progress);
     formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, kTitle);

@@ -3,14 +3,12 @@
 namespace vorlan {
 
 namespace {
-constexpr double kMetresPerMillimetre = 0.001;
 constexpr std::uint32_t kEarthCoordinates = 2;
 }  // namespace
 
 RotationSettings rotationSettingsOf(const SAdvProbe& probe) {
     RotationSettings settings;
-    settings.position = {probe.samplingVolumeX * kMetresPerMillimetre, probe.samplingVolumeY * kMetresPerMillimetre,
-                         probe.samplingVolumeZ * kMetresPerMillimetre};
+    settings.position = probe.Position();
     return settings;
 }
 

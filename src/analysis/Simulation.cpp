@@ -11,7 +11,6 @@ namespace vorlan {
 namespace {
 
 constexpr double kResolution = 0.001;
-constexpr double kMillimetre = 0.001;  // in metres
 constexpr double kPiOfHarmonics = 3.141592;
 constexpr double kTwoPiOfHarmonics = 6.283184;
 constexpr double kCorrelationDeviation = 2.0;
@@ -74,9 +73,7 @@ SAdvFile simulate(const SimulationParameters& parameters, std::uint64_t seed) {
 
     SAdvProbe probe;
     probe.samplingInterval = interval;
-    probe.samplingVolumeX = parameters.position[0] / kMillimetre;
-    probe.samplingVolumeY = parameters.position[1] / kMillimetre;
-    probe.samplingVolumeZ = parameters.position[2] / kMillimetre;
+    probe.SetPosition(parameters.position);
     for (const std::size_t table : {SAdvProbe::kVelocities, SAdvProbe::kCorrelation, SAdvProbe::kSignalToNoise}) {
         probe.sampledTables[table].Reshape(kColumns, kResolution);
     }

@@ -33,11 +33,11 @@ FlowDirections meanFlowDirections(const std::array<double, 3>& meanVelocity) {
 
 std::vector<std::string> probeInformation(const SAdvProbe& probe) {
     const FlowDirections directions = meanFlowDirections(meanVelocities(probe));
+    const std::array<double, 3> position = probe.Position();
     return {
         "Current measuring point:",
         "Sampling Volume Coordinates:",
-        formatted("X = %.2f     Y = %.2f     Z = %.2f", probe.samplingVolumeX * 0.001, probe.samplingVolumeY * 0.001,
-                  probe.samplingVolumeZ * 0.001),
+        formatted("X = %.2f     Y = %.2f     Z = %.2f", position[0], position[1], position[2]),
         "Mean Flow Direction [deg]:",
         formatted("Heading = %.2f", directions.heading),
         formatted("Roll        = %.2f", directions.roll),

@@ -10,6 +10,7 @@
 #include "model/STabsArray.h"
 #include "model/STimeSeries.h"
 #include "model/Stages.h"
+#include "model/Units.h"
 
 namespace vorlan {
 
@@ -123,6 +124,17 @@ class SAdvProbe : public SObject {
     const SMultiArray& Coherence() const { return stageTables[kCoherence]; }
     SMultiArray& SampledVelocities() { return sampledTables[kVelocities]; }
     const SMultiArray& SampledVelocities() const { return sampledTables[kVelocities]; }
+
+    /// Place of the sampling volume: X, Y, Z in metres.
+    std::array<double, kComponents> Position() const {
+        return {samplingVolumeX * kMetresPerMillimetre, samplingVolumeY * kMetresPerMillimetre,
+                samplingVolumeZ * kMetresPerMillimetre};
+    }
+    void SetPosition(const std::array<double, kComponents>& metres) {
+        samplingVolumeX = metres[0] / kMetresPerMillimetre;
+        samplingVolumeY = metres[1] / kMetresPerMillimetre;
+        samplingVolumeZ = metres[2] / kMetresPerMillimetre;
+    }
 
     /// Moments of velocity component 0..2 as the moment block holds them.
     Moments VelocityMoments(int component) const {

@@ -57,6 +57,9 @@ struct Diagram {
     std::vector<PointLabel> labels;
 };
 
+/// What a pane says in the place of a diagram without a value.
+inline constexpr const char* kNoDataText = "No data to plot ! Reset series to continue.";
+
 /// A ruled text table. The first header is that of the row titles. A row may have fewer values than there are columns.
 struct TableContent {
     struct Row {

@@ -13,7 +13,6 @@ namespace vorlan {
 
 namespace {
 
-constexpr char kNoData[] = "No data to plot ! Reset series to continue.";
 constexpr char kTooSmall[] = "Increase Size to View Data";
 constexpr int kPanelGap = 8;
 constexpr int kPanelLineGap = 2;
@@ -71,7 +70,7 @@ class PanePainter {
     std::optional<CScreenUtils> operator()(const Diagram& diagram) {
         const FrameLayout layout = SPlotFrame(diagram, measure_, options_.lengthScale).layout(paneBox());
         if (layout.state == FrameLayout::State::NoData) {
-            return (*this)(PaneMessage{kNoData});
+            return (*this)(PaneMessage{kNoDataText});
         }
         if (layout.state == FrameLayout::State::TooSmall) {
             return (*this)(PaneMessage{kTooSmall});

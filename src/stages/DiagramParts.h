@@ -9,8 +9,6 @@
 
 namespace vorlan {
 
-inline constexpr const char* kNoDataText = "No data to plot ! Reset series to continue.";
-
 /// Labels of the series by component and by stress pair.
 inline constexpr std::array<const char*, 3> kVelocityLabels = {"Ux", "Uy", "Uz"};
 inline constexpr std::array<const char*, 3> kStressLabels = {"u'v'", "u'w'", "v'w'"};
