@@ -17,60 +17,55 @@ constexpr int kCrossSpectralBarOffset = 200;
 
 }  // namespace
 
-Outcome CVorl_ADVDoc::Analyse(Stage stage, const Analysis& analysis, int progressOffset) {
-    const Outcome outcome = RunOnProbe(
-        [&](SAdvProbe& copy, Progress& progress) {
-            const std::string refusal = analysis(copy, progress);
-            if (!refusal.empty()) {
-                port_->refuse(refusal);
-            }
-            return refusal.empty() ? Outcome::Done : Outcome::Refused;
-        },
-        progressOffset);
-    if (outcome == Outcome::Done) {
-        EnterStage(stage);
-    }
+Outcome CVorl_ADVDoc::Analyse(const ProbeCommand& command, const Analysis& analysis) {
+    const Outcome outcome = RunOnProbe(command, [&](SAdvProbe& copy, Progress& progress) {
+        const std::string refusal = analysis(copy, progress);
+        if (!refusal.empty()) {
+            port_->refuse(refusal);
+        }
+        return refusal.empty() ? Outcome::Done : Outcome::Refused;
+    });
     Tell(outcome == Outcome::Done ? Change::Content : Change::View);
     return outcome;
 }
 
 Outcome CVorl_ADVDoc::StationarityAnalysis(const StationaritySettings& settings) {
-    storeStationaritySettings(settings, workspace_.settings);
-    SetModified();
-    return Analyse(Stage::Stationarity,
+    ProbeCommand command{.name = "Stationarity Analysis", .settings = Settings(), .stage = Stage::Stationarity};
+    storeStationaritySettings(settings, *command.settings);
+    return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseStationarity(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::Distributions(const HistogramSettings& settings) {
-    storeHistogramSettings(settings, workspace_.settings);
-    SetModified();
-    return Analyse(Stage::Histograms,
+    ProbeCommand command{.name = "Histograms", .settings = Settings(), .stage = Stage::Histograms};
+    storeHistogramSettings(settings, *command.settings);
+    return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseDistributions(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralSettings& settings) {
-    storeSpectralSettings(settings, workspace_.settings);
-    SetModified();
-    return Analyse(
-        Stage::Spectral,
-        [&](SAdvProbe& copy, Progress& progress) {
-            const SpectralRun run = spectralRunOf(settings, countedSamples(copy));
-            workspace_.settings.lastTruncationPoint = run.lags;
-            return analyseSpectra(copy, run, progress);
-        },
-        kSpectralBarOffset);
+    ProbeCommand command{.name = "Spectral Analysis",
+                         .progressOffset = kSpectralBarOffset,
+                         .settings = Settings(),
+                         .stage = Stage::Spectral};
+    storeSpectralSettings(settings, *command.settings);
+    return Analyse(command, [&](SAdvProbe& copy, Progress& progress) {
+        const SpectralRun run = spectralRunOf(settings, countedSamples(copy));
+        command.settings->lastTruncationPoint = run.lags;
+        return analyseSpectra(copy, run, progress);
+    });
 }
 
 Outcome CVorl_ADVDoc::CrossSpectralAnalysis() {
-    return Analyse(
-        Stage::CrossSpectral, [](SAdvProbe& copy, Progress& progress) { return analyseCrossSpectra(copy, progress); },
-        kCrossSpectralBarOffset);
+    const ProbeCommand command{
+        .name = "Cross-Spectral Analysis", .progressOffset = kCrossSpectralBarOffset, .stage = Stage::CrossSpectral};
+    return Analyse(command, [](SAdvProbe& copy, Progress& progress) { return analyseCrossSpectra(copy, progress); });
 }
 
 Outcome CVorl_ADVDoc::QuadrantsAnalysis(const QuadrantSettings& settings) {
-    storeQuadrantSettings(settings, workspace_.settings);
-    SetModified();
-    return Analyse(Stage::Quadrants,
+    ProbeCommand command{.name = "Quadrants Analysis and Averaging", .settings = Settings(), .stage = Stage::Quadrants};
+    storeQuadrantSettings(settings, *command.settings);
+    return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseQuadrants(copy, settings, progress); });
 }
 

@@ -13,6 +13,8 @@ namespace {
 // Where the progress bar of repeated stages stands, pixels from the left edge of the first status pane.
 constexpr int kRepeatBarOffset = 170;
 
+constexpr const char* kFrameCommand = "Plot Frame Options";
+
 /// What an analysis tells, handed to the document's port.
 class PortProgress : public Progress {
   public:
@@ -47,6 +49,14 @@ class RunningScope {
     bool& running_;
     DocumentPort& port_;
 };
+
+void setFrame(SFrameAtrArray& frames, int record, const FrameAttributesType& frame,
+              const std::function<FrameAttributesType(int)>& defaultOf) {
+    for (int i = frames.GetSize(); i < record; ++i) {
+        frames.Add(defaultOf(i));
+    }
+    frames.SetAt(record, frame);
+}
 
 }  // namespace
 
@@ -88,21 +98,33 @@ bool CVorl_ADVDoc::IsChangedOnDisk() const {
     return stamp_ && now && *now != *stamp_;
 }
 
-Outcome CVorl_ADVDoc::RunOnProbe(const ProbeOperation& operation, int progressOffset) {
-    if (!HasProbe() || running_) {
+void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch) {
+    patch.Exchange(workspace_);
+    if (command != nullptr) {
+        modified_ = true;
+    }
+}
+
+WorkspacePatch CVorl_ADVDoc::PatchOf(SAdvProbe probe) const {
+    WorkspacePatch patch;
+    patch.probes.push_back({ActiveFile(), ActiveProbe(), std::move(probe)});
+    return patch;
+}
+
+Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperation& operation) {
+    if (running_) {
         return Outcome::Refused;
     }
-    Outcome outcome = Outcome::Done;
+    Outcome outcome = Outcome::Refused;
     std::string failure;
-    {
-        RunningScope scope(running_, *port_, progressOffset);
+    if (HasProbe()) {
+        RunningScope scope(running_, *port_, command.progressOffset);
         try {
             SAdvProbe copy = Probe();
             PortProgress progress(*port_);
             outcome = operation(copy, progress);
             if (outcome == Outcome::Done) {
-                ProbeForWriting() = std::move(copy);
-                SetModified();
+                WriteDone(command, std::move(copy));
             }
         } catch (const Cancelled&) {
             outcome = Outcome::Cancelled;
@@ -112,11 +134,24 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeOperation& operation, int progressOf
             failure = "Out of memory.";
         }
     }
+    if (outcome != Outcome::Done && command.settings.has_value()) {
+        Write(command.name, {.settings = command.settings});
+    }
     if (!failure.empty()) {
         port_->refuse(failure);
         outcome = Outcome::Refused;
     }
     return outcome;
+}
+
+void CVorl_ADVDoc::WriteDone(const ProbeCommand& command, SAdvProbe probe) {
+    WorkspaceSettings settings = command.settings.value_or(Settings());
+    if (command.stage.has_value()) {
+        EnterStage(*command.stage, probe, settings);
+    }
+    WorkspacePatch patch = PatchOf(std::move(probe));
+    patch.settings = settings;
+    Write(command.name, std::move(patch));
 }
 
 void CVorl_ADVDoc::ApplyChangeRule(SAdvProbe& copy, Progress& progress) {
@@ -133,22 +168,17 @@ void CVorl_ADVDoc::SetFrame(int group, int record, const FrameAttributesType& fr
     if (!HasProbe()) {
         throw InvalidArgument();
     }
-    SFrameAtrArray& frames = ProbeForWriting().frameAttributes.at(static_cast<std::size_t>(group));
-    for (int i = frames.GetSize(); i < record; ++i) {
-        frames.Add(defaultFrame(group, i));
-    }
-    frames.SetAt(record, frame);
-    SetModified();
+    SAdvProbe probe = Probe();
+    setFrame(probe.frameAttributes.at(static_cast<std::size_t>(group)), record, frame,
+             [group](int i) { return defaultFrame(group, i); });
+    Write(kFrameCommand, PatchOf(std::move(probe)));
     Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
-    SFrameAtrArray& frames = workspace_.dataFiles.frameAttributes;
-    for (int i = frames.GetSize(); i < record; ++i) {
-        frames.Add(defaultPlanFrame(i));
-    }
-    frames.SetAt(record, frame);
-    SetModified();
+    SFrameAtrArray frames = workspace_.dataFiles.frameAttributes;
+    setFrame(frames, record, frame, defaultPlanFrame);
+    Write(kFrameCommand, {.planFrames = std::move(frames)});
     Tell(Change::Content);
 }
 

@@ -17,6 +17,7 @@
 #include "analysis/SpectralSettings.h"
 #include "analysis/StationaritySettings.h"
 #include "app/DocumentPort.h"
+#include "app/WorkspacePatch.h"
 #include "io/FileStamp.h"
 #include "model/Workspace.h"
 
@@ -44,8 +45,8 @@ struct MeanVelocitySettings {
 /// The workspace document: the model, the selection, the parameters, and every command of the user. It knows no
 /// window; questions and progress go through its port, changes are told to one listener.
 ///
-/// A command copies the active probe, works on the copy and writes it back at its end, so an error or a cancelled run
-/// leaves nothing half-done.
+/// A command works on copies of what it changes and hands them to Write() at its end, the one door to the workspace:
+/// an error or a cancelled run leaves nothing half-done.
 class CVorl_ADVDoc {
   public:
     explicit CVorl_ADVDoc(DocumentPort& port) : port_(&port) {}
@@ -100,14 +101,15 @@ class CVorl_ADVDoc {
     void SelectActivePane(Pane pane);
     /// Table or diagram in the right bottom pane.
     void ShowTable(bool on);
-    /// Compares selection and stage with those of the last test, and takes them over when anything differs.
-    bool TestSelectionChange();
+    /// For a caller that worked through many probes: selects the file, probe and tab that were found before. An index
+    /// out of range counts as no selection.
+    void RestoreSelection(const WorkspaceSettings& found);
 
     // Data files.
 
     Outcome CloseFile();
-    /// Appends a data file made elsewhere and selects it, without a probe.
-    void AppendFile(SAdvFile file);
+    /// Appends a data file made elsewhere and selects it, without a probe. command names where it comes from.
+    void AppendFile(SAdvFile file, const char* command = "Import Table");
     Outcome SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed);
 
     // Pre-processing. Each ends with the change rule: when a stage of the probe is done, the user is asked whether all
@@ -133,7 +135,7 @@ class CVorl_ADVDoc {
 
     // Tools and attributes.
 
-    Outcome SetMeanVelocity(const MeanVelocitySettings& settings);
+    Outcome SetMeanVelocity(const MeanVelocitySettings& chosen);
     MeanVelocitySettings GetMeanVelocity() const;
     /// The stored attributes of a diagram of the active probe, created from the defaults when there are none.
     void SetFrame(int group, int record, const FrameAttributesType& frame);
@@ -143,27 +145,43 @@ class CVorl_ADVDoc {
     /// Mean velocity magnitude of the active probe's series, cm/s; nothing without a probe.
     std::optional<double> AveragedVelocity() const;
 
-    /// For a caller that works through many probes: restores what the last line of a recipe found.
-    WorkspaceSettings& MutableSettings() { return workspace_.settings; }
-
   private:
     using ProbeOperation = std::function<Outcome(SAdvProbe& copy, Progress& progress)>;
     /// Returns why it is refused, empty when done.
     using Analysis = std::function<std::string(SAdvProbe& copy, Progress& progress)>;
 
-    SAdvProbe& ProbeForWriting();
-    /// Runs operation on a copy of the active probe and writes the copy back when it is done.
-    Outcome RunOnProbe(const ProbeOperation& operation, int progressOffset);
+    /// A command on the active probe.
+    struct ProbeCommand {
+        const char* name;
+        int progressOffset = -1;
+        /// The parameters as the command stores them, whatever comes of its run.
+        std::optional<WorkspaceSettings> settings = std::nullopt;
+        /// The stage that the probe enters when the command is done.
+        std::optional<Stage> stage = std::nullopt;
+    };
+
+    /// The one way in which anything is written into the workspace. command names what the user did; without a name
+    /// something was only selected, which does not count as a modification.
+    void Write(const char* command, WorkspacePatch patch);
+    void Select(WorkspacePatch patch) { Write(nullptr, std::move(patch)); }
+    /// Runs operation on a copy of the active probe and writes the copy when it is done. The operation may still edit
+    /// the command's settings.
+    Outcome RunOnProbe(const ProbeCommand& command, const ProbeOperation& operation);
     /// RunOnProbe for a change of the working series: change, then the change rule, then the probe's moments.
-    Outcome ChangeSeries(const ProbeOperation& change);
-    /// RunOnProbe for an analysis; says why it is refused, or enters its stage when it is done.
-    Outcome Analyse(Stage stage, const Analysis& analysis, int progressOffset = -1);
+    Outcome ChangeSeries(const ProbeCommand& command, const ProbeOperation& change);
+    /// RunOnProbe for an analysis; says why it is refused.
+    Outcome Analyse(const ProbeCommand& command, const Analysis& analysis);
     /// The question that every change of the working series ends with; OK repeats the done stages on the copy.
     void ApplyChangeRule(SAdvProbe& copy, Progress& progress);
-    /// Appends the stage's tab to the active probe when it has none and makes the stage current.
-    void EnterStage(Stage stage);
-    void StoreStageOfTab(int tabIndex);
-    void SetModified() { modified_ = true; }
+    /// Writes what a command made of the active probe, its settings and the stage that it enters.
+    void WriteDone(const ProbeCommand& command, SAdvProbe probe);
+    WorkspacePatch PatchOf(SAdvProbe probe) const;
+    /// The active probe with another tab selected, and the settings that say so.
+    WorkspacePatch PatchOfTab(int tabIndex) const;
+    /// Appends the stage's tab when the probe has none and makes the stage current.
+    static void EnterStage(Stage stage, SAdvProbe& probe, WorkspaceSettings& settings);
+    /// What is selected becomes what was selected before.
+    static void TakeOverSelection(WorkspaceSettings& settings);
     void Tell(Change change) const;
 
     DocumentPort* port_;

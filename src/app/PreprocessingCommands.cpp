@@ -6,33 +6,29 @@
 
 namespace vorlan {
 
-Outcome CVorl_ADVDoc::ChangeSeries(const ProbeOperation& change) {
-    const Outcome outcome = RunOnProbe(
-        [&](SAdvProbe& copy, Progress& progress) {
-            const Outcome changed = change(copy, progress);
-            if (changed == Outcome::Done) {
-                ApplyChangeRule(copy, progress);
-            }
-            return changed;
-        },
-        -1);
+Outcome CVorl_ADVDoc::ChangeSeries(const ProbeCommand& command, const ProbeOperation& change) {
+    const Outcome outcome = RunOnProbe(command, [&](SAdvProbe& copy, Progress& progress) {
+        const Outcome changed = change(copy, progress);
+        if (changed == Outcome::Done) {
+            ApplyChangeRule(copy, progress);
+        }
+        return changed;
+    });
     Tell(outcome == Outcome::Done ? Change::Content : Change::View);
     return outcome;
 }
 
 Outcome CVorl_ADVDoc::EnterZoomMode() {
-    const Outcome outcome = RunOnProbe(
-        [](SAdvProbe& copy, Progress&) {
-            enterZoomMode(copy);
-            return Outcome::Done;
-        },
-        -1);
+    const Outcome outcome = RunOnProbe({.name = "Zoom"}, [](SAdvProbe& copy, Progress&) {
+        enterZoomMode(copy);
+        return Outcome::Done;
+    });
     Tell(Change::Content);
     return outcome;
 }
 
 Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
-    return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+    return ChangeSeries({.name = "Clipping"}, [&](SAdvProbe& copy, Progress& progress) {
         if (!clip(copy, tStart, tEnd, progress)) {
             port_->refuse(kClippingLimitsWrong);
             return Outcome::Refused;
@@ -42,33 +38,32 @@ Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
 }
 
 Outcome CVorl_ADVDoc::ResetTimeSeries() {
-    return ChangeSeries([](SAdvProbe& copy, Progress& progress) {
+    return ChangeSeries({.name = "Reset Time Series"}, [](SAdvProbe& copy, Progress& progress) {
         resetProbe(copy, progress);
         return Outcome::Done;
     });
 }
 
 Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
-    return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+    return ChangeSeries({.name = "Coordinate System"}, [&](SAdvProbe& copy, Progress& progress) {
         changeCoordinateSystem(copy, settings, progress);
         return Outcome::Done;
     });
 }
 
 Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
-    storeEditingSettings(settings, workspace_.settings);
-    SetModified();
-    const Outcome outcome = ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+    ProbeCommand command{.name = "Editing Time Series", .settings = Settings()};
+    storeEditingSettings(settings, *command.settings);
+    return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         lastEditing_ = editSeries(copy, settings, progress);
         return Outcome::Done;
     });
-    return outcome;
 }
 
 Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
-    storeFilterSettings(settings, workspace_.settings);
-    SetModified();
-    return ChangeSeries([&](SAdvProbe& copy, Progress& progress) {
+    ProbeCommand command{.name = "Digital Filtration", .settings = Settings()};
+    storeFilterSettings(settings, *command.settings);
+    return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         const FilterDecision decision = filterSeries(copy, settings, progress);
         for (const std::string& refusal : decision.refusals) {
             port_->refuse(refusal);

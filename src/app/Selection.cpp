@@ -4,6 +4,41 @@
 
 namespace vorlan {
 
+namespace {
+
+int shownTabOf(const SAdvProbe& probe, int activeItem) {
+    const STabsArray& tabs = probe.tabItems;
+    if (tabs.IsEmpty()) {
+        return -1;
+    }
+    const auto valid = [&](int index) { return index >= 0 && index < tabs.GetSize(); };
+    if (valid(activeItem)) {
+        return activeItem;
+    }
+    if (valid(probe.selectedTab)) {
+        return probe.selectedTab;
+    }
+    // Some workspaces hold the stage number where the tab's index is meant.
+    const int ofStage = tabs.IndexOfStage(probe.selectedTab);
+    return ofStage >= 0 ? ofStage : 0;
+}
+
+/// Selects a tab of the active probe, and the stage that it stands for.
+void selectTab(int tabIndex, SAdvProbe& probe, WorkspaceSettings& settings) {
+    settings.activeItem = tabIndex;
+    probe.SetSelectedTab(tabIndex);
+    const STabsArray& tabs = probe.tabItems;
+    if (tabIndex < 0 || tabIndex >= tabs.GetSize()) {
+        return;
+    }
+    if (const StageRow* row = stageNumbered(tabs.GetAt(tabIndex).imageIndex)) {
+        settings.choiceA = static_cast<int>(row->stage) + 1;
+        settings.displaySwitch = row->opensWithTable() ? 1 : 0;
+    }
+}
+
+}  // namespace
+
 int CVorl_ADVDoc::ActiveFile() const {
     const int index = workspace_.settings.activeFile;
     return index >= 0 && index < workspace_.dataFiles.files.GetSize() ? index : -1;
@@ -25,25 +60,8 @@ const SAdvProbe& CVorl_ADVDoc::Probe() const {
     return File().probes.GetAt(ActiveProbe());
 }
 
-SAdvProbe& CVorl_ADVDoc::ProbeForWriting() {
-    return workspace_.dataFiles.files.ElementAt(ActiveFile()).probes.ElementAt(ActiveProbe());
-}
-
 int CVorl_ADVDoc::ShownTab() const {
-    if (!HasProbe() || Probe().tabItems.IsEmpty()) {
-        return -1;
-    }
-    const STabsArray& tabs = Probe().tabItems;
-    const auto valid = [&](int index) { return index >= 0 && index < tabs.GetSize(); };
-    if (valid(workspace_.settings.activeItem)) {
-        return workspace_.settings.activeItem;
-    }
-    if (valid(Probe().selectedTab)) {
-        return Probe().selectedTab;
-    }
-    // Some workspaces hold the stage number where the tab's index is meant.
-    const int ofStage = tabs.IndexOfStage(Probe().selectedTab);
-    return ofStage >= 0 ? ofStage : 0;
+    return HasProbe() ? shownTabOf(Probe(), workspace_.settings.activeItem) : -1;
 }
 
 int CVorl_ADVDoc::StageCode() const {
@@ -84,85 +102,101 @@ void CVorl_ADVDoc::SelectFile(int index) {
     if (index < 0 || index >= workspace_.dataFiles.files.GetSize()) {
         return;
     }
-    workspace_.settings.activeFile = index;
-    workspace_.settings.activeProbe = -1;
-    workspace_.settings.activeItem = -1;
-    if (!File().probes.IsEmpty()) {
-        SelectProbe(0);
-        return;
+    WorkspaceSettings settings = Settings();
+    settings.activeFile = index;
+    settings.activeProbe = -1;
+    settings.activeItem = -1;
+    const bool hasProbes = !workspace_.dataFiles.files.GetAt(index).probes.IsEmpty();
+    if (!hasProbes) {
+        TakeOverSelection(settings);
     }
-    TestSelectionChange();
-    Tell(Change::Content);
+    Select({.settings = settings});
+    if (hasProbes) {
+        SelectProbe(0);
+    } else {
+        Tell(Change::Content);
+    }
 }
 
 void CVorl_ADVDoc::SelectProbe(int index) {
     if (!HasFile() || index < 0 || index >= File().probes.GetSize()) {
         return;
     }
-    workspace_.settings.activeProbe = index;
+    WorkspaceSettings settings = Settings();
+    settings.activeProbe = index;
     // The tab of the probe before says nothing about this one.
-    workspace_.settings.activeItem = -1;
+    settings.activeItem = -1;
+    Select({.settings = settings});
     SelectStage(ShownTab());
 }
 
 void CVorl_ADVDoc::SelectStage(int tabIndex) {
-    StoreStageOfTab(tabIndex);
-    TestSelectionChange();
+    WorkspacePatch patch = PatchOfTab(tabIndex);
+    TakeOverSelection(*patch.settings);
+    Select(std::move(patch));
     Tell(Change::Content);
 }
 
-void CVorl_ADVDoc::StoreStageOfTab(int tabIndex) {
-    WorkspaceSettings& settings = workspace_.settings;
+WorkspacePatch CVorl_ADVDoc::PatchOfTab(int tabIndex) const {
+    WorkspacePatch patch;
+    WorkspaceSettings settings = Settings();
     settings.activeItem = tabIndex;
-    if (!HasProbe()) {
-        return;
+    if (HasProbe()) {
+        SAdvProbe probe = Probe();
+        selectTab(tabIndex, probe, settings);
+        patch = PatchOf(std::move(probe));
     }
-    ProbeForWriting().SetSelectedTab(tabIndex);
-    const STabsArray& tabs = Probe().tabItems;
-    if (tabIndex < 0 || tabIndex >= tabs.GetSize()) {
-        return;
-    }
-    if (const StageRow* row = stageNumbered(tabs.GetAt(tabIndex).imageIndex)) {
-        settings.choiceA = static_cast<int>(row->stage) + 1;
-        settings.displaySwitch = row->opensWithTable() ? 1 : 0;
-    }
+    patch.settings = settings;
+    return patch;
 }
 
-void CVorl_ADVDoc::EnterStage(Stage stage) {
-    const int tab = ProbeForWriting().tabItems.AppendStage(static_cast<int>(stage));
-    StoreStageOfTab(tab);
-    TestSelectionChange();
+void CVorl_ADVDoc::EnterStage(Stage stage, SAdvProbe& probe, WorkspaceSettings& settings) {
+    selectTab(probe.tabItems.AppendStage(static_cast<int>(stage)), probe, settings);
+    TakeOverSelection(settings);
 }
 
 void CVorl_ADVDoc::SelectPhysicalValue(PhysicalValue value) {
-    workspace_.settings.physicalValue = static_cast<int>(value);
+    WorkspaceSettings settings = Settings();
+    settings.physicalValue = static_cast<int>(value);
+    Select({.settings = settings});
     Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::SelectActivePane(Pane pane) {
-    workspace_.settings.activeView = static_cast<int>(pane);
+    WorkspaceSettings settings = Settings();
+    settings.activeView = static_cast<int>(pane);
+    Select({.settings = settings});
     Tell(Change::View);
 }
 
 void CVorl_ADVDoc::ShowTable(bool on) {
-    if (StageCode() != workspace_.settings.choiceA) {
-        StoreStageOfTab(ShownTab());
+    WorkspacePatch patch;
+    if (StageCode() != Settings().choiceA) {
+        patch = PatchOfTab(ShownTab());
+    } else {
+        patch.settings = Settings();
     }
-    workspace_.settings.displaySwitch = on ? 1 : 0;
+    patch.settings->displaySwitch = on ? 1 : 0;
+    Select(std::move(patch));
     Tell(Change::Content);
 }
 
-bool CVorl_ADVDoc::TestSelectionChange() {
-    WorkspaceSettings& s = workspace_.settings;
-    if (s.activeFile == s.previousFile && s.activeProbe == s.previousProbe && s.activeItem == s.previousItem &&
-        s.choiceA == s.choiceB) {
-        return false;
-    }
-    s.previousFile = s.activeFile;
-    s.previousProbe = s.activeProbe;
-    s.previousItem = s.activeItem;
-    s.choiceB = s.choiceA;
-    return true;
+void CVorl_ADVDoc::RestoreSelection(const WorkspaceSettings& found) {
+    WorkspaceSettings settings = Settings();
+    settings.activeFile = found.activeFile;
+    settings.activeProbe = found.activeProbe;
+    settings.activeItem = found.activeItem;
+    settings.previousFile = found.previousFile;
+    settings.previousProbe = found.previousProbe;
+    settings.previousItem = found.previousItem;
+    Select({.settings = settings});
+}
+
+void CVorl_ADVDoc::TakeOverSelection(WorkspaceSettings& settings) {
+    settings.previousFile = settings.activeFile;
+    settings.previousProbe = settings.activeProbe;
+    settings.previousItem = settings.activeItem;
+    settings.choiceB = settings.choiceA;
 }
 
 Outcome CVorl_ADVDoc::CloseFile() {
@@ -172,21 +206,25 @@ Outcome CVorl_ADVDoc::CloseFile() {
     if (!port_->confirm("Do you want to close the active data file ?")) {
         return Outcome::Cancelled;
     }
-    WorkspaceSettings& settings = workspace_.settings;
-    const int selected = ActiveFile();
+    WorkspacePatch patch;
+    WorkspaceSettings settings = Settings();
+    patch.file = {ActiveFile(), std::nullopt};
     // The indexes step down before the removal, so closing the first of several files leaves none selected.
     --settings.previousFile;
     --settings.activeFile;
-    workspace_.dataFiles.files.RemoveAt(selected);
-    if (HasFile() && !File().probes.IsEmpty()) {
-        settings.activeProbe = 0;
-        settings.activeItem = -1;
-        StoreStageOfTab(ShownTab());
-    } else {
-        settings.activeProbe = -1;
-        settings.activeItem = -1;
+    settings.activeProbe = -1;
+    settings.activeItem = -1;
+    if (settings.activeFile >= 0) {
+        const SAdvProbesArray& probes = workspace_.dataFiles.files.GetAt(settings.activeFile).probes;
+        if (!probes.IsEmpty()) {
+            settings.activeProbe = 0;
+            SAdvProbe probe = probes.GetAt(0);
+            selectTab(shownTabOf(probe, settings.activeItem), probe, settings);
+            patch.probes.push_back({settings.activeFile, settings.activeProbe, std::move(probe)});
+        }
     }
-    SetModified();
+    patch.settings = settings;
+    Write("Close File", std::move(patch));
     Tell(Change::Content);
     return Outcome::Done;
 }

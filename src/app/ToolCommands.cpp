@@ -4,25 +4,28 @@
 namespace vorlan {
 
 Outcome CVorl_ADVDoc::SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed) {
-    AppendFile(simulate(parameters, seed));
+    AppendFile(simulate(parameters, seed), "Simulate Time Series");
     return Outcome::Done;
 }
 
-void CVorl_ADVDoc::AppendFile(SAdvFile file) {
-    workspace_.dataFiles.files.Add(std::move(file));
-    WorkspaceSettings& settings = workspace_.settings;
-    settings.activeFile = workspace_.dataFiles.files.GetSize() - 1;
-    settings.activeProbe = -1;
-    settings.activeItem = -1;
-    TestSelectionChange();
-    SetModified();
+void CVorl_ADVDoc::AppendFile(SAdvFile file, const char* command) {
+    WorkspacePatch patch;
+    const int index = workspace_.dataFiles.files.GetSize();
+    patch.file = {index, std::move(file)};
+    patch.settings = Settings();
+    patch.settings->activeFile = index;
+    patch.settings->activeProbe = -1;
+    patch.settings->activeItem = -1;
+    TakeOverSelection(*patch.settings);
+    Write(command, std::move(patch));
     Tell(Change::Content);
 }
 
-Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& settings) {
-    workspace_.settings.meanVelocityMode = settings.mode;
-    workspace_.settings.userMeanVelocity = settings.value;
-    SetModified();
+Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& chosen) {
+    WorkspaceSettings settings = Settings();
+    settings.meanVelocityMode = chosen.mode;
+    settings.userMeanVelocity = chosen.value;
+    Write("Mean Velocity", {.settings = settings});
     Tell(Change::Content);
     return Outcome::Done;
 }

@@ -67,15 +67,6 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
     }
 }
 
-void restoreSelection(const WorkspaceSettings& loaded, WorkspaceSettings& settings) {
-    settings.activeFile = loaded.activeFile;
-    settings.activeProbe = loaded.activeProbe;
-    settings.activeItem = loaded.activeItem;
-    settings.previousFile = loaded.previousFile;
-    settings.previousProbe = loaded.previousProbe;
-    settings.previousItem = loaded.previousItem;
-}
-
 class Runner {
   public:
     Runner(const Recipe& recipe, const std::filesystem::path& input, const ConsolePort::Options& options,
@@ -105,7 +96,7 @@ class Runner {
                 apply(recipe_.steps[i], i + 1, place);
             }
         }
-        restoreSelection(loaded, document_.MutableSettings());
+        document_.RestoreSelection(loaded);
     }
 
     std::vector<ProbePlace> placesOfRecipe(const std::filesystem::path& target) {

@@ -241,6 +241,29 @@ TEST_F(Commands, FramesAreCreatedFromTheDefaults) {
     EXPECT_THROW(document.SetFrame(-1, 0, frame), std::exception);
 }
 
+TEST_F(Commands, APatchExchangedTwiceIsTakenBack) {
+    simulateAndSelect(document, 10.0);
+    Workspace workspace = document.GetWorkspace();
+    WorkspacePatch patch;
+    patch.settings.emplace().bandCount = 77;
+    patch.probes.push_back({0, 0, SAdvProbe()});
+    patch.planFrames.emplace();
+    patch.boundaries.emplace().SetSize(2);
+    for (const bool takesOut : {true, false}) {
+        patch.file = {1, takesOut ? std::nullopt : std::optional(workspace.dataFiles.files.GetAt(0))};
+        patch.Exchange(workspace);
+        EXPECT_EQ(workspace.settings.bandCount, 77);
+        EXPECT_EQ(workspace.dataFiles.files.GetSize(), takesOut ? 1 : 3);
+        EXPECT_EQ(workspace.dataFiles.files.GetAt(0).probes.GetAt(0), SAdvProbe());
+        EXPECT_TRUE(workspace.dataFiles.frameAttributes.IsEmpty());
+        EXPECT_EQ(workspace.boundaries.GetSize(), 2);
+        patch.Exchange(workspace);
+        EXPECT_EQ(workspace.settings, document.Settings());
+        EXPECT_EQ(workspace.dataFiles, document.GetWorkspace().dataFiles);
+        EXPECT_EQ(workspace.boundaries, document.GetWorkspace().boundaries);
+    }
+}
+
 TEST_F(Commands, ConvectiveVelocityIsThatOfTheSeries) {
     ASSERT_EQ(document.SpectralAnalysis(lagsOf(10)), Outcome::Done);
     const SAdvProbe& p = document.Probe();

@@ -1,0 +1,41 @@
+#include "app/WorkspacePatch.h"
+
+#include <utility>
+
+namespace vorlan {
+
+namespace {
+
+template <class T>
+void exchange(std::optional<T>& part, T& held) {
+    if (part.has_value()) {
+        std::swap(*part, held);
+    }
+}
+
+void exchangeFile(std::optional<SAdvFile>& file, int index, SAdvFilesArray& files) {
+    if (file.has_value()) {
+        files.InsertAt(index, std::move(*file));
+        file.reset();
+    } else {
+        file = std::move(files.ElementAt(index));
+        files.RemoveAt(index);
+    }
+}
+
+}  // namespace
+
+void WorkspacePatch::Exchange(Workspace& workspace) {
+    exchange(settings, workspace.settings);
+    for (ProbePart& part : probes) {
+        std::swap(part.value, workspace.dataFiles.files.ElementAt(part.file).probes.ElementAt(part.probe));
+    }
+    if (file.has_value()) {
+        exchangeFile(file->file, file->index, workspace.dataFiles.files);
+    }
+    exchange(planFrames, workspace.dataFiles.frameAttributes);
+    exchange(boundaries, workspace.boundaries);
+    exchange(pages, workspace.pages);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/Workspace.h"
+
+namespace vorlan {
+
+/// What a command puts into the workspace, part by part; a part without a value stays as it is. Exchanged, it holds
+/// what stood there before: exchanging it once more takes the command back. Columns that old and new value have in
+/// common exist once.
+struct WorkspacePatch {
+    struct ProbePart {
+        int file;
+        int probe;
+        SAdvProbe value;
+    };
+    /// With a file: it goes in at index. Without: the file at index is taken out.
+    struct FilePart {
+        int index;
+        std::optional<SAdvFile> file;
+    };
+
+    std::optional<WorkspaceSettings> settings = std::nullopt;
+    /// Probes beside a file part belong to files in front of it, whose indexes it does not move.
+    std::vector<ProbePart> probes = {};
+    std::optional<FilePart> file = std::nullopt;
+    std::optional<SFrameAtrArray> planFrames = std::nullopt;
+    std::optional<SBndSet> boundaries = std::nullopt;
+    std::optional<SPageAtrArray> pages = std::nullopt;
+
+    void Exchange(Workspace& workspace);
+};
+
+}  // namespace vorlan
