@@ -9,7 +9,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "export/VelocitiesExport.h"
+#include "export/Writers.h"
 #include "io/DelimitedTable.h"
 #include "io/WorkspaceFile.h"
 #include "table/Folder.h"

@@ -182,6 +182,11 @@ void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
     Tell(Change::Content);
 }
 
+void CVorl_ADVDoc::Export(std::ostream& stream, ExportKind kind, ExportOptions options, bool all) const {
+    options.holeIncrement = Settings().holeIncrement;
+    writeExport(stream, kind, {workspace_.dataFiles, ActiveFile(), ActiveProbe(), options, all});
+}
+
 std::optional<double> CVorl_ADVDoc::AveragedVelocity() const {
     if (!HasProbe()) {
         return std::nullopt;

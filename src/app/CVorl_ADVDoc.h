@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <optional>
 #include <string>
 
@@ -18,6 +19,7 @@
 #include "analysis/StationaritySettings.h"
 #include "app/DocumentPort.h"
 #include "app/WorkspacePatch.h"
+#include "export/ExportKind.h"
 #include "io/FileStamp.h"
 #include "model/Workspace.h"
 
@@ -141,6 +143,10 @@ class CVorl_ADVDoc {
     void SetFrame(int group, int record, const FrameAttributesType& frame);
     /// The same for the plans that span all files.
     void SetPlanFrame(int record, const FrameAttributesType& frame);
+
+    /// Writes an export of the active probe, or of all files and probes where the kind has such a form. Needs what the
+    /// kind needs; InvalidArgument without a probe and for columns of a damaged workspace that should be of one length.
+    void Export(std::ostream& stream, ExportKind kind, ExportOptions options, bool all) const;
 
     /// Mean velocity magnitude of the active probe's series, cm/s; nothing without a probe.
     std::optional<double> AveragedVelocity() const;

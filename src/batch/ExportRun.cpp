@@ -3,7 +3,6 @@
 #include <sstream>
 
 #include "batch/BatchError.h"
-#include "export/WriteExport.h"
 #include "model/Errors.h"
 
 namespace vorlan {
@@ -32,25 +31,14 @@ std::string faultOf(const ExportRequest& request) {
     return {};
 }
 
-Command commandOf(ExportKind kind) {
-    // The commands stand in the order of the kinds.
-    constexpr int kFirst = static_cast<int>(Command::ExportVelocities);
-    static_assert(static_cast<int>(Command::ExportPatterns) - kFirst == static_cast<int>(ExportKind::Patterns));
-    static_assert(static_cast<int>(Command::ExportSpectral) - kFirst == static_cast<int>(ExportKind::Spectral));
-    return static_cast<Command>(kFirst + static_cast<int>(kind));
-}
-
 std::string exportedText(const CVorl_ADVDoc& document, const ExportRequest& request) {
-    const std::string reason = commandState(document, commandOf(request.kind)).reason;
+    const std::string reason = commandState(document, exportCommand(request.kind)).reason;
     if (!reason.empty()) {
         throw refusal(reason);
     }
-    ExportJob job{document.GetWorkspace().dataFiles, document.ActiveFile(), document.ActiveProbe(), request.options,
-                  request.all};
-    job.options.holeIncrement = document.Settings().holeIncrement;
     std::ostringstream stream;
     try {
-        writeExport(stream, request.kind, job);
+        document.Export(stream, request.kind, request.options, request.all);
     } catch (const InvalidArgument& error) {
         // Columns that should be of one length are not: the caller knows of which workspace.
         throw refusal(error.what());

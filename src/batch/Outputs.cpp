@@ -52,8 +52,9 @@ void requireOtherThanInput(const std::string& output, const std::string& input) 
 }
 
 void requireOtherThanWorkspace(const std::string& output) {
-    if (kindOfFile(output) == FileKind::Workspace) {
-        throw usageError(output + " is a workspace: nothing else takes its place");
+    const std::string reason = refusalToReplace(output);
+    if (!reason.empty()) {
+        throw usageError(reason);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "export/CrossSpectralExport.h"
+#include "export/Writers.h"
 
 #include "analysis/SpectralScale.h"
 #include "analysis/StressPairs.h"

@@ -1,28 +1,50 @@
 #include "export/ExportKind.h"
 
-#include "model/SAdvProbe.h"
+#include "export/Writers.h"
 
 namespace vorlan {
+
+namespace {
+
+/// A table knows no options.
+template <void (*writeTable)(std::ostream&, const ExportSource&)>
+void table(std::ostream& stream, const ExportSource& source, const ExportOptions&) {
+    writeTable(stream, source);
+}
+
+}  // namespace
 
 const std::array<ExportKindInfo, kExportKindCount>& exportKinds() {
     using enum ExportKind;
     constexpr auto kAlways = std::nullopt;
     constexpr ExportDialog kOptions = ExportDialog::Options;
     static const std::array<ExportKindInfo, kExportKindCount> kinds = {{
-        {Velocities, "velocities", "&Time Series...", "vel.dat", kAlways, kOptions},
-        {Stationarity, "stationarity", "&Stationarity Analysis Results...", "stat.dat", DoneMark::Stationarity,
-         kOptions},
-        {Histograms, "histograms", "&Histograms...", "hist.dat", DoneMark::Histograms, kOptions},
-        {Statistics, "statistics", "Stat&istics...", "table_1.dat", kAlways, ExportDialog::Scope},
-        {Spectral, "spectral", "Spectral &Analysis Results...", "spectral.dat", DoneMark::Spectral, kOptions},
-        {Scales, "scales", "&Dis. Rate and Scales...", "tbl_rs.dat", kAlways, ExportDialog::Scope},
-        {Stresses, "stresses", "St&resses Time Series...", "stress.dat", kAlways, kOptions},
-        {StressStatistics, "stress-statistics", "Str&esses Statistics...", "table_2.dat", kAlways, ExportDialog::None},
-        {CrossSpectral, "cross-spectral", "&Cross-Spectral Analysis Results...", "cr_sp.dat", DoneMark::CrossSpectral,
-         kOptions},
-        {Contributions, "contributions", "C&ontribution Rates...", "rs_rates.dat", DoneMark::Quadrants, kOptions},
-        {Times, "times", "&Fractional Times...", "fr_times.dat", DoneMark::Quadrants, kOptions},
-        {Patterns, "patterns", "Averaged Velocity &Patterns...", "patterns.dat", DoneMark::Quadrants, kOptions},
+        {Velocities, "velocities", "&Time Series...", "Write the velocities as text", "vel.dat", kAlways, kOptions,
+         writeVelocities},
+        {Stationarity, "stationarity", "&Stationarity Analysis Results...", "Write the moments of the bands as text",
+         "stat.dat", DoneMark::Stationarity, kOptions, writeStationarity},
+        {Histograms, "histograms", "&Histograms...", "Write the velocity histograms as text", "hist.dat",
+         DoneMark::Histograms, kOptions, writeHistograms},
+        {Statistics, "statistics", "Stat&istics...", "Write the table of univariate statistics", "table_1.dat", kAlways,
+         ExportDialog::Scope, table<writeStatisticsTable>, writeStatisticsOfAll},
+        {Spectral, "spectral", "Spectral &Analysis Results...",
+         "Write correlation, spectra and structure functions as text", "spectral.dat", DoneMark::Spectral, kOptions,
+         writeSpectral},
+        {Scales, "scales", "&Dis. Rate and Scales...", "Write the table of dissipation rate and turbulence scales",
+         "tbl_rs.dat", kAlways, ExportDialog::Scope, table<writeScalesTable>, writeScalesOfAll},
+        {Stresses, "stresses", "St&resses Time Series...", "Write the stress series as text", "stress.dat", kAlways,
+         kOptions, writeStresses},
+        {StressStatistics, "stress-statistics", "Str&esses Statistics...", "Write the table of stress statistics",
+         "table_2.dat", kAlways, ExportDialog::None, table<writeStressStatisticsTable>},
+        {CrossSpectral, "cross-spectral", "&Cross-Spectral Analysis Results...",
+         "Write cross-spectra, coherence and phase as text", "cr_sp.dat", DoneMark::CrossSpectral, kOptions,
+         writeCrossSpectral},
+        {Contributions, "contributions", "C&ontribution Rates...", "Write the contribution rates by hole size as text",
+         "rs_rates.dat", DoneMark::Quadrants, kOptions, writeContributions},
+        {Times, "times", "&Fractional Times...", "Write the fractional times by hole size as text", "fr_times.dat",
+         DoneMark::Quadrants, kOptions, writeTimes},
+        {Patterns, "patterns", "Averaged Velocity &Patterns...", "Write the averaged event patterns as text",
+         "patterns.dat", DoneMark::Quadrants, kOptions, writePatterns},
     }};
     return kinds;
 }
@@ -31,18 +53,13 @@ const ExportKindInfo& exportKindInfo(ExportKind kind) {
     return exportKinds().at(static_cast<std::size_t>(kind));
 }
 
-std::optional<ExportKind> exportKindNamed(std::string_view name) {
-    for (const ExportKindInfo& info : exportKinds()) {
-        if (name == info.name) {
-            return info.kind;
-        }
+void writeExport(std::ostream& stream, ExportKind kind, const ExportJob& job) {
+    const ExportKindInfo& info = exportKindInfo(kind);
+    if (job.all && info.writeAll != nullptr) {
+        return info.writeAll(stream, job.set);
     }
-    return std::nullopt;
-}
-
-bool hasResultsFor(ExportKind kind, const SAdvProbe& probe) {
-    const std::optional<DoneMark> needs = exportKindInfo(kind).needs;
-    return !needs.has_value() || probe.IsDone(*needs);
+    const SAdvFile& file = job.set.files.GetAt(job.file);
+    info.write(stream, {file.fileName, job.probe + 1, file.probes.GetAt(job.probe)}, job.options);
 }
 
 }  // namespace vorlan

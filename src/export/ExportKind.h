@@ -1,32 +1,32 @@
 #pragma once
 
 #include <array>
+#include <iosfwd>
 #include <optional>
-#include <string_view>
 
+#include "export/ExportOptions.h"
+#include "model/SAdvSet.h"
 #include "model/Stages.h"
 
 namespace vorlan {
 
-class SAdvProbe;
-
 /// The exports, in the order of their menu.
 enum class ExportKind : int {
-    Velocities = 0,
-    Stationarity = 1,
-    Histograms = 2,
-    Statistics = 3,
-    Spectral = 4,
-    Scales = 5,
-    Stresses = 6,
-    StressStatistics = 7,
-    CrossSpectral = 8,
-    Contributions = 9,
-    Times = 10,
-    Patterns = 11,
+    Velocities,
+    Stationarity,
+    Histograms,
+    Statistics,
+    Spectral,
+    Scales,
+    Stresses,
+    StressStatistics,
+    CrossSpectral,
+    Contributions,
+    Times,
+    Patterns,
 };
 
-inline constexpr int kExportKindCount = 12;
+inline constexpr int kExportKindCount = static_cast<int>(ExportKind::Patterns) + 1;
 
 /// What the user is asked before an export is written.
 enum class ExportDialog : int {
@@ -35,13 +35,18 @@ enum class ExportDialog : int {
     None,
 };
 
+/// What an export is.
 struct ExportKindInfo {
     ExportKind kind;
     const char* name;               ///< on the command line and in recipes
     const char* menuText;           ///< item of "&Export Data"
+    const char* prompt;             ///< in the status bar while the item is highlighted
     const char* defaultFile;        ///< that the save dialog offers
     std::optional<DoneMark> needs;  ///< the stage whose results are written
     ExportDialog dialog;
+    void (*write)(std::ostream& stream, const ExportSource& source, const ExportOptions& options);
+    /// Every probe of every file, for those that ask for a scope.
+    void (*writeAll)(std::ostream& stream, const SAdvSet& set) = nullptr;
 };
 
 /// All exports, indexed by kind.
@@ -49,10 +54,16 @@ const std::array<ExportKindInfo, kExportKindCount>& exportKinds();
 
 const ExportKindInfo& exportKindInfo(ExportKind kind);
 
-/// The export of a name, none for an unknown one.
-std::optional<ExportKind> exportKindNamed(std::string_view name);
+/// What is exported: a probe of a file by their indexes, and what the user chose.
+struct ExportJob {
+    const SAdvSet& set;
+    int file = 0;
+    int probe = 0;
+    ExportOptions options;
+    bool all = false;  ///< tables of all files and probes, for the kinds that ask for a scope
+};
 
-/// True when the probe has the results that the export writes.
-bool hasResultsFor(ExportKind kind, const SAdvProbe& probe);
+/// Writes one export. InvalidArgument when file or probe do not exist.
+void writeExport(std::ostream& stream, ExportKind kind, const ExportJob& job);
 
 }  // namespace vorlan

@@ -1,4 +1,4 @@
-#include "export/HistogramsExport.h"
+#include "export/Writers.h"
 
 #include <array>
 

@@ -1,9 +1,8 @@
-#include "export/ScalesTable.h"
+#include "export/Writers.h"
 
 #include <ostream>
 
 #include "analysis/MicroScales.h"
-#include "export/ProbeLoop.h"
 #include "model/Text.h"
 
 namespace vorlan {

@@ -1,4 +1,4 @@
-#include "export/SpectralExport.h"
+#include "export/Writers.h"
 
 #include "analysis/SpectralScale.h"
 #include "export/RowWriter.h"

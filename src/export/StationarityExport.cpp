@@ -1,4 +1,4 @@
-#include "export/StationarityExport.h"
+#include "export/Writers.h"
 
 #include "analysis/ResultAxes.h"
 #include "export/RowWriter.h"

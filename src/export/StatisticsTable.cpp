@@ -1,11 +1,10 @@
-#include "export/StatisticsTable.h"
+#include "export/Writers.h"
 
 #include <array>
 #include <ostream>
 
 #include "analysis/ProbeMoments.h"
 #include "export/FormedStresses.h"
-#include "export/ProbeLoop.h"
 #include "model/Text.h"
 
 namespace vorlan {

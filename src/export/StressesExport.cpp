@@ -1,4 +1,4 @@
-#include "export/StressesExport.h"
+#include "export/Writers.h"
 
 #include "analysis/StressPairs.h"
 #include "export/FormedStresses.h"

@@ -1,4 +1,4 @@
-#include "export/VelocitiesExport.h"
+#include "export/Writers.h"
 
 #include "export/RowWriter.h"
 

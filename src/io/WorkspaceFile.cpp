@@ -83,6 +83,11 @@ FileKind kindOfFile(const std::filesystem::path& path) {
     }
 }
 
+std::string refusalToReplace(const std::filesystem::path& path) {
+    return kindOfFile(path) == FileKind::Workspace ? path.string() + " is a workspace: nothing else takes its place"
+                                                   : "";
+}
+
 void saveWorkspace(Workspace& workspace, const std::filesystem::path& path) {
     AtomicFile file(path);
     AtomicFileSink sink(file);

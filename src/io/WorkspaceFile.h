@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "io/FileError.h"
 #include "model/Workspace.h"
@@ -16,6 +17,10 @@ Workspace openWorkspace(const std::filesystem::path& path);
 /// one, or one that cannot be read; whether that can be replaced is seen when it is.
 enum class FileKind { Nothing, Workspace, Other };
 FileKind kindOfFile(const std::filesystem::path& path);
+
+/// Why neither a table nor a picture may be written to path; empty when it may. Nobody asks before such files are
+/// overwritten, so a slip would cost a workspace.
+std::string refusalToReplace(const std::filesystem::path& path);
 
 /// Replaces the file by the workspace, complete or not at all (see AtomicFile). Columns go to the file as they lie in
 /// the model: no second copy is held. The workspace is not changed.

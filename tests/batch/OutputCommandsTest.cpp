@@ -1,6 +1,6 @@
 // export and render.
 #include "batch/BatchTest.h"
-#include "export/SpectralExport.h"
+#include "export/Writers.h"
 
 namespace vorlan {
 

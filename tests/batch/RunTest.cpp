@@ -1,7 +1,7 @@
 // Recipes at work on workspaces.
 #include "analysis/SpectralAnalysis.h"
 #include "batch/BatchTest.h"
-#include "export/VelocitiesExport.h"
+#include "export/Writers.h"
 
 namespace vorlan {
 

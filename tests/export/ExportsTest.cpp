@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
 #include <sstream>
 
 #include "Approved.h"
@@ -13,7 +14,7 @@
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/Stationarity.h"
 #include "analysis/Stresses.h"
-#include "export/WriteExport.h"
+#include "export/ExportKind.h"
 
 namespace vorlan::test {
 namespace {
@@ -133,13 +134,15 @@ TEST(Exports, OfColumnsThatDoNotFitTogetherAreRefused) {
     }
 }
 
-TEST(ExportKinds, AreFoundByNameAndNeedTheResultsOfTheirStage) {
+TEST(ExportKinds, StandAtTheirNumberUnderNamesOfTheirOwn) {
+    std::set<std::string> names;
+    std::set<std::string> files;
     for (int i = 0; i < kExportKindCount; ++i) {
         const ExportKindInfo& info = exportKindInfo(static_cast<ExportKind>(i));
         EXPECT_EQ(info.kind, static_cast<ExportKind>(i));
-        EXPECT_EQ(exportKindNamed(info.name), info.kind);
+        EXPECT_TRUE(names.insert(info.name).second && files.insert(info.defaultFile).second) << info.name;
+        EXPECT_EQ(info.writeAll != nullptr, info.dialog == ExportDialog::Scope) << info.name;
     }
-    EXPECT_FALSE(exportKindNamed("Velocities").has_value());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "ui/frame/MenuTable.h"
 
 #include <algorithm>
-#include <array>
 
 #include "export/ExportKind.h"
 
@@ -15,24 +14,8 @@ MenuItem separator() {
     return {};
 }
 
-// Status prompts of the exports, in the order of their menu.
-constexpr std::array<const char*, kExportKindCount> kExportPrompts = {
-    "Write the velocities as text",
-    "Write the moments of the bands as text",
-    "Write the velocity histograms as text",
-    "Write the table of univariate statistics",
-    "Write correlation, spectra and structure functions as text",
-    "Write the table of dissipation rate and turbulence scales",
-    "Write the stress series as text",
-    "Write the table of stress statistics",
-    "Write cross-spectra, coherence and phase as text",
-    "Write the contribution rates by hole size as text",
-    "Write the fractional times by hole size as text",
-    "Write the averaged event patterns as text",
-};
-
 MenuItem exportItem(const ExportKindInfo& info) {
-    MenuItem item{info.menuText, exportCommand(info.kind), "", kExportPrompts[static_cast<std::size_t>(info.kind)]};
+    MenuItem item{info.menuText, exportCommand(info.kind), "", info.prompt};
     item.submenu = kExport;
     return item;
 }

@@ -10,7 +10,6 @@
 #include <ostream>
 
 #include "analysis/EditingAssessment.h"
-#include "export/WriteExport.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
 #include "io/WorkspaceFile.h"
@@ -226,35 +225,35 @@ void UserCommands::copyBitmap() {
 
 void UserCommands::exportData(ExportKind kind) {
     const ExportKindInfo& info = exportKindInfo(kind);
-    ExportJob job{document_.GetWorkspace().dataFiles, document_.ActiveFile(), document_.ActiveProbe(), {}, false};
+    ExportOptions options;
+    bool all = false;
     if (info.dialog == ExportDialog::Options) {
         CExportDlg dialog({}, &window_);
         if (dialog.exec() != QDialog::Accepted) {
             return;
         }
-        job.options = dialog.values();
+        options = dialog.values();
     } else if (info.dialog == ExportDialog::Scope) {
         CExportScopeDlg dialog(false, &window_);
         if (dialog.exec() != QDialog::Accepted) {
             return;
         }
-        job.all = dialog.allProbes();
+        all = dialog.allProbes();
     }
-    job.options.holeIncrement = document_.Settings().holeIncrement;
     const QString path =
         boxes_->chooseExport(&window_, QDir(files_.folder()).filePath(QString::fromLatin1(info.defaultFile)));
     if (path.isEmpty()) {
         return;
     }
     const std::string file = QFile::encodeName(path).toStdString();
-    // No question stands before an overwritten table, so a wrong click would cost a workspace.
-    if (kindOfFile(file) == FileKind::Workspace) {
-        boxes_->refuse(&window_, QStringLiteral("%1 is a workspace: nothing else takes its place.").arg(path));
+    const std::string refusal = refusalToReplace(file);
+    if (!refusal.empty()) {
+        boxes_->refuse(&window_, QFile::decodeName(QByteArray::fromStdString(refusal)) + QLatin1Char('.'));
         return;
     }
     files_.setFolderOf(path);
     try {
-        writeFileAtomically(file, [&](std::ostream& stream) { writeExport(stream, kind, job); });
+        writeFileAtomically(file, [&](std::ostream& stream) { document_.Export(stream, kind, options, all); });
         showStatus_(QStringLiteral("%1 written").arg(QFileInfo(path).fileName()));
     } catch (const FileError&) {
         // An export ends without a box; the line is all that is said.
