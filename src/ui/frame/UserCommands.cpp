@@ -60,7 +60,14 @@ void UserCommands::run(Command command) {
     }
 }
 
+template <class Dialog, class Method, class... Arguments>
+Outcome UserCommands::ask(Method command, const Arguments&... arguments) {
+    Dialog dialog(arguments..., &window_);
+    return dialog.exec() == QDialog::Accepted ? (document_.*command)(dialog.values()) : Outcome::Cancelled;
+}
+
 void UserCommands::dispatch(Command command) {
+    const WorkspaceSettings& settings = document_.Settings();
     switch (command) {
         case Command::BitmapCopy:
             return copyBitmap();
@@ -75,24 +82,32 @@ void UserCommands::dispatch(Command command) {
             document_.ResetTimeSeries();
             return;
         case Command::CoordinateSystem:
-            return changeCoordinateSystem();
+            ask<CCoordSysDlg>(&CVorl_ADVDoc::ChangeCoordinateSystem, rotationSettingsOf(document_.Probe()),
+                              QString::fromLatin1(coordinateSystemText(document_.Probe())));
+            return;
         case Command::EditingTimeSeries:
             return editTimeSeries();
         case Command::DigitalFiltration:
-            return filterTimeSeries();
+            ask<CFilterDlg>(&CVorl_ADVDoc::FilterTimeSeries, filterSettingsOf(settings));
+            return;
         case Command::StationarityAnalysis:
-            return stationarityAnalysis();
+            ask<CStatDlg>(&CVorl_ADVDoc::StationarityAnalysis, stationaritySettingsOf(settings));
+            return;
         case Command::Histograms:
-            return distributions();
+            ask<CHistDlg>(&CVorl_ADVDoc::Distributions, histogramSettingsOf(settings));
+            return;
         case Command::SpectralAnalysis:
-            return spectralAnalysis();
+            ask<CSpAnalDlg>(&CVorl_ADVDoc::SpectralAnalysis, spectralSettingsOf(settings));
+            return;
         case Command::CrossSpectralAnalysis:
             document_.CrossSpectralAnalysis();
             return;
         case Command::QuadrantsAnalysis:
-            return quadrantsAnalysis();
+            ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, quadrantSettingsOf(settings));
+            return;
         case Command::MeanVelocity:
-            return meanVelocity();
+            ask<CMeanVelDlg>(&CVorl_ADVDoc::SetMeanVelocity, document_.GetMeanVelocity(), document_.AveragedVelocity());
+            return;
         case Command::SimulateTimeSeries:
             return simulate();
         case Command::About:
@@ -138,63 +153,12 @@ void UserCommands::simulate() {
     }
 }
 
-void UserCommands::changeCoordinateSystem() {
-    const SAdvProbe& probe = document_.Probe();
-    CCoordSysDlg dialog(rotationSettingsOf(probe), QString::fromLatin1(coordinateSystemText(probe)), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.ChangeCoordinateSystem(dialog.values());
-    }
-}
-
 void UserCommands::editTimeSeries() {
-    CEditTSDlg dialog(editingSettingsOf(document_.Settings()), &window_);
-    if (dialog.exec() == QDialog::Accepted && document_.EditTimeSeries(dialog.values()) == Outcome::Done) {
+    if (ask<CEditTSDlg>(&CVorl_ADVDoc::EditTimeSeries, editingSettingsOf(document_.Settings())) == Outcome::Done) {
         const std::string shares = keptSharesText(document_.LastEditing());
         if (!shares.empty()) {
             showStatus_(QString::fromStdString(shares));
         }
-    }
-}
-
-void UserCommands::filterTimeSeries() {
-    CFilterDlg dialog(filterSettingsOf(document_.Settings()), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.FilterTimeSeries(dialog.values());
-    }
-}
-
-void UserCommands::stationarityAnalysis() {
-    CStatDlg dialog(stationaritySettingsOf(document_.Settings()), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.StationarityAnalysis(dialog.values());
-    }
-}
-
-void UserCommands::distributions() {
-    CHistDlg dialog(histogramSettingsOf(document_.Settings()), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.Distributions(dialog.values());
-    }
-}
-
-void UserCommands::spectralAnalysis() {
-    CSpAnalDlg dialog(spectralSettingsOf(document_.Settings()), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.SpectralAnalysis(dialog.values());
-    }
-}
-
-void UserCommands::quadrantsAnalysis() {
-    CQuadrDlg dialog(quadrantSettingsOf(document_.Settings()), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.QuadrantsAnalysis(dialog.values());
-    }
-}
-
-void UserCommands::meanVelocity() {
-    CMeanVelDlg dialog(document_.GetMeanVelocity(), document_.AveragedVelocity(), &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.SetMeanVelocity(dialog.values());
     }
 }
 

@@ -30,14 +30,10 @@ class UserCommands {
     void dispatch(Command command);
     void runFileCommand(Command command);
     void simulate();
-    void changeCoordinateSystem();
+    /// Opens a parameter dialog made of arguments and gives the document's command what the user accepted.
+    template <class Dialog, class Method, class... Arguments>
+    Outcome ask(Method command, const Arguments&... arguments);
     void editTimeSeries();
-    void filterTimeSeries();
-    void stationarityAnalysis();
-    void distributions();
-    void spectralAnalysis();
-    void quadrantsAnalysis();
-    void meanVelocity();
     void plotFrameOptions();
     void copyBitmap();
     void exportData(ExportKind kind);
