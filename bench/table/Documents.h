@@ -11,8 +11,8 @@ namespace bench {
 class GapPort : public vorlan::SilentPort {
   public:
     /// Done stages are not repeated.
-    bool confirm(const std::string&) override { return false; }
-    void beginRun(int) override {
+    bool confirm(vorlan::Question) override { return false; }
+    void beginRun(vorlan::Calculation) override {
         last_ = threadSeconds();
         running_ = true;
     }
@@ -20,10 +20,9 @@ class GapPort : public vorlan::SilentPort {
         note();
         running_ = false;
     }
-    bool pump() override {
+    void breathe() override {
         note();
         ++breaths_;
-        return true;
     }
 
     void forget() {

@@ -9,14 +9,6 @@
 
 namespace vorlan {
 
-namespace {
-
-// Where the progress bars stand, pixels from the left edge of the first status pane.
-constexpr int kSpectralBarOffset = 170;
-constexpr int kCrossSpectralBarOffset = 200;
-
-}  // namespace
-
 Outcome CVorl_ADVDoc::Analyse(const ProbeCommand& command, const Analysis& analysis) {
     const Outcome outcome = RunOnProbe(command, [&](SAdvProbe& copy, Progress& progress) {
         const std::string refusal = analysis(copy, progress);
@@ -30,24 +22,22 @@ Outcome CVorl_ADVDoc::Analyse(const ProbeCommand& command, const Analysis& analy
 }
 
 Outcome CVorl_ADVDoc::StationarityAnalysis(const StationaritySettings& settings) {
-    ProbeCommand command{.name = "Stationarity Analysis", .settings = Settings(), .stage = Stage::Stationarity};
+    ProbeCommand command{
+        .calculation = Calculation::Stationarity, .settings = Settings(), .stage = Stage::Stationarity};
     storeStationaritySettings(settings, *command.settings);
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseStationarity(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::Distributions(const HistogramSettings& settings) {
-    ProbeCommand command{.name = "Histograms", .settings = Settings(), .stage = Stage::Histograms};
+    ProbeCommand command{.calculation = Calculation::Distributions, .settings = Settings(), .stage = Stage::Histograms};
     storeHistogramSettings(settings, *command.settings);
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseDistributions(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralSettings& settings) {
-    ProbeCommand command{.name = "Spectral Analysis",
-                         .progressOffset = kSpectralBarOffset,
-                         .settings = Settings(),
-                         .stage = Stage::Spectral};
+    ProbeCommand command{.calculation = Calculation::Spectral, .settings = Settings(), .stage = Stage::Spectral};
     storeSpectralSettings(settings, *command.settings);
     return Analyse(command, [&](SAdvProbe& copy, Progress& progress) {
         const SpectralRun run = spectralRunOf(settings, countedSamples(copy));
@@ -57,13 +47,12 @@ Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralSettings& settings) {
 }
 
 Outcome CVorl_ADVDoc::CrossSpectralAnalysis() {
-    const ProbeCommand command{
-        .name = "Cross-Spectral Analysis", .progressOffset = kCrossSpectralBarOffset, .stage = Stage::CrossSpectral};
+    const ProbeCommand command{.calculation = Calculation::CrossSpectral, .stage = Stage::CrossSpectral};
     return Analyse(command, [](SAdvProbe& copy, Progress& progress) { return analyseCrossSpectra(copy, progress); });
 }
 
 Outcome CVorl_ADVDoc::QuadrantsAnalysis(const QuadrantSettings& settings) {
-    ProbeCommand command{.name = "Quadrants Analysis and Averaging", .settings = Settings(), .stage = Stage::Quadrants};
+    ProbeCommand command{.calculation = Calculation::Quadrants, .settings = Settings(), .stage = Stage::Quadrants};
     storeQuadrantSettings(settings, *command.settings);
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseQuadrants(copy, settings, progress); });

@@ -10,33 +10,14 @@ namespace vorlan {
 
 namespace {
 
-// Where the progress bar of repeated stages stands, pixels from the left edge of the first status pane.
-constexpr int kRepeatBarOffset = 170;
-
 constexpr const char* kFrameCommand = "Plot Frame Options";
-
-/// What an analysis tells, handed to the document's port.
-class PortProgress : public Progress {
-  public:
-    explicit PortProgress(DocumentPort& port) : port_(port) {}
-    void status(const std::string& text) override { port_.status(text); }
-    void position(int percent) override { port_.progress(percent); }
-    void breathe() override {
-        if (!port_.pump()) {
-            throw Cancelled();
-        }
-    }
-
-  private:
-    DocumentPort& port_;
-};
 
 /// Holds the running state of document and port; leaving the scope ends both, whatever happened.
 class RunningScope {
   public:
-    RunningScope(bool& running, DocumentPort& port, int progressOffset) : running_(running), port_(port) {
+    RunningScope(bool& running, DocumentPort& port, Calculation calculation) : running_(running), port_(port) {
         running_ = true;
-        port_.beginRun(progressOffset);
+        port_.beginRun(calculation);
     }
     ~RunningScope() {
         running_ = false;
@@ -118,11 +99,10 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
     Outcome outcome = Outcome::Refused;
     std::string failure;
     if (HasProbe()) {
-        RunningScope scope(running_, *port_, command.progressOffset);
+        RunningScope scope(running_, *port_, command.calculation);
         try {
             SAdvProbe copy = Probe();
-            PortProgress progress(*port_);
-            outcome = operation(copy, progress);
+            outcome = operation(copy, *port_);
             if (outcome == Outcome::Done) {
                 WriteDone(command, std::move(copy));
             }
@@ -135,7 +115,7 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
         }
     }
     if (outcome != Outcome::Done && command.settings.has_value()) {
-        Write(command.name, {.settings = command.settings});
+        Write(nameOf(command.calculation), {.settings = command.settings});
     }
     if (!failure.empty()) {
         port_->refuse(failure);
@@ -151,14 +131,14 @@ void CVorl_ADVDoc::WriteDone(const ProbeCommand& command, SAdvProbe probe) {
     }
     WorkspacePatch patch = PatchOf(std::move(probe));
     patch.settings = settings;
-    Write(command.name, std::move(patch));
+    Write(nameOf(command.calculation), std::move(patch));
 }
 
 void CVorl_ADVDoc::ApplyChangeRule(SAdvProbe& copy, Progress& progress) {
-    if (!copy.IsChanged() || !port_->confirm(kRepeatQuestion)) {
+    if (!copy.IsChanged() || !port_->confirm(Question::RepeatStages)) {
         return;
     }
-    port_->beginRun(kRepeatBarOffset);
+    port_->beginRun(Calculation::Repeat);
     for (const std::string& reason : recomputeAll(copy, workspace_.settings, progress)) {
         port_->refuse(reason);
     }

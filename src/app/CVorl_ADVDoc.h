@@ -11,7 +11,6 @@
 #include "analysis/EditingSettings.h"
 #include "analysis/FilterSettings.h"
 #include "analysis/HistogramSettings.h"
-#include "analysis/Progress.h"
 #include "analysis/QuadrantSettings.h"
 #include "analysis/RotationSettings.h"
 #include "analysis/Simulation.h"
@@ -158,8 +157,7 @@ class CVorl_ADVDoc {
 
     /// A command on the active probe.
     struct ProbeCommand {
-        const char* name;
-        int progressOffset = -1;
+        Calculation calculation;
         /// The parameters as the command stores them, whatever comes of its run.
         std::optional<WorkspaceSettings> settings = std::nullopt;
         /// The stage that the probe enters when the command is done.

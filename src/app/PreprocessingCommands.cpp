@@ -19,7 +19,7 @@ Outcome CVorl_ADVDoc::ChangeSeries(const ProbeCommand& command, const ProbeOpera
 }
 
 Outcome CVorl_ADVDoc::EnterZoomMode() {
-    const Outcome outcome = RunOnProbe({.name = "Zoom"}, [](SAdvProbe& copy, Progress&) {
+    const Outcome outcome = RunOnProbe({.calculation = Calculation::Zoom}, [](SAdvProbe& copy, Progress&) {
         enterZoomMode(copy);
         return Outcome::Done;
     });
@@ -28,7 +28,7 @@ Outcome CVorl_ADVDoc::EnterZoomMode() {
 }
 
 Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
-    return ChangeSeries({.name = "Clipping"}, [&](SAdvProbe& copy, Progress& progress) {
+    return ChangeSeries({.calculation = Calculation::Clipping}, [&](SAdvProbe& copy, Progress& progress) {
         if (!clip(copy, tStart, tEnd, progress)) {
             port_->refuse(kClippingLimitsWrong);
             return Outcome::Refused;
@@ -38,21 +38,21 @@ Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
 }
 
 Outcome CVorl_ADVDoc::ResetTimeSeries() {
-    return ChangeSeries({.name = "Reset Time Series"}, [](SAdvProbe& copy, Progress& progress) {
+    return ChangeSeries({.calculation = Calculation::Reset}, [](SAdvProbe& copy, Progress& progress) {
         resetProbe(copy, progress);
         return Outcome::Done;
     });
 }
 
 Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
-    return ChangeSeries({.name = "Coordinate System"}, [&](SAdvProbe& copy, Progress& progress) {
+    return ChangeSeries({.calculation = Calculation::Rotation}, [&](SAdvProbe& copy, Progress& progress) {
         changeCoordinateSystem(copy, settings, progress);
         return Outcome::Done;
     });
 }
 
 Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
-    ProbeCommand command{.name = "Editing Time Series", .settings = Settings()};
+    ProbeCommand command{.calculation = Calculation::Editing, .settings = Settings()};
     storeEditingSettings(settings, *command.settings);
     return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         lastEditing_ = editSeries(copy, settings, progress);
@@ -61,7 +61,7 @@ Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
 }
 
 Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
-    ProbeCommand command{.name = "Digital Filtration", .settings = Settings()};
+    ProbeCommand command{.calculation = Calculation::Filtration, .settings = Settings()};
     storeFilterSettings(settings, *command.settings);
     return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         const FilterDecision decision = filterSeries(copy, settings, progress);

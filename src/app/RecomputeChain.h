@@ -9,9 +9,6 @@
 
 namespace vorlan {
 
-/// Asked after every change of the working series of a probe with results.
-inline constexpr const char* kRepeatQuestion = "The Time Series was changed. Repeat all previous calculations ?";
-
 /// One stage that is repeated when the working series of a probe has changed.
 struct StageRepeat {
     DoneMark mark;

@@ -203,7 +203,7 @@ Outcome CVorl_ADVDoc::CloseFile() {
     if (!HasFile()) {
         return Outcome::Refused;
     }
-    if (!port_->confirm("Do you want to close the active data file ?")) {
+    if (!port_->confirm(Question::CloseFile)) {
         return Outcome::Cancelled;
     }
     WorkspacePatch patch;

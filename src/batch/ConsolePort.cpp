@@ -1,6 +1,5 @@
 #include "batch/ConsolePort.h"
 
-#include "app/RecomputeChain.h"
 #include "batch/Interrupt.h"
 
 namespace vorlan {
@@ -11,9 +10,9 @@ bool ConsolePort::takeRefused() {
     return said;
 }
 
-bool ConsolePort::confirm(const std::string& text) {
+bool ConsolePort::confirm(Question question) {
     // The one question whose answer an option decides; all others ask whether the user means what the recipe says.
-    return text == kRepeatQuestion ? options_.repeatStages : true;
+    return question == Question::RepeatStages ? options_.repeatStages : true;
 }
 
 void ConsolePort::refuse(const std::string& text) {
@@ -22,7 +21,7 @@ void ConsolePort::refuse(const std::string& text) {
     console_.complain(context_ + ": " + text);
 }
 
-void ConsolePort::beginRun(int) {
+void ConsolePort::beginRun(Calculation) {
     calculation_.clear();
     percent_ = -1;
 }
@@ -37,15 +36,17 @@ void ConsolePort::status(const std::string& text) {
     show();
 }
 
-void ConsolePort::progress(int percent) {
+void ConsolePort::position(int percent) {
     if (percent != percent_) {
         percent_ = percent;
         show();
     }
 }
 
-bool ConsolePort::pump() {
-    return !interrupted();
+void ConsolePort::breathe() {
+    if (interrupted()) {
+        throw Cancelled();
+    }
 }
 
 void ConsolePort::show() {

@@ -23,13 +23,13 @@ class ConsolePort : public DocumentPort {
     /// Whether a refusal was said since the last call of this function.
     bool takeRefused();
 
-    bool confirm(const std::string& text) override;
+    bool confirm(Question question) override;
     void refuse(const std::string& text) override;
-    void beginRun(int progressOffset) override;
+    void beginRun(Calculation calculation) override;
     void endRun() override;
     void status(const std::string& text) override;
-    void progress(int percent) override;
-    bool pump() override;
+    void position(int percent) override;
+    void breathe() override;
 
   private:
     void show();

@@ -10,16 +10,20 @@ namespace vorlan {
 /// Answers from fields and keeps what was asked.
 class RecordingPort : public DocumentPort {
   public:
-    bool confirm(const std::string& text) override {
-        questions.push_back(text);
+    bool confirm(Question question) override {
+        questions.emplace_back(textOf(question));
         return answer;
     }
     void refuse(const std::string& text) override { refusals.push_back(text); }
-    void beginRun(int progressOffset) override { offsets.push_back(progressOffset); }
+    void beginRun(Calculation calculation) override { runs.push_back(calculation); }
     void endRun() override { ++ends; }
     void status(const std::string& text) override { statuses.push_back(text); }
-    void progress(int percent) override { positions.push_back(percent); }
-    bool pump() override { return pumpsLeft < 0 || pumpsLeft-- > 0; }
+    void position(int percent) override { positions.push_back(percent); }
+    void breathe() override {
+        if (pumpsLeft >= 0 && pumpsLeft-- == 0) {
+            throw Cancelled();
+        }
+    }
 
     void clear() { *this = RecordingPort{}; }
 
@@ -29,7 +33,7 @@ class RecordingPort : public DocumentPort {
     std::vector<std::string> refusals;
     std::vector<std::string> statuses;
     std::vector<int> positions;
-    std::vector<int> offsets;
+    std::vector<Calculation> runs;
     int ends = 0;
 };
 

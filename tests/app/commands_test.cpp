@@ -46,7 +46,7 @@ TEST_F(Commands, SpectralAnalysisRecordsItsRunAndEntersItsStage) {
     EXPECT_TRUE(std::is_sorted(port.positions.begin(), port.positions.end()));
     EXPECT_EQ(port.positions.back(), 100);
     EXPECT_EQ(port.statuses.front(), "Spectral analysis calculations: ");
-    EXPECT_EQ(port.offsets, std::vector<int>{170});
+    EXPECT_EQ(port.runs, std::vector<Calculation>{Calculation::Spectral});
     EXPECT_EQ(port.ends, 1);
     EXPECT_FALSE(document.IsRunning());
 }
@@ -89,11 +89,10 @@ TEST_F(Commands, CancellingStoresNothingAnywhereInTheRun) {
 TEST_F(Commands, NothingStartsDuringARun) {
     class Nosy : public RecordingPort {
       public:
-        bool pump() override {
+        void breathe() override {
             state = commandState(*document, Command::SimulateTimeSeries).enabled ||
                     commandState(*document, Command::NewWorkspace).enabled;
             inner = document->ResetTimeSeries();
-            return true;
         }
         CVorl_ADVDoc* document = nullptr;
         bool state = true;

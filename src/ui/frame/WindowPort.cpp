@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <optional>
 
 namespace vorlan {
 
@@ -16,11 +17,24 @@ class ArrowScope {
     ArrowScope& operator=(const ArrowScope&) = delete;
 };
 
+/// Where the progress bar of a run stands, pixels from the left edge of the status pane; none for a run without a bar.
+std::optional<int> barOffsetOf(Calculation calculation) {
+    switch (calculation) {
+        case Calculation::Spectral:
+        case Calculation::Repeat:
+            return 170;
+        case Calculation::CrossSpectral:
+            return 200;
+        default:
+            return std::nullopt;
+    }
+}
+
 }  // namespace
 
-bool WindowPort::confirm(const std::string& text) {
+bool WindowPort::confirm(Question question) {
     const ArrowScope arrow;
-    return boxes_->confirm(&window_, QString::fromStdString(text));
+    return boxes_->confirm(&window_, QString::fromUtf8(textOf(question)));
 }
 
 void WindowPort::refuse(const std::string& text) {
@@ -28,9 +42,10 @@ void WindowPort::refuse(const std::string& text) {
     boxes_->refuse(&window_, QString::fromStdString(text));
 }
 
-void WindowPort::beginRun(int progressOffset) {
-    if (progressOffset >= 0 && pane_ != nullptr) {
-        pane_->showProgress(progressOffset);
+void WindowPort::beginRun(Calculation calculation) {
+    const std::optional<int> offset = barOffsetOf(calculation);
+    if (offset.has_value() && pane_ != nullptr) {
+        pane_->showProgress(*offset);
     }
     if (running_) {
         return;
@@ -64,18 +79,20 @@ void WindowPort::status(const std::string& text) {
     }
 }
 
-void WindowPort::progress(int percent) {
+void WindowPort::position(int percent) {
     if (pane_ != nullptr) {
         pane_->setProgress(percent);
     }
 }
 
-bool WindowPort::pump() {
+void WindowPort::breathe() {
     if (sinceEvents_.elapsed() >= kMillisecondsBetweenEvents) {
         QCoreApplication::processEvents();
         sinceEvents_.restart();
     }
-    return !cancelled_;
+    if (cancelled_) {
+        throw Cancelled();
+    }
 }
 
 bool WindowPort::eventFilter(QObject* watched, QEvent* event) {

@@ -27,13 +27,13 @@ class WindowPort : public QObject, public DocumentPort {
     /// Told when a calculation begins (true) and has ended (false).
     void setRunListener(std::function<void(bool)> listener) { runListener_ = std::move(listener); }
 
-    bool confirm(const std::string& text) override;
+    bool confirm(Question question) override;
     void refuse(const std::string& text) override;
-    void beginRun(int progressOffset) override;
+    void beginRun(Calculation calculation) override;
     void endRun() override;
     void status(const std::string& text) override;
-    void progress(int percent) override;
-    bool pump() override;
+    void position(int percent) override;
+    void breathe() override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
