@@ -1,8 +1,8 @@
 #pragma once
 
-#include "analysis/EditingSettings.h"
 #include "analysis/Progress.h"
 #include "model/SAdvProbe.h"
+#include "model/StageSettings.h"
 
 namespace vorlan {
 

@@ -4,36 +4,6 @@
 
 namespace vorlan {
 
-FilterSettings filterSettingsOf(const WorkspaceSettings& settings) {
-    FilterSettings dialog;
-    if (settings.filterShape >= 0 && settings.filterShape <= 3) {
-        dialog.shape = static_cast<FilterShape>(settings.filterShape);
-    }
-    if (settings.filterType >= 0 && settings.filterType <= 3) {
-        dialog.type = static_cast<FilterType>(settings.filterType);
-    }
-    dialog.cutoff = settings.filterCutoff;
-    dialog.halfWidth = settings.filterHalfWidth;
-    return dialog;
-}
-
-void storeFilterSettings(const FilterSettings& dialog, WorkspaceSettings& settings) {
-    settings.filterShape = static_cast<std::int32_t>(dialog.shape);
-    settings.filterType = static_cast<std::int32_t>(dialog.type);
-    settings.filterCutoff = dialog.cutoff;
-    settings.filterHalfWidth = dialog.halfWidth;
-}
-
-Refusal refusalOf(const FilterSettings& settings) {
-    if (settings.halfWidth == 0.0) {
-        return {"The filter width should be grater than 0!", "half_width"};
-    }
-    if (settings.cutoff == 0.0) {
-        return {"The cutoff frequency should be grater than 0!", "cutoff"};
-    }
-    return {};
-}
-
 FilterType defaultTypeOf(FilterShape shape) {
     return shape == FilterShape::Bell ? FilterType::BandPass : FilterType::LowPass;
 }

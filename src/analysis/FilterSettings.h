@@ -3,33 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "model/Refusal.h"
-#include "model/WorkspaceSettings.h"
+#include "model/StageSettings.h"
 
 namespace vorlan {
-
-enum class FilterShape : int { Rectangle = 0, Tukey = 1, Gaussian = 2, Bell = 3 };
-
-enum class FilterType : int { LowPass = 0, HighPass = 1, BandPass = 2, BandCut = 3 };
 
 inline constexpr const char* kFilterWidthTooSmall =
     "Filter width too small ! This value should be larger than sampling rate.";
 inline constexpr const char* kFilterWidthTooLarge =
     "Filter width too large ! This value should be smaller than 1/4 time series length.";
-
-/// What the dialog "Digital Filtration | Parameters" edits.
-struct FilterSettings {
-    FilterShape shape = FilterShape::Tukey;
-    FilterType type = FilterType::LowPass;
-    double cutoff = 10.0;     ///< Hz; only the Gaussian shape uses it
-    double halfWidth = 10.0;  ///< s; the Gaussian shape only checks it
-};
-
-FilterSettings filterSettingsOf(const WorkspaceSettings& settings);
-void storeFilterSettings(const FilterSettings& dialog, WorkspaceSettings& settings);
-
-/// Why the dialog may not be accepted; empty when it may. Only values equal to 0 are refused.
-Refusal refusalOf(const FilterSettings& settings);
 
 /// The type that a click on a shape selects, and the types that may be chosen afterwards.
 FilterType defaultTypeOf(FilterShape shape);

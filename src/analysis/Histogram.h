@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "analysis/HistogramSettings.h"
 #include "analysis/Progress.h"
 #include "model/SAdvProbe.h"
+#include "model/StageSettings.h"
 
 namespace vorlan {
 

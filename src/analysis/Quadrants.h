@@ -3,8 +3,8 @@
 #include <string>
 
 #include "analysis/Progress.h"
-#include "analysis/QuadrantSettings.h"
 #include "model/SAdvProbe.h"
+#include "model/StageSettings.h"
 
 namespace vorlan {
 

@@ -7,6 +7,7 @@
 
 #include "analysis/Progress.h"
 #include "model/SAdvFile.h"
+#include "model/SettingField.h"
 
 namespace vorlan {
 
@@ -42,12 +43,7 @@ struct SimulationParameters {
 
 inline constexpr int kMaximumHarmonics = 25;
 
-/// Allowed ranges, both ends included.
-struct Range {
-    double minimum;
-    double maximum;
-    bool holds(double v) const { return v >= minimum && v <= maximum; }
-};
+/// Allowed ranges.
 namespace simulation_range {
 inline constexpr Range kInterval{0.04, 100.0};
 inline constexpr Range kLength{0.08, 1000.0};

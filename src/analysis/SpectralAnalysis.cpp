@@ -33,7 +33,7 @@ bool truncationPointFits(int lags, int samples) {
     return lags <= samples / 2;
 }
 
-SpectralRun spectralRunOf(const SpectralSettings& settings, int samples) {
+SpectralRun spectralRunOf(const SpectralDialogValues& settings, int samples) {
     return {truncationPoint(settings, samples), windowCodeOfButton(settings.windowButton),
             unitSelectorOfButton(settings.unitButton)};
 }

@@ -19,7 +19,7 @@ inline constexpr const char* kTruncationTooLarge =
     "Truncation point too large ! This value exceed of half time series length.";
 
 /// The run that the settings ask for on a series of samples.
-SpectralRun spectralRunOf(const SpectralSettings& settings, int samples);
+SpectralRun spectralRunOf(const SpectralDialogValues& settings, int samples);
 /// The run that the probe recorded.
 SpectralRun spectralRunOf(const SAdvProbe& probe);
 

@@ -7,43 +7,19 @@ namespace vorlan {
 
 namespace {
 constexpr int kPercentMode = 0;
-constexpr int kLagsMode = 1;
-constexpr int kLargestPercent = 50;
-constexpr int kFewestLags = 3;
-}  // namespace
+}
 
 SpectralSettings spectralSettingsOf(const WorkspaceSettings& settings) {
-    SpectralSettings dialog;
-    if (settings.windowButton >= 0 && settings.windowButton <= 3) {
-        dialog.windowButton = settings.windowButton;
-    }
-    if (settings.unitButton == 0 || settings.unitButton == 1) {
-        dialog.unitButton = settings.unitButton;
-    }
-    dialog.truncationMode = settings.truncationMode == kLagsMode ? kLagsMode : kPercentMode;
-    dialog.percent = std::clamp(settings.lagPercent, 0, kLargestPercent);
-    dialog.lags = settings.lagCount;
+    SpectralSettings dialog = usable(settings.spectral);
+    const Range range = fieldOf(dialog, dialog.percent).range;
+    dialog.percent = std::clamp(dialog.percent, static_cast<int>(range.minimum), static_cast<int>(range.maximum));
     return dialog;
 }
 
 void storeSpectralSettings(const SpectralSettings& dialog, WorkspaceSettings& settings) {
-    settings.windowButton = dialog.windowButton;
-    settings.unitButton = dialog.unitButton;
-    settings.truncationMode = dialog.truncationMode;
-    settings.lagPercent = dialog.percent;
-    settings.lagCount = dialog.lags;
+    settings.spectral = dialog;
     settings.lastWindowCode = windowCodeOfButton(dialog.windowButton);
     settings.lastUnitIsRad = unitSelectorOfButton(dialog.unitButton) == 1;
-}
-
-Refusal refusalOf(const SpectralSettings& settings) {
-    if (settings.truncationMode == kPercentMode && settings.percent == 0) {
-        return {"The truncation point should be grater than 0!", "percent"};
-    }
-    if (settings.truncationMode == kLagsMode && settings.lags < kFewestLags) {
-        return {"The truncation point should be grater than 2!", "lags"};
-    }
-    return {};
 }
 
 int windowCodeOfButton(int windowButton) {
@@ -64,7 +40,7 @@ int unitSelectorOfButton(int unitButton) {
     return unitButton == 0 ? 1 : 0;
 }
 
-int truncationPoint(const SpectralSettings& settings, int samples) {
+int truncationPoint(const SpectralDialogValues& settings, int samples) {
     const int value = settings.truncationMode == kPercentMode ? settings.percent : settings.lags;
     if (!settings.percentFlag) {
         return value;

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "analysis/Progress.h"
-#include "analysis/StationaritySettings.h"
 #include "model/SAdvProbe.h"
+#include "model/StageSettings.h"
 
 namespace vorlan {
 

@@ -24,19 +24,19 @@ Outcome CVorl_ADVDoc::Analyse(const ProbeCommand& command, const Analysis& analy
 Outcome CVorl_ADVDoc::StationarityAnalysis(const StationaritySettings& settings) {
     ProbeCommand command{
         .calculation = Calculation::Stationarity, .settings = Settings(), .stage = Stage::Stationarity};
-    storeStationaritySettings(settings, *command.settings);
+    command.settings->stationarity = settings;
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseStationarity(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::Distributions(const HistogramSettings& settings) {
     ProbeCommand command{.calculation = Calculation::Distributions, .settings = Settings(), .stage = Stage::Histograms};
-    storeHistogramSettings(settings, *command.settings);
+    command.settings->histograms = settings;
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseDistributions(copy, settings, progress); });
 }
 
-Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralSettings& settings) {
+Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralDialogValues& settings) {
     ProbeCommand command{.calculation = Calculation::Spectral, .settings = Settings(), .stage = Stage::Spectral};
     storeSpectralSettings(settings, *command.settings);
     return Analyse(command, [&](SAdvProbe& copy, Progress& progress) {
@@ -53,7 +53,7 @@ Outcome CVorl_ADVDoc::CrossSpectralAnalysis() {
 
 Outcome CVorl_ADVDoc::QuadrantsAnalysis(const QuadrantSettings& settings) {
     ProbeCommand command{.calculation = Calculation::Quadrants, .settings = Settings(), .stage = Stage::Quadrants};
-    storeQuadrantSettings(settings, *command.settings);
+    command.settings->quadrants = settings;
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseQuadrants(copy, settings, progress); });
 }

@@ -163,7 +163,7 @@ void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
 }
 
 void CVorl_ADVDoc::Export(std::ostream& stream, ExportKind kind, ExportOptions options, bool all) const {
-    options.holeIncrement = Settings().holeIncrement;
+    options.holeIncrement = Settings().quadrants.increment;
     writeExport(stream, kind, {workspace_.dataFiles, ActiveFile(), ActiveProbe(), options, all});
 }
 

@@ -8,14 +8,9 @@
 #include <string>
 
 #include "analysis/Editing.h"
-#include "analysis/EditingSettings.h"
-#include "analysis/FilterSettings.h"
-#include "analysis/HistogramSettings.h"
-#include "analysis/QuadrantSettings.h"
 #include "analysis/RotationSettings.h"
 #include "analysis/Simulation.h"
 #include "analysis/SpectralSettings.h"
-#include "analysis/StationaritySettings.h"
 #include "app/DocumentPort.h"
 #include "app/WorkspacePatch.h"
 #include "export/ExportKind.h"
@@ -130,7 +125,7 @@ class CVorl_ADVDoc {
 
     Outcome StationarityAnalysis(const StationaritySettings& settings);
     Outcome Distributions(const HistogramSettings& settings);
-    Outcome SpectralAnalysis(const SpectralSettings& settings);
+    Outcome SpectralAnalysis(const SpectralDialogValues& settings);
     Outcome CrossSpectralAnalysis();
     Outcome QuadrantsAnalysis(const QuadrantSettings& settings);
 

@@ -53,7 +53,7 @@ Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
 
 Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
     ProbeCommand command{.calculation = Calculation::Editing, .settings = Settings()};
-    storeEditingSettings(settings, *command.settings);
+    command.settings->editing = settings;
     return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         lastEditing_ = editSeries(copy, settings, progress);
         return Outcome::Done;
@@ -62,7 +62,7 @@ Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
 
 Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
     ProbeCommand command{.calculation = Calculation::Filtration, .settings = Settings()};
-    storeFilterSettings(settings, *command.settings);
+    command.settings->filter = settings;
     return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         const FilterDecision decision = filterSeries(copy, settings, progress);
         for (const std::string& refusal : decision.refusals) {

@@ -34,11 +34,11 @@ const std::vector<StageRepeat>& recomputeChain() {
     static const std::vector<StageRepeat> chain = {
         {DoneMark::Stationarity,
          [](SAdvProbe& probe, const Settings& settings, Progress& progress) {
-             return analyseStationarity(probe, stationaritySettingsOf(settings), progress);
+             return analyseStationarity(probe, usable(settings.stationarity), progress);
          }},
         {DoneMark::Histograms,
          [](SAdvProbe& probe, const Settings& settings, Progress& progress) {
-             return analyseDistributions(probe, histogramSettingsOf(settings), progress);
+             return analyseDistributions(probe, usable(settings.histograms), progress);
          }},
         {DoneMark::Spectral, [](SAdvProbe& probe, const Settings&,
                                 Progress& progress) { return analyseSpectra(probe, spectralRunOf(probe), progress); }},
@@ -48,7 +48,7 @@ const std::vector<StageRepeat>& recomputeChain() {
          [](SAdvProbe& probe, const Settings&, Progress& progress) { return analyseCrossSpectra(probe, progress); }},
         {DoneMark::Quadrants,
          [](SAdvProbe& probe, const Settings& settings, Progress& progress) {
-             return analyseQuadrants(probe, quadrantSettingsOf(settings), progress);
+             return analyseQuadrants(probe, usable(settings.quadrants), progress);
          }},
     };
     return chain;

@@ -6,27 +6,22 @@ namespace vorlan {
 namespace {
 
 Outcome runStationarity(StepContext& context, const StepValues& values) {
-    const StationaritySettings settings{static_cast<BandMode>(values.choice("mode")), values.integer("bands")};
+    const auto settings = settingsOf<StationaritySettings>(values);
     return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.StationarityAnalysis(settings);
 }
 
 Outcome runDistributions(StepContext& context, const StepValues& values) {
-    const HistogramSettings settings{values.integer("grades"), values.integer("bar_width"), values.boolean("normal")};
+    const auto settings = settingsOf<HistogramSettings>(values);
     return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.Distributions(settings);
 }
 
 Outcome runSpectral(StepContext& context, const StepValues& values) {
-    constexpr int kUnitButtons[] = {1, 0};  // hz, rad/s
     // The mode that is not used keeps its number.
-    SpectralSettings settings = spectralSettingsOf(context.document.Settings());
-    settings.windowButton = values.choice("window");
-    settings.unitButton = kUnitButtons[values.choice("unit")];
+    SpectralDialogValues settings = settingsOf(values, spectralSettingsOf(context.document.Settings()));
     settings.percentFlag = !values.has("lags");
     settings.truncationMode = settings.percentFlag ? 0 : 1;
-    if (!settings.percentFlag) {
-        settings.lags = values.integer("lags");
-    } else {
-        settings.percent = values.has("percent") ? values.integer("percent") : SpectralSettings().percent;
+    if (settings.percentFlag && !values.has("percent")) {
+        settings.percent = SpectralSettings().percent;
     }
     return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.SpectralAnalysis(settings);
 }
@@ -40,13 +35,7 @@ Outcome runCrossSpectral(StepContext& context, const StepValues&) {
 }
 
 Outcome runQuadrants(StepContext& context, const StepValues& values) {
-    QuadrantSettings settings;
-    settings.increment = values.real("increment");
-    settings.maximum = values.real("maximum");
-    settings.ejectionThreshold = values.real("ejection");
-    settings.sweepThreshold = values.real("sweep");
-    settings.maximumLag = values.real("lag");
-    settings.stressType = values.choice("stress");
+    const auto settings = settingsOf<QuadrantSettings>(values);
     return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.QuadrantsAnalysis(settings);
 }
 
@@ -59,24 +48,21 @@ Outcome runMeanVelocity(StepContext& context, const StepValues& values) {
 std::vector<StepKind> analysisSteps() {
     return {
         {.name = "stationarity",
-         .keys = {choiceKey("mode", {"fixed", "cumulative"}, "fixed"), integerKey("bands", 10)},
+         .keys = keysOf<StationaritySettings>(),
          .run = runStationarity,
          .command = Command::StationarityAnalysis},
         {.name = "distributions",
-         .keys = {integerKey("grades", 20), within(integerKey("bar_width", 90), 0, 100), booleanKey("normal", true)},
+         .keys = keysOf<HistogramSettings>(),
          .run = runDistributions,
          .command = Command::Histograms},
         {.name = "spectral",
-         .keys = {choiceKey("window", {"rectangle", "bartlett", "tukey", "parzen"}, "tukey"),
-                  choiceKey("unit", {"hz", "rad/s"}, "hz"), within(integerKey("percent", {}), 0, 50),
-                  integerKey("lags", {})},
+         .keys = withoutFallback(keysOf<SpectralSettings>(), {"percent", "lags"}),
          .run = runSpectral,
          .command = Command::SpectralAnalysis,
          .faultOfValues = faultOfSpectral},
         {.name = "cross-spectral", .keys = {}, .run = runCrossSpectral, .command = Command::CrossSpectralAnalysis},
         {.name = "quadrants",
-         .keys = {realKey("increment", 0.2), realKey("maximum", 20.0), realKey("ejection", 1.0), realKey("sweep", 2.0),
-                  realKey("lag", 10.0), choiceKey("stress", {"uv", "uw", "vw"}, "uw")},
+         .keys = keysOf<QuadrantSettings>(),
          .run = runQuadrants,
          .command = Command::QuadrantsAnalysis},
         {.name = "mean-velocity",

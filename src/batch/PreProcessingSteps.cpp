@@ -1,4 +1,5 @@
 // Steps that change the working record.
+#include "analysis/FilterSettings.h"
 #include "batch/RecipeSteps.h"
 
 namespace vorlan {
@@ -29,7 +30,6 @@ void setScoreTest(ScoreTest& test, const StepValues& values, const std::string& 
     if (!test.on) {
         return;
     }
-    test.statistic = static_cast<ScoreStatistic>(values.choice(key));
     const bool minimum = test.statistic == ScoreStatistic::Minimum;
     const ScoreTest usual = key == "snr" ? EditingSettings().signalToNoise : EditingSettings().correlation;
     const std::string threshold = key + "_threshold";
@@ -40,19 +40,21 @@ void setScoreTest(ScoreTest& test, const StepValues& values, const std::string& 
 }
 
 Outcome runEdit(StepContext& context, const StepValues& values) {
-    EditingSettings settings = editingSettingsOf(context.document.Settings());
+    EditingSettings settings = settingsOf(values, usable(context.document.Settings().editing));
     setScoreTest(settings.correlation, values, "correlation");
     setScoreTest(settings.signalToNoise, values, "snr");
     settings.spikeFilter = values.has("spike_threshold");
-    if (settings.spikeFilter) {
-        settings.accelerationThreshold = values.real("spike_threshold");
-    }
     settings.velocityTest = values.has("velocity_threshold");
-    if (settings.velocityTest) {
-        settings.velocityThreshold = values.real("velocity_threshold");
-    }
-    settings.treatment = static_cast<BadSampleTreatment>(values.choice("treatment"));
     return context.document.EditTimeSeries(settings);
+}
+
+std::vector<KeyRule> editKeys() {
+    std::vector<KeyRule> keys =
+        withoutFallback(keysOf<EditingSettings>(), {"correlation", "snr", "spike_threshold", "velocity_threshold"});
+    for (const char* score : {"correlation_threshold", "snr_threshold"}) {
+        keys.push_back(realKey(score, {}));
+    }
+    return keys;
 }
 
 std::string faultOfEdit(const StepValues& values) {
@@ -65,11 +67,10 @@ std::string faultOfEdit(const StepValues& values) {
 }
 
 FilterSettings filterSettingsOf(const StepValues& values) {
-    FilterSettings settings;
-    settings.shape = static_cast<FilterShape>(values.choice("shape"));
-    settings.type = values.has("type") ? static_cast<FilterType>(values.choice("type")) : defaultTypeOf(settings.shape);
-    settings.halfWidth = values.real("half_width");
-    settings.cutoff = values.real("cutoff");
+    auto settings = settingsOf<FilterSettings>(values);
+    if (!values.has("type")) {
+        settings.type = defaultTypeOf(settings.shape);
+    }
     return settings;
 }
 
@@ -103,18 +104,13 @@ std::vector<StepKind> preProcessingSteps() {
          .command = Command::CoordinateSystem,
          .stage = Stage::PreProcessing},
         {.name = "edit",
-         .keys = {choiceKey("correlation", {"average", "minimum"}), realKey("correlation_threshold", {}),
-                  choiceKey("snr", {"average", "minimum"}), realKey("snr_threshold", {}),
-                  realKey("spike_threshold", {}), realKey("velocity_threshold", {}),
-                  choiceKey("treatment", {"interpolate", "remove"}, "interpolate")},
+         .keys = editKeys(),
          .run = runEdit,
          .command = Command::EditingTimeSeries,
          .stage = Stage::PreProcessing,
          .faultOfValues = faultOfEdit},
         {.name = "filter",
-         .keys = {choiceKey("shape", {"rectangle", "tukey", "gaussian", "bell"}, "tukey"),
-                  choiceKey("type", {"low-pass", "high-pass", "band-pass", "band-cut"}), realKey("half_width", 10.0),
-                  realKey("cutoff", 10.0)},
+         .keys = withoutFallback(keysOf<FilterSettings>(), {"type"}),
          .run = runFilter,
          .command = Command::DigitalFiltration,
          .faultOfValues = faultOfFilter},

@@ -55,6 +55,42 @@ KeyRule tripleKey(std::string name) {
     return {.name = std::move(name), .type = KeyType::Triple};
 }
 
+KeyRule keyOf(const SettingField& field, const StoredFlag& fallback) {
+    return booleanKey(field.name, fallback);
+}
+
+KeyRule keyOf(const SettingField& field, std::int32_t fallback) {
+    if (field.choices.empty()) {
+        KeyRule key = integerKey(field.name, fallback);
+        key.range = field.range;
+        return key;
+    }
+    std::vector<std::string> names;
+    std::string usual;
+    for (const Choice& choice : field.choices) {
+        names.emplace_back(choice.name);
+        if (choice.code == fallback) {
+            usual = choice.name;
+        }
+    }
+    return choiceKey(field.name, std::move(names), usual);
+}
+
+KeyRule keyOf(const SettingField& field, double fallback) {
+    KeyRule key = realKey(field.name, fallback);
+    key.range = field.range;
+    return key;
+}
+
+std::vector<KeyRule> withoutFallback(std::vector<KeyRule> keys, const std::vector<std::string>& names) {
+    for (KeyRule& key : keys) {
+        if (std::find(names.begin(), names.end(), key.name) != names.end()) {
+            key.fallback.reset();
+        }
+    }
+    return keys;
+}
+
 KeyRule within(KeyRule key, double minimum, double maximum) {
     key.range = {minimum, maximum};
     return key;

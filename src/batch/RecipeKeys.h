@@ -1,14 +1,13 @@
 #pragma once
 
 #include <array>
-#include <limits>
 #include <map>
 #include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
-#include "analysis/Simulation.h"
+#include "model/SettingField.h"
 
 namespace vorlan {
 
@@ -23,7 +22,7 @@ struct KeyRule {
     KeyType type;
     std::optional<KeyValue> fallback = std::nullopt;
     bool required = false;  ///< without a fallback: must be there; else absence has a meaning of its own
-    Range range{-std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
+    Range range = {};
     std::vector<std::string> choices = {};
     /// Why a text is not accepted; empty when it is.
     std::string (*faultOfText)(const std::string&) = nullptr;
@@ -62,6 +61,54 @@ KeyRule choiceKey(std::string name, std::vector<std::string> choices, const std:
 KeyRule textKey(std::string name, std::optional<std::string> fallback,
                 std::string (*faultOfText)(const std::string&) = nullptr);
 KeyRule tripleKey(std::string name);
+
+// Keys that hold a field of a settings value; the field's value is what an absent key stands for.
+
+KeyRule keyOf(const SettingField& field, const StoredFlag& fallback);
+KeyRule keyOf(const SettingField& field, std::int32_t fallback);
+KeyRule keyOf(const SettingField& field, double fallback);
+
+/// The keys of a settings value, with its defaults.
+template <class Settings>
+std::vector<KeyRule> keysOf() {
+    std::vector<KeyRule> keys;
+    const Settings usual;
+    Settings::Fields(usual, [&](const SettingField& field, const auto& value) {
+        if (*field.name == '\0') {
+            return;
+        }
+        if constexpr (std::is_enum_v<std::remove_cvref_t<decltype(value)>>) {
+            keys.push_back(keyOf(field, static_cast<std::int32_t>(value)));
+        } else {
+            keys.push_back(keyOf(field, value));
+        }
+    });
+    return keys;
+}
+
+/// Keys of these names whose absence has a meaning of its own.
+std::vector<KeyRule> withoutFallback(std::vector<KeyRule> keys, const std::vector<std::string>& names);
+
+/// The settings with the values of a step in the place of what they held.
+template <class Settings>
+Settings settingsOf(const StepValues& values, Settings settings = {}) {
+    Settings::Fields(settings, [&](const SettingField& field, auto& value) {
+        using Value = std::remove_cvref_t<decltype(value)>;
+        if (!values.has(field.name)) {
+            return;
+        }
+        if constexpr (std::is_same_v<Value, StoredFlag>) {
+            value = values.boolean(field.name);
+        } else if constexpr (std::is_same_v<Value, double>) {
+            value = values.real(field.name);
+        } else if (field.choices.empty()) {
+            value = static_cast<Value>(values.integer(field.name));
+        } else {
+            value = static_cast<Value>(field.choices[static_cast<std::size_t>(values.choice(field.name))].code);
+        }
+    });
+    return settings;
+}
 
 KeyRule within(KeyRule key, double minimum, double maximum);
 KeyRule above(KeyRule key, double limit);

@@ -107,7 +107,7 @@ std::string resultsText(const SAdvProbe& probe) {
 // What the workspace's editing criteria say of the record as it is now; nothing when none is on.
 std::string editingText(const SAdvProbe& probe, const WorkspaceSettings& settings) {
     try {
-        const std::string shares = keptSharesText(assessEditing(probe, editingSettingsOf(settings)));
+        const std::string shares = keptSharesText(assessEditing(probe, usable(settings.editing)));
         return shares.empty() ? shares : "    Editing criteria: " + shares + "\n";
     } catch (const InvalidArgument&) {
         return "    Editing criteria: the record has no scores for all of its samples\n";

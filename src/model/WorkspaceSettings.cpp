@@ -24,48 +24,57 @@ void serializeCode(Archive& archive, int& code, int last, int (*exchange)(int)) 
     }
 }
 
+void serialize(Archive& archive, std::int32_t& word) {
+    archive.value(word);
+}
+
+void serialize(Archive& archive, double& number) {
+    archive.value(number);
+}
+
+void serialize(Archive& archive, StoredFlag& flag) {
+    archive.value(flag.word());
+}
+
+template <class Code>
+void serialize(Archive& archive, Code& code) {
+    auto word = static_cast<std::int32_t>(code);
+    archive.value(word);
+    code = static_cast<Code>(word);
+}
+
+template <class... Fields>
+void serializeAll(Archive& archive, Fields&... fields) {
+    (serialize(archive, fields), ...);
+}
+
 }  // namespace
 
 void WorkspaceSettings::Serialize(Archive& archive) {
-    for (std::int32_t* v : {&activeFile, &activeProbe, &activeItem, &previousFile, &previousProbe, &previousItem}) {
-        archive.value(*v);
-    }
+    ScoreTest& correlation = editing.correlation;
+    ScoreTest& snr = editing.signalToNoise;
+    serializeAll(archive, activeFile, activeProbe, activeItem, previousFile, previousProbe, previousItem);
     serializeCode(archive, choiceA, 7, exchangedStageCode);
     serializeCode(archive, choiceB, 7, exchangedStageCode);
-    for (std::int32_t* v : {&physicalValue, &activeView, &reservedA2, &reservedA3, &displaySwitch, &reservedA5,
-                            &correlationTest, &snrTest, &spikeFilter, &velocityTest}) {
-        archive.value(*v);
-    }
-    for (double* v : {&averageCorrelation, &averageSnr, &minimumCorrelation, &minimumSnr, &accelerationThreshold,
-                      &velocityThreshold}) {
-        archive.value(*v);
-    }
-    for (std::int32_t* v : {&correlationStatistic, &snrStatistic, &badSampleTreatment}) {
-        archive.value(*v);
-    }
-    archive.value(filterCutoff);
-    archive.value(filterHalfWidth);
-    for (std::int32_t* v :
-         {&filterType, &filterShape, &bandCount, &bandMode, &normalApproximation, &gradeCount, &barWidth, &lagCount,
-          &truncationMode, &unitButton, &windowButton, &lagPercent, &lastTruncationPoint}) {
-        archive.value(*v);
-    }
+    serializeAll(archive, physicalValue, activeView, reservedA2, reservedA3, displaySwitch, reservedA5);
+    serializeAll(archive, correlation.on, snr.on, editing.spikeFilter, editing.velocityTest,
+                 correlation.averageThreshold, snr.averageThreshold, correlation.minimumThreshold, snr.minimumThreshold,
+                 editing.accelerationThreshold, editing.velocityThreshold, correlation.statistic, snr.statistic,
+                 editing.treatment);
+    serializeAll(archive, filter.cutoff, filter.halfWidth, filter.type, filter.shape);
+    serializeAll(archive, stationarity.bands, stationarity.mode);
+    serializeAll(archive, histograms.normalApproximation, histograms.grades, histograms.barWidth);
+    serializeAll(archive, spectral.lags, spectral.truncationMode, spectral.unitButton, spectral.windowButton,
+                 spectral.percent, lastTruncationPoint);
     serializeCode(archive, lastWindowCode, 3, exchangedWindowCode);
     std::int32_t unit = lastUnitIsRad ? 0 : 1;
     archive.value(unit);
     if (unit == 0 || unit == 1) {
         lastUnitIsRad = unit == 0;
     }
-    for (double* v : {&holeIncrement, &holeMaximum, &ejectionThreshold, &sweepThreshold, &maximumTimeLag}) {
-        archive.value(*v);
-    }
-    for (std::int32_t* v : {&quadrantStress, &planPlane, &planPixels}) {
-        archive.value(*v);
-    }
-    for (double* v : {&planSpeed, &planSmaller, &userMeanVelocity}) {
-        archive.value(*v);
-    }
-    archive.value(meanVelocityMode);
+    serializeAll(archive, quadrants.increment, quadrants.maximum, quadrants.ejectionThreshold, quadrants.sweepThreshold,
+                 quadrants.maximumLag, quadrants.stressType);
+    serializeAll(archive, planPlane, planPixels, planSpeed, planSmaller, userMeanVelocity, meanVelocityMode);
 }
 
 }  // namespace vorlan

@@ -2,12 +2,14 @@
 
 #include <cstdint>
 
+#include "model/StageSettings.h"
+
 namespace vorlan {
 
 class Archive;
 
-/// The document block of a workspace: selection and the parameters that the stage dialogs edit. Defaults are those
-/// of a new workspace. Mode words hold the stored integers; they are range-checked where they are used.
+/// The document block of a workspace: selection and parameters. Defaults are those of a new workspace. Mode words hold
+/// the stored integers; they are range-checked where they are used.
 struct WorkspaceSettings {
     std::int32_t activeFile = -1;
     std::int32_t activeProbe = -1;
@@ -24,42 +26,15 @@ struct WorkspaceSettings {
     std::int32_t reservedA3 = 0;
     std::int32_t displaySwitch = 0;  ///< 1: the right bottom pane shows the table, 0: its diagram
     std::int32_t reservedA5 = 1;
-    std::int32_t correlationTest = 0;
-    std::int32_t snrTest = 0;
-    std::int32_t spikeFilter = 0;
-    std::int32_t velocityTest = 0;
-    double averageCorrelation = 70.0;  ///< per cent
-    double averageSnr = 10.0;          ///< dB
-    double minimumCorrelation = 70.0;
-    double minimumSnr = 5.0;
-    double accelerationThreshold = 1.0;     ///< g
-    double velocityThreshold = 3.0;         ///< standard deviations
-    std::int32_t correlationStatistic = 0;  ///< 0 average, 1 minimum
-    std::int32_t snrStatistic = 0;
-    std::int32_t badSampleTreatment = 0;  ///< 0 interpolate, 1 remove
-    double filterCutoff = 10.0;           ///< Hz
-    double filterHalfWidth = 10.0;        ///< s
-    std::int32_t filterType = 0;
-    std::int32_t filterShape = 1;
-    std::int32_t bandCount = 10;
-    std::int32_t bandMode = 0;  ///< 0 fixed, 1 cumulative
-    std::int32_t normalApproximation = 1;
-    std::int32_t gradeCount = 20;
-    std::int32_t barWidth = 90;  ///< per cent
-    std::int32_t lagCount = 100;
-    std::int32_t truncationMode = 0;  ///< 0 percent, 1 number of lags
-    std::int32_t unitButton = 1;      ///< 0 rad/s, 1 Hz
-    std::int32_t windowButton = 2;    ///< 0 rectangle, 1 Bartlett, 2 Tukey, 3 Parzen
-    std::int32_t lagPercent = 10;
+    EditingSettings editing;
+    FilterSettings filter;
+    StationaritySettings stationarity;
+    HistogramSettings histograms;
+    SpectralSettings spectral;
     std::int32_t lastTruncationPoint = 10;
     int lastWindowCode = 0;      ///< choiceC: 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen
     bool lastUnitIsRad = false;  ///< switchD
-    double holeIncrement = 0.2;
-    double holeMaximum = 20.0;
-    double ejectionThreshold = 1.0;
-    double sweepThreshold = 2.0;
-    double maximumTimeLag = 10.0;  ///< s
-    std::int32_t quadrantStress = 1;
+    QuadrantSettings quadrants;
     std::int32_t planPlane = 2;    ///< 0 XY, 1 XZ, 2 YZ
     std::int32_t planPixels = 50;  ///< an arrow of planSpeed cm/s is this long
     double planSpeed = 10.0;

@@ -36,7 +36,7 @@ PaneContent componentHistogram(const PaneRequest& request, const SAdvProbe& prob
     Diagram diagram = newDiagram(request, &probe);
     beginYAtZero(diagram.frame);
     const STimeSeries& series = probe.Series(component);
-    const HistogramSettings settings = histogramSettingsOf(request.workspace.settings);
+    const HistogramSettings& settings = request.workspace.settings.histograms;
     if (hasHistogram(series)) {
         PlotSeries bars = recordLine(plotValues(series.histogram), SeriesX{0.0, 1.0, gradeEnds(series)}, 0,
                                      kVelocityLabels[static_cast<std::size_t>(component)]);

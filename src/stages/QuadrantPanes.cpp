@@ -14,7 +14,7 @@ constexpr std::array<const char*, 5> kBucketLabels = {"1", "2", "3", "4", "Hole"
 
 Diagram byHoleSize(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table) {
     Diagram diagram = newDiagram(request, &probe);
-    const SeriesX sizes{0.0, holeIncrementOf(probe, request.workspace.settings.holeIncrement), {}};
+    const SeriesX sizes{0.0, holeIncrementOf(probe, request.workspace.settings.quadrants.increment), {}};
     for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
         diagram.plot.series.push_back(
             curve(plotColumn(table, q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));

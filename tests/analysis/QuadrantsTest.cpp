@@ -5,10 +5,10 @@
 #include "Records.h"
 #include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
-#include "analysis/QuadrantSettings.h"
 #include "analysis/Quadrants.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/StageSettings.h"
 
 namespace vorlan::test {
 namespace {

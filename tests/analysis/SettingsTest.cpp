@@ -3,88 +3,53 @@
 
 #include <cmath>
 
-#include "analysis/EditingSettings.h"
 #include "analysis/FilterSettings.h"
-#include "analysis/HistogramSettings.h"
-#include "analysis/QuadrantSettings.h"
 #include "analysis/RotationSettings.h"
 #include "analysis/SpectralSettings.h"
-#include "analysis/StationaritySettings.h"
 #include "model/SAdvProbe.h"
 
 namespace vorlan::test {
 namespace {
 
-/// The settings of every dialog read from one workspace and stored in another.
-WorkspaceSettings handedOver(const WorkspaceSettings& from) {
-    WorkspaceSettings to;
-    storeEditingSettings(editingSettingsOf(from), to);
-    storeFilterSettings(filterSettingsOf(from), to);
-    storeStationaritySettings(stationaritySettingsOf(from), to);
-    storeHistogramSettings(histogramSettingsOf(from), to);
-    storeSpectralSettings(spectralSettingsOf(from), to);
-    storeQuadrantSettings(quadrantSettingsOf(from), to);
-    return to;
+template <class Settings>
+void expectUsableCodes() {
+    Settings damaged;
+    Settings sound;
+    Settings::Fields(damaged, [](const SettingField& field, auto& value) {
+        if (!field.choices.empty()) {
+            value = static_cast<std::remove_cvref_t<decltype(value)>>(-7);
+        }
+    });
+    EXPECT_EQ(usable(damaged), Settings());
+    Settings::Fields(sound, [](const SettingField& field, auto& value) {
+        const int code = field.choices.empty() ? 77 : field.choices.back().code;
+        value = static_cast<std::remove_cvref_t<decltype(value)>>(code);
+    });
+    EXPECT_EQ(usable(sound), sound);
 }
 
-TEST(Settings, TravelFromTheWorkspaceToTheDialogsAndBack) {
-    WorkspaceSettings changed;
-    changed.correlationTest = changed.snrTest = changed.spikeFilter = changed.velocityTest = 1;
-    changed.correlationStatistic = changed.snrStatistic = changed.badSampleTreatment = 1;
-    changed.averageCorrelation = 1.5;
-    changed.minimumCorrelation = 2.5;
-    changed.averageSnr = 3.5;
-    changed.minimumSnr = 4.5;
-    changed.accelerationThreshold = 5.5;
-    changed.velocityThreshold = 6.5;
-    changed.filterShape = changed.filterType = 3;
-    changed.filterCutoff = 7.5;
-    changed.filterHalfWidth = 8.5;
-    changed.bandMode = 1;
-    changed.bandCount = 9;
-    changed.gradeCount = 11;
-    changed.barWidth = 12;
-    changed.normalApproximation = 0;
-    changed.windowButton = 3;
-    changed.lastWindowCode = 3;
-    changed.unitButton = 0;
-    changed.lastUnitIsRad = true;
-    changed.truncationMode = 1;
-    changed.lagPercent = 13;
-    changed.lagCount = 14;
-    changed.holeIncrement = 15.5;
-    changed.holeMaximum = 16.5;
-    changed.ejectionThreshold = 17.5;
-    changed.sweepThreshold = 18.5;
-    changed.maximumTimeLag = 19.5;
-    changed.quadrantStress = 2;
-    EXPECT_EQ(handedOver(changed), changed);
-    for (const auto& [button, code] : {std::pair{0, 0}, {1, 2}, {2, 1}}) {
-        changed.windowButton = button;
-        EXPECT_EQ(handedOver(changed).lastWindowCode, code);
-    }
+TEST(Settings, CodesThatNoChoiceHasGiveWayToTheDefaults) {
+    expectUsableCodes<EditingSettings>();
+    expectUsableCodes<FilterSettings>();
+    expectUsableCodes<StationaritySettings>();
+    expectUsableCodes<HistogramSettings>();
+    expectUsableCodes<SpectralSettings>();
+    expectUsableCodes<QuadrantSettings>();
 }
 
-TEST(Settings, OutOfRangeAreReadAsTheDefaults) {
-    for (const std::int32_t wrong : {-1, 4, 9}) {
-        WorkspaceSettings words;
-        words.correlationStatistic = words.snrStatistic = words.badSampleTreatment = wrong;
-        words.filterShape = words.filterType = words.bandMode = wrong;
-        words.windowButton = words.unitButton = words.truncationMode = words.quadrantStress = wrong;
-        WorkspaceSettings expected;
-        expected.lastWindowCode = 1;  // that of the button
-        EXPECT_EQ(handedOver(words), expected);
+TEST(Settings, OfTheSpectraTravelWithTheCodesOfTheirButtons) {
+    WorkspaceSettings workspace;
+    for (const auto& [button, code] : {std::pair{0, 0}, {1, 2}, {2, 1}, {3, 3}}) {
+        const SpectralSettings settings{button, button % 2, 1, 13, 14};
+        storeSpectralSettings(settings, workspace);
+        EXPECT_EQ(spectralSettingsOf(workspace), settings);
+        EXPECT_EQ(workspace.lastWindowCode, code);
+        EXPECT_EQ(workspace.lastUnitIsRad, button % 2 == 0);
     }
-    WorkspaceSettings words;
-    words.lagPercent = 51;
-    EXPECT_EQ(spectralSettingsOf(words).percent, 50);
-    words.lagPercent = -1;
-    EXPECT_EQ(spectralSettingsOf(words).percent, 0);
-    words.unitButton = 2;
-    words.quadrantStress = 3;
-    EXPECT_EQ(spectralSettingsOf(words).unitButton, 1);
-    EXPECT_EQ(quadrantSettingsOf(words).stressType, 1);
-    EXPECT_TRUE(spectralSettingsOf(words).percentFlag);
+    for (const auto& [stored, shown] : {std::pair{51, 50}, {-1, 0}}) {
+        workspace.spectral.percent = stored;
+        EXPECT_EQ(spectralSettingsOf(workspace).percent, shown);
+    }
 }
 
 FilterSettings filter(double halfWidth, double cutoff) {
@@ -92,7 +57,7 @@ FilterSettings filter(double halfWidth, double cutoff) {
 }
 
 SpectralSettings truncation(int mode, int percent, int lags) {
-    return {2, 1, mode, percent, lags, true};
+    return {2, 1, mode, percent, lags};
 }
 
 TEST(Settings, AreRefusedInTheOrderOfTheirFields) {
@@ -130,7 +95,7 @@ TEST(Settings, AreRefusedInTheOrderOfTheirFields) {
 }
 
 TEST(Settings, TruncationPointIsAPercentageOrANumberOfLags) {
-    SpectralSettings settings = truncation(0, 50, 40);
+    SpectralDialogValues settings = truncation(0, 50, 40);
     EXPECT_EQ(truncationPoint(settings, 2501), 1250);
     settings.truncationMode = 1;
     settings.percentFlag = false;

@@ -23,8 +23,8 @@ inline void simulateAndSelect(CVorl_ADVDoc& document, double length = 40.0, std:
 }
 
 /// The dialog's values for a number of lags, as after a click on the lags button.
-inline SpectralSettings lagsOf(int lags) {
-    SpectralSettings s;
+inline SpectralDialogValues lagsOf(int lags) {
+    SpectralDialogValues s;
     s.truncationMode = 1;
     s.lags = lags;
     s.percentFlag = false;

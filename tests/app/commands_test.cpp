@@ -39,7 +39,7 @@ TEST_F(Commands, SpectralAnalysisRecordsItsRunAndEntersItsStage) {
     EXPECT_EQ(document.Settings().lastWindowCode, 2);
     EXPECT_TRUE(document.Settings().lastUnitIsRad);
     EXPECT_EQ(document.Settings().lastTruncationPoint, 150);
-    EXPECT_EQ(document.Settings().lagPercent, 15);
+    EXPECT_EQ(document.Settings().spectral.percent, 15);
     EXPECT_EQ(document.CurrentStage(), Stage::Spectral);
     EXPECT_EQ(document.Probe().seriesV.spectrum.GetSize(), 150);
     ASSERT_FALSE(port.positions.empty());
@@ -62,7 +62,7 @@ TEST_F(Commands, TooManyLagsAreRefusedAndTheProbeStays) {
 }
 
 TEST_F(Commands, AReopenedLagsModeUsesItsNumberAsPercentage) {
-    SpectralSettings settings = lagsOf(30);
+    SpectralDialogValues settings = lagsOf(30);
     settings.percentFlag = true;
     ASSERT_EQ(document.SpectralAnalysis(settings), Outcome::Done);
     EXPECT_EQ(document.Probe().spectralLags, 300U);
@@ -176,7 +176,7 @@ TEST_F(Commands, RefusedChangesLeaveTheProbeAsItWas) {
     EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Cancelled) << "exactly a quarter: nothing, silently";
     EXPECT_EQ(port.refusals.size(), said);
     EXPECT_EQ(document.Probe(), before);
-    EXPECT_EQ(document.Settings().filterHalfWidth, 10.0) << "accepted parameters are kept";
+    EXPECT_EQ(document.Settings().filter.halfWidth, 10.0) << "accepted parameters are kept";
 }
 
 TEST_F(Commands, CancelledRepeatDropsTheWholeChange) {
@@ -244,14 +244,14 @@ TEST_F(Commands, APatchExchangedTwiceIsTakenBack) {
     simulateAndSelect(document, 10.0);
     Workspace workspace = document.GetWorkspace();
     WorkspacePatch patch;
-    patch.settings.emplace().bandCount = 77;
+    patch.settings.emplace().stationarity.bands = 77;
     patch.probes.push_back({0, 0, SAdvProbe()});
     patch.planFrames.emplace();
     patch.boundaries.emplace().SetSize(2);
     for (const bool takesOut : {true, false}) {
         patch.file = {1, takesOut ? std::nullopt : std::optional(workspace.dataFiles.files.GetAt(0))};
         patch.Exchange(workspace);
-        EXPECT_EQ(workspace.settings.bandCount, 77);
+        EXPECT_EQ(workspace.settings.stationarity.bands, 77);
         EXPECT_EQ(workspace.dataFiles.files.GetSize(), takesOut ? 1 : 3);
         EXPECT_EQ(workspace.dataFiles.files.GetAt(0).probes.GetAt(0), SAdvProbe());
         EXPECT_TRUE(workspace.dataFiles.frameAttributes.IsEmpty());

@@ -42,7 +42,7 @@ TEST_F(RunTest, SpectralStoresWhatTheDocumentComputes) {
     EXPECT_EQ(probeOf(workspace).spectralUnit, 1U);
     EXPECT_TRUE(probeOf(workspace).IsDone(DoneMark::Spectral));
     EXPECT_EQ(probeOf(workspace).seriesU.spectrum.GetSize(), 50);
-    EXPECT_EQ(workspace.settings.lagPercent, 20);
+    EXPECT_EQ(workspace.settings.spectral.percent, 20);
     const SAdvProbe byLags =
         probeOf(applied("[[step]]\ndo = \"spectral\"\nwindow = \"parzen\"\nunit = \"rad/s\"\nlags = 50\n", input));
     EXPECT_EQ(byLags, probeOf(workspace));
@@ -69,8 +69,8 @@ TEST_F(RunTest, SelectionEndsAsItWasLoadedAndSettingsAsTheStepsLeaveThem) {
     EXPECT_EQ(result.settings.previousFile, 5);
     EXPECT_EQ(result.settings.previousProbe, 6);
     EXPECT_EQ(result.settings.previousItem, 7);
-    EXPECT_EQ(result.settings.lagCount, 20);
-    EXPECT_EQ(result.settings.truncationMode, 1);
+    EXPECT_EQ(result.settings.spectral.lags, 20);
+    EXPECT_EQ(result.settings.spectral.truncationMode, 1);
     EXPECT_EQ(result.settings.meanVelocityMode, 1);
     EXPECT_EQ(result.settings.userMeanVelocity, 25.0);
     EXPECT_TRUE(probeOf(result, 0, 0).IsDone(DoneMark::Spectral));
@@ -103,15 +103,15 @@ TEST_F(RunTest, EditHandsItsCriteriaOver) {
         "snr = \"average\"\nvelocity_threshold = 2\ntreatment = \"remove\"\n",
         input);
     const WorkspaceSettings& s = result.settings;
-    EXPECT_EQ(s.correlationTest, 1);
-    EXPECT_EQ(s.correlationStatistic, 1);
-    EXPECT_EQ(s.minimumCorrelation, 88.0);
-    EXPECT_EQ(s.averageCorrelation, 70.0);
-    EXPECT_EQ(s.snrTest, 1);
-    EXPECT_EQ(s.averageSnr, 10.0);
-    EXPECT_EQ(s.spikeFilter, 0);
-    EXPECT_EQ(s.velocityTest, 1);
-    EXPECT_EQ(s.velocityThreshold, 2.0);
+    EXPECT_TRUE(s.editing.correlation.on);
+    EXPECT_EQ(s.editing.correlation.statistic, ScoreStatistic::Minimum);
+    EXPECT_EQ(s.editing.correlation.minimumThreshold, 88.0);
+    EXPECT_EQ(s.editing.correlation.averageThreshold, 70.0);
+    EXPECT_TRUE(s.editing.signalToNoise.on);
+    EXPECT_EQ(s.editing.signalToNoise.averageThreshold, 10.0);
+    EXPECT_FALSE(s.editing.spikeFilter);
+    EXPECT_TRUE(s.editing.velocityTest);
+    EXPECT_EQ(s.editing.velocityThreshold, 2.0);
     EXPECT_FALSE(probeOf(result).UsesAllSamples());
 }
 

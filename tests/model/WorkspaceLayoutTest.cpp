@@ -21,9 +21,16 @@ void show(std::ostream& out, std::byte byte) {
 void show(std::ostream& out, char c) {
     out << static_cast<int>(static_cast<unsigned char>(c));
 }
+void show(std::ostream& out, const StoredFlag& flag) {
+    out << flag.word();
+}
 template <class Value>
 void show(std::ostream& out, const Value& value) {
-    out << value;
+    if constexpr (std::is_enum_v<Value>) {
+        out << static_cast<std::int32_t>(value);
+    } else {
+        out << value;
+    }
 }
 
 template <class... Values>
@@ -40,6 +47,12 @@ std::string line(const char* names, const Values&... values) {
 TEST(Layout, EveryMemberHasItsPlace) {
     const Workspace workspace = loaded(numberedImage());
     const WorkspaceSettings& s = workspace.settings;
+    const EditingSettings& e = s.editing;
+    const ScoreTest& c = e.correlation;
+    const ScoreTest& n = e.signalToNoise;
+    const HistogramSettings& h = s.histograms;
+    const SpectralSettings& d = s.spectral;
+    const QuadrantSettings& q = s.quadrants;
     const SAdvFile& file = workspace.dataFiles.files.GetAt(0);
     const SAdvProbe& p = file.probes.GetAt(0);
     const STimeSeries& v = p.seriesVW;
@@ -48,13 +61,15 @@ TEST(Layout, EveryMemberHasItsPlace) {
     const std::string all =
         SHOWN(s.activeFile, s.activeProbe, s.activeItem, s.previousFile, s.previousProbe, s.previousItem) +
         SHOWN(s.choiceA, s.choiceB, s.physicalValue, s.activeView, s.reservedA2, s.reservedA3, s.displaySwitch) +
-        SHOWN(s.reservedA5, s.correlationTest, s.snrTest, s.spikeFilter, s.velocityTest, s.averageCorrelation) +
-        SHOWN(s.averageSnr, s.minimumCorrelation, s.minimumSnr, s.accelerationThreshold, s.velocityThreshold) +
-        SHOWN(s.correlationStatistic, s.snrStatistic, s.badSampleTreatment, s.filterCutoff, s.filterHalfWidth) +
-        SHOWN(s.filterType, s.filterShape, s.bandCount, s.bandMode, s.normalApproximation, s.gradeCount, s.barWidth) +
-        SHOWN(s.lagCount, s.truncationMode, s.unitButton, s.windowButton, s.lagPercent, s.lastTruncationPoint) +
-        SHOWN(s.lastWindowCode, s.lastUnitIsRad, s.holeIncrement, s.holeMaximum, s.ejectionThreshold) +
-        SHOWN(s.sweepThreshold, s.maximumTimeLag, s.quadrantStress, s.planPlane, s.planPixels, s.planSpeed) +
+        SHOWN(s.reservedA5, c.on, n.on, e.spikeFilter, e.velocityTest, c.averageThreshold) +
+        SHOWN(n.averageThreshold, c.minimumThreshold, n.minimumThreshold, e.accelerationThreshold,
+              e.velocityThreshold) +
+        SHOWN(c.statistic, n.statistic, e.treatment, s.filter.cutoff, s.filter.halfWidth) +
+        SHOWN(s.filter.type, s.filter.shape, s.stationarity.bands, s.stationarity.mode, h.normalApproximation, h.grades,
+              h.barWidth) +
+        SHOWN(d.lags, d.truncationMode, d.unitButton, d.windowButton, d.percent, s.lastTruncationPoint) +
+        SHOWN(s.lastWindowCode, s.lastUnitIsRad, q.increment, q.maximum, q.ejectionThreshold) +
+        SHOWN(q.sweepThreshold, q.maximumLag, q.stressType, s.planPlane, s.planPixels, s.planSpeed) +
         SHOWN(s.planSmaller, s.userMeanVelocity, s.meanVelocityMode) +
         SHOWN(file.fileName, file.channelCount, file.headerBlock[0], file.headerBlock[299]) +
         SHOWN(file.channels[7].textA[0], file.channels[7].textB[0], file.channels[7].textC[25]) +

@@ -124,14 +124,14 @@ TEST(Panes, ShowWhatWasChanged) {
         {"nothing analysed", [](Workspace& w, SAdvProbe&) { w = simulated(); }},
         {"other runs",
          [](Workspace& w, SAdvProbe& p) {
-             w.settings.holeIncrement = 0.1;
+             w.settings.quadrants.increment = 0.1;
              analyse(p, BandMode::Cumulative, 1, 2);
          }},
         {"a stress that does not exist, no normal curve, narrow bars",
          [](Workspace& w, SAdvProbe& p) {
              p.quadrantStress = 77;
-             w.settings.normalApproximation = 0;
-             w.settings.barWidth = 30;
+             w.settings.histograms.normalApproximation = false;
+             w.settings.histograms.barWidth = 30;
          }},
         {"samples rejected",
          [](Workspace&, SAdvProbe& p) {

@@ -170,7 +170,7 @@ class DialogsValues : public QObject {
     }
 
     void ofSpectraWhereAClickDecidesHowTheNumberIsRead() {
-        SpectralSettings settings;
+        SpectralDialogValues settings;
         settings.truncationMode = 1;
         settings.lags = 40;
         settings.percentFlag = false;

@@ -26,7 +26,8 @@ CHistDlg::CHistDlg(const HistogramSettings& settings, QWidget* parent)
     auto* upDown = new CUpDown(0, kLargestSpin, grades_, this);
     upDown->setPosition(kSpinAtOpening);
     barWidth_ = new QSlider(Qt::Horizontal, this);
-    barWidth_->setRange(0, 100);
+    const Range range = fieldOf(values_, values_.barWidth).range;
+    barWidth_->setRange(static_cast<int>(range.minimum), static_cast<int>(range.maximum));
     barWidth_->setValue(settings.barWidth);
     barWidth_->setMinimumWidth(180);
     barWidthText_ = new QLabel(this);

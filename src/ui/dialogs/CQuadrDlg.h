@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/QuadrantSettings.h"
+#include "model/StageSettings.h"
 #include "ui/dialogs/CParameterDialog.h"
 
 class QButtonGroup;

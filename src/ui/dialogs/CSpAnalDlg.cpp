@@ -16,7 +16,6 @@ namespace vorlan {
 namespace {
 constexpr int kPercentMode = 0;
 constexpr int kLagsMode = 1;
-constexpr int kLargestPercent = 50;
 constexpr int kLargestSpin = 10000;
 }  // namespace
 
@@ -47,7 +46,8 @@ QWidget* CSpAnalDlg::truncationBox() {
     mode_->addButton(lagsButton, kLagsMode);
     (values_.truncationMode == kLagsMode ? lagsButton : percentButton)->setChecked(true);
 
-    percent_->setRange(0, kLargestPercent);
+    const Range range = fieldOf<SpectralSettings>(values_, values_.percent).range;
+    percent_->setRange(static_cast<int>(range.minimum), static_cast<int>(range.maximum));
     percent_->setPageStep(5);
     percent_->setTickInterval(10);
     percent_->setTickPosition(QSlider::TicksBelow);
@@ -61,9 +61,9 @@ QWidget* CSpAnalDlg::truncationBox() {
     enableLags(values_.truncationMode == kLagsMode);
 
     auto* slider = new QHBoxLayout;
-    slider->addWidget(new QLabel(QStringLiteral("0"), box));
+    slider->addWidget(new QLabel(QString::number(percent_->minimum()), box));
     slider->addWidget(percent_, 1);
-    slider->addWidget(new QLabel(QStringLiteral("50"), box));
+    slider->addWidget(new QLabel(QString::number(percent_->maximum()), box));
     slider->addSpacing(8);
     slider->addWidget(percentText_);
     auto* lags = new QHBoxLayout;
@@ -104,7 +104,7 @@ void CSpAnalDlg::showPercent(int percent) {
 }
 
 bool CSpAnalDlg::takeFields(FieldReader& reader) {
-    SpectralSettings read = values_;
+    SpectralDialogValues read = values_;
     read.windowButton = chosen(window_, values_.windowButton);
     read.unitButton = chosen(unit_, values_.unitButton);
     read.truncationMode = chosen(mode_, values_.truncationMode);

@@ -17,7 +17,7 @@ class CSpAnalDlg : public CParameterDialog {
     Q_OBJECT
   public:
     explicit CSpAnalDlg(const SpectralSettings& settings, QWidget* parent = nullptr);
-    const SpectralSettings& values() const { return values_; }
+    const SpectralDialogValues& values() const { return values_; }
 
   protected:
     bool takeFields(FieldReader& reader) override;
@@ -28,7 +28,7 @@ class CSpAnalDlg : public CParameterDialog {
     void enableLags(bool on);
     void showPercent(int percent);
 
-    SpectralSettings values_;
+    SpectralDialogValues values_;
     bool percentFlag_ = true;
     QButtonGroup* window_;
     QButtonGroup* unit_;

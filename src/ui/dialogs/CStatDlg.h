@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/StationaritySettings.h"
+#include "model/StageSettings.h"
 #include "ui/dialogs/CParameterDialog.h"
 
 class QButtonGroup;

@@ -88,13 +88,13 @@ void UserCommands::dispatch(Command command) {
         case Command::EditingTimeSeries:
             return editTimeSeries();
         case Command::DigitalFiltration:
-            ask<CFilterDlg>(&CVorl_ADVDoc::FilterTimeSeries, filterSettingsOf(settings));
+            ask<CFilterDlg>(&CVorl_ADVDoc::FilterTimeSeries, usable(settings.filter));
             return;
         case Command::StationarityAnalysis:
-            ask<CStatDlg>(&CVorl_ADVDoc::StationarityAnalysis, stationaritySettingsOf(settings));
+            ask<CStatDlg>(&CVorl_ADVDoc::StationarityAnalysis, usable(settings.stationarity));
             return;
         case Command::Histograms:
-            ask<CHistDlg>(&CVorl_ADVDoc::Distributions, histogramSettingsOf(settings));
+            ask<CHistDlg>(&CVorl_ADVDoc::Distributions, usable(settings.histograms));
             return;
         case Command::SpectralAnalysis:
             ask<CSpAnalDlg>(&CVorl_ADVDoc::SpectralAnalysis, spectralSettingsOf(settings));
@@ -103,7 +103,7 @@ void UserCommands::dispatch(Command command) {
             document_.CrossSpectralAnalysis();
             return;
         case Command::QuadrantsAnalysis:
-            ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, quadrantSettingsOf(settings));
+            ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, usable(settings.quadrants));
             return;
         case Command::MeanVelocity:
             ask<CMeanVelDlg>(&CVorl_ADVDoc::SetMeanVelocity, document_.GetMeanVelocity(), document_.AveragedVelocity());
@@ -154,7 +154,7 @@ void UserCommands::simulate() {
 }
 
 void UserCommands::editTimeSeries() {
-    if (ask<CEditTSDlg>(&CVorl_ADVDoc::EditTimeSeries, editingSettingsOf(document_.Settings())) == Outcome::Done) {
+    if (ask<CEditTSDlg>(&CVorl_ADVDoc::EditTimeSeries, usable(document_.Settings().editing)) == Outcome::Done) {
         const std::string shares = keptSharesText(document_.LastEditing());
         if (!shares.empty()) {
             showStatus_(QString::fromStdString(shares));

@@ -1,0 +1,156 @@
+#pragma once
+
+#include "model/Refusal.h"
+#include "model/SettingField.h"
+
+// The parameters that the stage dialogs edit, with the defaults of a new workspace. Codes and flags take 32 bits and
+// hold whatever a file held; usable() makes the codes safe.
+
+namespace vorlan {
+
+/// Which of a sample's three beam scores is compared with the threshold.
+enum class ScoreStatistic : std::int32_t { Average = 0, Minimum = 1 };
+
+enum class BadSampleTreatment : std::int32_t { Interpolate = 0, Remove = 1 };
+
+enum class FilterShape : std::int32_t { Rectangle = 0, Tukey = 1, Gaussian = 2, Bell = 3 };
+
+enum class FilterType : std::int32_t { LowPass = 0, HighPass = 1, BandPass = 2, BandCut = 3 };
+
+enum class BandMode : std::int32_t { Fixed = 0, Cumulative = 1 };
+
+/// One test of the beam scores: the threshold is that of the chosen statistic.
+struct ScoreTest {
+    StoredFlag on = false;
+    ScoreStatistic statistic = ScoreStatistic::Average;
+    double averageThreshold = 70.0;
+    double minimumThreshold = 70.0;
+
+    double threshold() const { return statistic == ScoreStatistic::Minimum ? minimumThreshold : averageThreshold; }
+    friend bool operator==(const ScoreTest&, const ScoreTest&) = default;
+};
+
+/// What the dialog "Editing Time Series" edits. Every number is accepted.
+struct EditingSettings {
+    ScoreTest correlation{false, ScoreStatistic::Average, 70.0, 70.0};   ///< per cent
+    ScoreTest signalToNoise{false, ScoreStatistic::Average, 10.0, 5.0};  ///< dB
+    StoredFlag spikeFilter = false;
+    double accelerationThreshold = 1.0;  ///< g
+    StoredFlag velocityTest = false;
+    double velocityThreshold = 3.0;  ///< standard deviations
+    BadSampleTreatment treatment = BadSampleTreatment::Interpolate;
+
+    /// A recipe turns a test on by giving its statistic or its threshold.
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        for (auto* score : {&self.correlation, &self.signalToNoise}) {
+            visit(
+                SettingField{score == &self.correlation ? "correlation" : "snr", {}, {{"average", 0}, {"minimum", 1}}},
+                score->statistic);
+        }
+        visit(SettingField{"spike_threshold"}, self.accelerationThreshold);
+        visit(SettingField{"velocity_threshold"}, self.velocityThreshold);
+        visit(SettingField{"treatment", {}, {{"interpolate", 0}, {"remove", 1}}}, self.treatment);
+    }
+    friend bool operator==(const EditingSettings&, const EditingSettings&) = default;
+};
+
+/// What the dialog "Digital Filtration | Parameters" edits.
+struct FilterSettings {
+    FilterShape shape = FilterShape::Tukey;
+    FilterType type = FilterType::LowPass;
+    double cutoff = 10.0;     ///< Hz; only the Gaussian shape uses it
+    double halfWidth = 10.0;  ///< s; the Gaussian shape only checks it
+
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        visit(SettingField{"shape", {}, {{"rectangle", 0}, {"tukey", 1}, {"gaussian", 2}, {"bell", 3}}}, self.shape);
+        visit(SettingField{"type", {}, {{"low-pass", 0}, {"high-pass", 1}, {"band-pass", 2}, {"band-cut", 3}}},
+              self.type);
+        visit(SettingField{"half_width"}, self.halfWidth);
+        visit(SettingField{"cutoff"}, self.cutoff);
+    }
+    friend bool operator==(const FilterSettings&, const FilterSettings&) = default;
+};
+
+/// What the dialog "Stationarity Analysis | Parameters" edits.
+struct StationaritySettings {
+    BandMode mode = BandMode::Fixed;
+    std::int32_t bands = 10;
+
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        visit(SettingField{"mode", {}, {{"fixed", 0}, {"cumulative", 1}}}, self.mode);
+        visit(SettingField{"bands"}, self.bands);
+    }
+    friend bool operator==(const StationaritySettings&, const StationaritySettings&) = default;
+};
+
+/// What the dialog "Univariate Distributions | Histogram Parameters" edits.
+struct HistogramSettings {
+    std::int32_t grades = 20;
+    std::int32_t barWidth = 90;  ///< per cent of the grade width
+    StoredFlag normalApproximation = true;
+
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        visit(SettingField{"grades"}, self.grades);
+        visit(SettingField{"bar_width", {0, 100}}, self.barWidth);
+        visit(SettingField{"normal"}, self.normalApproximation);
+    }
+    friend bool operator==(const HistogramSettings&, const HistogramSettings&) = default;
+};
+
+/// What the dialog "Spectral Analysis | Parameters" edits.
+struct SpectralSettings {
+    std::int32_t windowButton = 2;    ///< 0 rectangle, 1 Bartlett, 2 Tukey, 3 Parzen
+    std::int32_t unitButton = 1;      ///< 0 rad/s, 1 Hz
+    std::int32_t truncationMode = 0;  ///< 0 percent of the series length, 1 number of lags
+    std::int32_t percent = 10;
+    std::int32_t lags = 100;
+
+    /// A recipe chooses the mode by giving its number.
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        visit(SettingField{"window", {}, {{"rectangle", 0}, {"bartlett", 1}, {"tukey", 2}, {"parzen", 3}}},
+              self.windowButton);
+        visit(SettingField{"unit", {}, {{"hz", 1}, {"rad/s", 0}}}, self.unitButton);
+        visit(SettingField{"", {}, {{"percent", 0}, {"lags", 1}}}, self.truncationMode);
+        visit(SettingField{"percent", {0, 50}}, self.percent);
+        visit(SettingField{"lags"}, self.lags);
+    }
+    friend bool operator==(const SpectralSettings&, const SpectralSettings&) = default;
+};
+
+/// What the dialog "Conditional Quadrants Analysis and Averaging" edits.
+struct QuadrantSettings {
+    double increment = 0.2;          ///< step between hole sizes, in mean stresses
+    double maximum = 20.0;           ///< upper end of the hole sizes, in mean stresses
+    double ejectionThreshold = 1.0;  ///< in mean stresses
+    double sweepThreshold = 2.0;     ///< in mean stresses
+    double maximumLag = 10.0;        ///< reach of the averaged patterns to either side, s
+    std::int32_t stressType = 1;     ///< 0 u'v', 1 u'w', 2 v'w'
+
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        visit(SettingField{"increment"}, self.increment);
+        visit(SettingField{"maximum"}, self.maximum);
+        visit(SettingField{"ejection"}, self.ejectionThreshold);
+        visit(SettingField{"sweep"}, self.sweepThreshold);
+        visit(SettingField{"lag"}, self.maximumLag);
+        visit(SettingField{"stress", {}, {{"uv", 0}, {"uw", 1}, {"vw", 2}}}, self.stressType);
+    }
+    friend bool operator==(const QuadrantSettings&, const QuadrantSettings&) = default;
+};
+
+// Why a dialog may not be accepted; empty when it may.
+
+/// Only values equal to 0 are refused.
+Refusal refusalOf(const FilterSettings& settings);
+Refusal refusalOf(const StationaritySettings& settings);
+Refusal refusalOf(const HistogramSettings& settings);
+Refusal refusalOf(const SpectralSettings& settings);
+/// The texts promise more than the checks: thresholds of 0, a maximum of 2, a lag of 2 and a negative increment pass.
+Refusal refusalOf(const QuadrantSettings& settings);
+
+}  // namespace vorlan
