@@ -144,10 +144,8 @@ CommandState commandState(const CVorl_ADVDoc& document, Command command, const S
             state.reason = reasonOf(document, row, shown);
         }
     }
-    for (const ExportKindInfo& info : exportKinds()) {
-        if (exportCommand(info.kind) == command) {
-            state.reason = exportReason(document, info);
-        }
+    if (const std::optional<ExportKind> kind = exportOf(command)) {
+        state.reason = exportReason(document, exportKindInfo(*kind));
     }
     if (document.IsRunning()) {
         state.reason = "a calculation is running";

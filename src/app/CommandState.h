@@ -12,18 +12,8 @@ enum class Command : int {
     SaveWorkspace,
     SaveWorkspaceAs,
     CloseFile,
-    ExportVelocities,  // the exports stand in the order of ExportKind
-    ExportStationarity,
-    ExportHistograms,
-    ExportStatistics,
-    ExportSpectral,
-    ExportScales,
-    ExportStresses,
-    ExportStressStatistics,
-    ExportCrossSpectral,
-    ExportContributions,
-    ExportTimes,
-    ExportPatterns,
+    FirstExport,  // one per kind of export, in their order
+    LastExport = FirstExport + kExportKindCount - 1,
     PageSetup,
     PrintPreview,
     Print,
@@ -60,7 +50,15 @@ inline constexpr int kCommandCount = static_cast<int>(Command::About) + 1;
 
 /// The command that offers an export.
 inline Command exportCommand(ExportKind kind) {
-    return static_cast<Command>(static_cast<int>(Command::ExportVelocities) + static_cast<int>(kind));
+    return static_cast<Command>(static_cast<int>(Command::FirstExport) + static_cast<int>(kind));
+}
+
+/// The export that a command offers; none for another command.
+inline std::optional<ExportKind> exportOf(Command command) {
+    if (command < Command::FirstExport || command > Command::LastExport) {
+        return std::nullopt;
+    }
+    return static_cast<ExportKind>(static_cast<int>(command) - static_cast<int>(Command::FirstExport));
 }
 
 /// What the views show, as far as commands depend on it: a stage's diagram may be a message instead.

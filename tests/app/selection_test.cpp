@@ -154,22 +154,22 @@ TEST_F(Selection, RemovedSamplesDisableWhatNeedsAllOfThem) {
         EXPECT_FALSE(enabled(command));
     }
     EXPECT_TRUE(enabled(Command::Histograms));
-    EXPECT_TRUE(enabled(Command::ExportVelocities));
+    EXPECT_TRUE(enabled(exportCommand(ExportKind::Velocities)));
 }
 
 TEST_F(Selection, ExportsOpenWithTheirResults) {
     simulateAndSelect(document);
-    EXPECT_FALSE(enabled(Command::ExportSpectral));
+    EXPECT_FALSE(enabled(exportCommand(ExportKind::Spectral)));
     EXPECT_FALSE(enabled(Command::CrossSpectralAnalysis));
     ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
-    EXPECT_TRUE(enabled(Command::ExportSpectral));
+    EXPECT_TRUE(enabled(exportCommand(ExportKind::Spectral)));
     EXPECT_TRUE(enabled(Command::CrossSpectralAnalysis));
-    EXPECT_FALSE(enabled(Command::ExportCrossSpectral));
+    EXPECT_FALSE(enabled(exportCommand(ExportKind::CrossSpectral)));
     ASSERT_EQ(document.CrossSpectralAnalysis(), Outcome::Done);
-    EXPECT_TRUE(enabled(Command::ExportCrossSpectral));
-    EXPECT_FALSE(enabled(Command::ExportPatterns));
+    EXPECT_TRUE(enabled(exportCommand(ExportKind::CrossSpectral)));
+    EXPECT_FALSE(enabled(exportCommand(ExportKind::Patterns)));
     ASSERT_EQ(document.QuadrantsAnalysis({}), Outcome::Done);
-    EXPECT_TRUE(enabled(Command::ExportPatterns));
+    EXPECT_TRUE(enabled(exportCommand(ExportKind::Patterns)));
 }
 
 }  // namespace

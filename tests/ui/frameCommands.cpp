@@ -65,7 +65,7 @@ class FrameCommands : public QObject {
         const auto text = [&](Command command) { return driver.frame->actions().of(command)->text(); };
         QCOMPARE(text(Command::SpectralAnalysis), QStringLiteral("S&pectral Analysis..."));
         QCOMPARE(text(Command::QuadrantsAnalysis), QStringLiteral("&Quadrants Analysis and Averaging..."));
-        QCOMPARE(text(Command::ExportScales), QStringLiteral("&Dis. Rate and Scales..."));
+        QCOMPARE(text(exportCommand(ExportKind::Scales)), QStringLiteral("&Dis. Rate and Scales..."));
         QCOMPARE(driver.frame->actions().of(Command::ZoomAndClipping)->statusTip(), QStringLiteral("Zoom time series"));
         QCOMPARE(driver.frame->actions().of(Command::ResetTimeSeries)->toolTip(),
                  QStringLiteral("Reset Zoom and Clipping"));
@@ -86,8 +86,9 @@ class FrameCommands : public QObject {
         QCOMPARE(driver.status(), QStringLiteral("Ready"));
         QVERIFY(driver.enabled(Command::SimulateTimeSeries));
         QVERIFY(driver.enabled(Command::SaveWorkspace));
-        for (const Command command : {Command::CloseFile, Command::SpectralAnalysis, Command::BitmapCopy,
-                                      Command::ExportVelocities, Command::PlotFrameOptions, Command::ResetTimeSeries}) {
+        for (const Command command :
+             {Command::CloseFile, Command::SpectralAnalysis, Command::BitmapCopy, exportCommand(ExportKind::Velocities),
+              Command::PlotFrameOptions, Command::ResetTimeSeries}) {
             QVERIFY(!driver.enabled(command));
         }
     }
@@ -160,8 +161,8 @@ class FrameCommands : public QObject {
             {Command::MeanVelocity, "Mean Velocity | Parameters"},
             {Command::PlotFrameOptions, "Plot Frame Options"},
             {Command::SimulateTimeSeries, "Simulate Time Series | Parameters"},
-            {Command::ExportVelocities, "Export | as an ASCII file"},
-            {Command::ExportStatistics, "Export Data"},
+            {exportCommand(ExportKind::Velocities), "Export | as an ASCII file"},
+            {exportCommand(ExportKind::Statistics), "Export Data"},
         };
         for (const auto& [command, title] : dialogs) {
             QVERIFY2(driver.withDialog(command, title, {}, QDialogButtonBox::Cancel), title);
@@ -215,7 +216,7 @@ class FrameCommands : public QObject {
         FrameDriver driver;
         driver.simulate();
         driver.boxes.exportPath = driver.path("vel.dat");
-        QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
+        QVERIFY(driver.withDialog(exportCommand(ExportKind::Velocities), "Export | as an ASCII file"));
         QFile file(driver.boxes.exportPath);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll().count('\n'), 1000);
@@ -226,14 +227,14 @@ class FrameCommands : public QObject {
         driver.boxes.savePath = driver.path("kept.avp");
         driver.trigger(Command::SaveWorkspace);
         driver.boxes.exportPath = driver.boxes.savePath;
-        QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
+        QVERIFY(driver.withDialog(exportCommand(ExportKind::Velocities), "Export | as an ASCII file"));
         QCOMPARE(driver.boxes.refusals.size(), 1);
         QVERIFY(driver.boxes.refusals.takeFirst().startsWith(driver.boxes.savePath + QLatin1String(" is a workspace")));
         QCOMPARE(driver.document().GetWorkspace().dataFiles.files.GetSize(), 1);
         QVERIFY(driver.frame->files().openPath(driver.boxes.savePath));
 
         driver.boxes.exportPath = QStringLiteral("/nonexistent/folder/vel.dat");
-        QVERIFY(driver.withDialog(Command::ExportVelocities, "Export | as an ASCII file"));
+        QVERIFY(driver.withDialog(exportCommand(ExportKind::Velocities), "Export | as an ASCII file"));
         QCOMPARE(driver.status(), QStringLiteral("Cannot write /nonexistent/folder/vel.dat"));
         QVERIFY(driver.boxes.refusals.isEmpty());
     }

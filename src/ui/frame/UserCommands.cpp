@@ -115,10 +115,8 @@ void UserCommands::dispatch(Command command) {
         default:
             break;
     }
-    for (const ExportKindInfo& info : exportKinds()) {
-        if (exportCommand(info.kind) == command) {
-            return exportData(info.kind);
-        }
+    if (const std::optional<ExportKind> kind = exportOf(command)) {
+        return exportData(*kind);
     }
     runFileCommand(command);
 }
