@@ -4,7 +4,7 @@
 
 #include "analysis/CrossSpectralFunctions.h"
 #include "analysis/SpectralAnalysis.h"
-#include "analysis/StressPairs.h"
+#include "analysis/Stresses.h"
 
 namespace vorlan {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "analysis/CrossLagWindow.h"
+#include "analysis/LagWindow.h"
 #include "analysis/kernels/SlidingProducts.h"
 #include "analysis/kernels/TrigonometricSums.h"
 #include "model/Angles.h"

@@ -6,12 +6,16 @@
 
 namespace vorlan {
 
+namespace {
+constexpr int kBartlett = 2;
+}
+
 double lagWindowWeight(int code, double k, double length) {
     const double share = k / length;
     switch (code) {
         case 1:
             return (std::cos(kPi * k / length) + 1.0) * 0.5;
-        case 2:
+        case kBartlett:
             return 1.0 - share;
         case 3:
             if (k <= length / 2.0) {
@@ -21,6 +25,10 @@ double lagWindowWeight(int code, double k, double length) {
         default:
             return 1.0;
     }
+}
+
+double crossLagWindowWeight(int code, double k, double length) {
+    return code == kBartlett ? (1.0 - k) / length : lagWindowWeight(code, k, length);
 }
 
 }  // namespace vorlan

@@ -8,4 +8,8 @@ namespace vorlan {
 ///   Parzen 1 - 6 (k/L)^2 + 6 (k/L)^3 for k <= L/2, else 2 (1 - k/L)^3.
 double lagWindowWeight(int code, double k, double length);
 
+/// Weight of lag k of a cross-covariance function under the window code of length L: as lagWindowWeight, but the
+/// Bartlett weight is (1 - k) / L, which is negative from the second lag on.
+double crossLagWindowWeight(int code, double k, double length);
+
 }  // namespace vorlan

@@ -6,7 +6,7 @@
 
 #include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
-#include "analysis/StressPairs.h"
+#include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
 
 namespace vorlan {

@@ -1,7 +1,7 @@
 #include "export/Writers.h"
 
 #include "analysis/SpectralScale.h"
-#include "analysis/StressPairs.h"
+#include "analysis/Stresses.h"
 #include "export/RowWriter.h"
 
 namespace vorlan {

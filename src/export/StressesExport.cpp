@@ -1,6 +1,6 @@
 #include "export/Writers.h"
 
-#include "analysis/StressPairs.h"
+#include "analysis/Stresses.h"
 #include "export/FormedStresses.h"
 #include "export/RowWriter.h"
 

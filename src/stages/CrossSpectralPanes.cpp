@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "analysis/SpectralScale.h"
-#include "analysis/StressPairs.h"
+#include "analysis/Stresses.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 

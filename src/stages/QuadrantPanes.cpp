@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "analysis/ResultAxes.h"
-#include "analysis/StressPairs.h"
+#include "analysis/Stresses.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
