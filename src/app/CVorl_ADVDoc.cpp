@@ -81,6 +81,7 @@ bool CVorl_ADVDoc::IsChangedOnDisk() const {
 
 void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch) {
     patch.Exchange(workspace_);
+    // The patch holds what the command replaced: exchanged again, it takes the command back.
     if (command != nullptr) {
         modified_ = true;
     }
@@ -96,9 +97,19 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
     if (running_) {
         return Outcome::Refused;
     }
+    const auto keepSettings = [&] {
+        if (command.settings.has_value()) {
+            Write(nameOf(command.calculation), {.settings = command.settings});
+        }
+    };
+    if (!HasProbe()) {
+        keepSettings();
+        return Outcome::Refused;
+    }
     Outcome outcome = Outcome::Refused;
     std::string failure;
-    if (HasProbe()) {
+    {
+        // Written before the run ends: what the window does then may select another view.
         RunningScope scope(running_, *port_, command.calculation);
         try {
             SAdvProbe copy = Probe();
@@ -113,9 +124,9 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
         } catch (const std::bad_alloc&) {
             failure = "Out of memory.";
         }
-    }
-    if (outcome != Outcome::Done && command.settings.has_value()) {
-        Write(nameOf(command.calculation), {.settings = command.settings});
+        if (outcome != Outcome::Done) {
+            keepSettings();
+        }
     }
     if (!failure.empty()) {
         port_->refuse(failure);
