@@ -27,7 +27,11 @@ std::string approvedText(const std::string& name) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-std::string changeOfApproved(const std::string& name, const std::string& text) {
+std::string changeOfApproved(const std::string& name, std::string text) {
+    // The sign of what is not a number is the processor's.
+    for (std::size_t at = 0; (at = text.find("-nan", at)) != std::string::npos;) {
+        text.erase(at, 1);
+    }
     const std::filesystem::path approved = pathOf(name);
     if (std::getenv("VORLAN_APPROVE") != nullptr) {
         write(approved, text);

@@ -49,16 +49,6 @@ TEST(Moments, NothingGuardsShortOrConstantSeries) {
     EXPECT_DOUBLE_EQ(two.kurtosis, 0.125 / (2.0 * 0.25) - 3.0);
 }
 
-TEST(Moments, Extremes) {
-    const Extremes negative = extremesOf(columnOf({4, -7, 9, 9, 0}, -0.5));
-    EXPECT_EQ(negative.minimum, -4.5);
-    EXPECT_EQ(negative.maximum, 3.5);
-    const Extremes extremes = extremesOf(columnOf({4, -7, 9, 9, 0}, 0.5));
-    EXPECT_EQ(extremes.minimum, -3.5);
-    EXPECT_EQ(extremes.maximum, 4.5);
-    EXPECT_THROW(extremesOf(SArray()), InvalidArgument);
-}
-
 TEST(AnalysedSeries, HoldsTheSamplesThatCount) {
     SAdvProbe probe = probeOf({{{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}}}, kScales);
     mark(probe, {1, 0, 2});
@@ -132,15 +122,6 @@ TEST(Stresses, FluctuationsCountEverySampleMomentsOnlyTheMarkedOnes) {
 
     formStresses(probe, StressResolution::StreamwiseU);
     EXPECT_EQ(stresses.GetAt(2), columnOf({0, 4, -4, -6}, 0.5));
-}
-
-TEST(Stresses, EmptyRecord) {
-    SAdvProbe probe;
-    formStresses(probe);
-    EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetSize(), 3);
-    EXPECT_TRUE(probe.workTables[SAdvProbe::kStresses].HasNoValues());
-    EXPECT_TRUE(std::isnan(probe.StressMoments(0).mean));
-    EXPECT_EQ(probe.stressesFormed, 1U);
 }
 
 TEST(SeriesIntegrals, EndBeforeTheLastIndex) {

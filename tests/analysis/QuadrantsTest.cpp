@@ -202,15 +202,6 @@ TEST(Quadrants, WrapWhenASumLeavesThirtyTwoBits) {
     expectPlainResults(probe, settings);
 }
 
-TEST(Quadrants, OfAnEmptyRecordAreEmpty) {
-    SAdvProbe probe;
-    probe.samplingInterval = 0.5;
-    NoProgress silent;
-    analyseQuadrants(probe, QuadrantSettings(), silent);
-    EXPECT_TRUE(probe.stageTables[SAdvProbe::kContributions].HasNoValues());
-    EXPECT_EQ(unitsOf(probe.stageTables[SAdvProbe::kSweepPattern].GetAt(1)), std::vector<std::int32_t>(41, 0));
-}
-
 TEST(Quadrants, WithANegativeIncrementAverageOnly) {
     SAdvProbe probe = correlatedProbe(400, -0.4);
     NoProgress silent;

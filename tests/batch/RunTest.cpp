@@ -1,7 +1,5 @@
 // Recipes at work on workspaces.
-#include "analysis/SpectralAnalysis.h"
 #include "batch/BatchTest.h"
-#include "export/Writers.h"
 
 namespace vorlan {
 
@@ -23,32 +21,6 @@ class RunTest : public BatchTest {
         return openWorkspace(path("applied.avp"));
     }
 };
-
-TEST_F(RunTest, ARecipeWithoutStepsWritesTheBytesOfTheInput) {
-    // A version of its own and bytes behind the workspace: what a save would not repeat.
-    std::string bytes = read(simulated("a.avp"));
-    bytes.replace(bytes.find("1.59"), 4, "1.41");
-    const std::string input = write("a.avp", bytes + "tail");
-    EXPECT_EQ(apply("", {"--out", path("b.avp"), input}).status, 0);
-    EXPECT_TRUE(sameBytes(read(path("b.avp")), bytes + "tail"));
-}
-
-TEST_F(RunTest, SpectralStoresWhatTheDocumentComputes) {
-    const std::string input = simulated("a.avp");
-    const Workspace workspace =
-        applied("[[step]]\ndo = \"spectral\"\nwindow = \"parzen\"\nunit = \"rad/s\"\npercent = 20\n", input);
-    EXPECT_EQ(probeOf(workspace).spectralLags, 50U);
-    EXPECT_EQ(probeOf(workspace).spectralWindow, 3U);
-    EXPECT_EQ(probeOf(workspace).spectralUnit, 1U);
-    EXPECT_TRUE(probeOf(workspace).IsDone(DoneMark::Spectral));
-    EXPECT_EQ(probeOf(workspace).seriesU.spectrum.GetSize(), 50);
-    EXPECT_EQ(workspace.settings.spectral.percent, 20);
-    const SAdvProbe byLags =
-        probeOf(applied("[[step]]\ndo = \"spectral\"\nwindow = \"parzen\"\nunit = \"rad/s\"\nlags = 50\n", input));
-    EXPECT_EQ(byLags, probeOf(workspace));
-    EXPECT_EQ(probeOf(applied("[[step]]\ndo = \"spectral\"\n", input)).spectralWindow, 1U);
-    EXPECT_EQ(probeOf(applied("[[step]]\ndo = \"spectral\"\nwindow = \"bartlett\"\n", input)).spectralWindow, 2U);
-}
 
 TEST_F(RunTest, SelectionEndsAsItWasLoadedAndSettingsAsTheStepsLeaveThem) {
     Workspace workspace = openWorkspace(withProbes("a.avp", 3));
@@ -78,24 +50,6 @@ TEST_F(RunTest, SelectionEndsAsItWasLoadedAndSettingsAsTheStepsLeaveThem) {
     EXPECT_TRUE(probeOf(result, 0, 2).IsDone(DoneMark::Spectral));
 }
 
-TEST_F(RunTest, PreProcessingStepsChangeTheRecord) {
-    const std::string input = simulated("a.avp");
-    EXPECT_EQ(probeOf(applied("[[step]]\ndo = \"clip\"\nfrom = 2\nto = 6\n", input)).WorkingSamples(), 100);
-    EXPECT_EQ(probeOf(applied("[[step]]\ndo = \"clip\"\nfrom = 6\nto = 2\n", input)).WorkingSamples(), 0);
-    // Back on the stage that offers it, whatever the step before has shown.
-    const SAdvProbe reset = probeOf(applied(
-        "[[step]]\ndo = \"clip\"\nfrom = 0\nto = 4\n" + std::string(kSpectral) + "[[step]]\ndo = \"reset\"\n", input));
-    EXPECT_EQ(reset.WorkingSamples(), 250);
-    EXPECT_EQ(reset.seriesU.values.GetSize(), 250);
-    const SAdvProbe turned =
-        probeOf(applied("[[step]]\ndo = \"rotate\"\nheading = 90\nposition = [1, 0, -2]\n", input));
-    const SAdvProbe plain = probeOf(openWorkspace(input));
-    EXPECT_NEAR(turned.VelocityMoments(1).mean, plain.VelocityMoments(0).mean, 0.01);
-    EXPECT_EQ(turned.samplingVolumeZ, -2000.0);
-    EXPECT_EQ(probeOf(applied("[[step]]\ndo = \"rotate\"\n", input)).samplingVolumeX, plain.samplingVolumeX);
-    EXPECT_EQ(probeOf(applied("[[step]]\ndo = \"filter\"\nhalf_width = 1\n", input)).WorkingSamples(), 200);
-}
-
 TEST_F(RunTest, EditHandsItsCriteriaOver) {
     const std::string input = simulated("a.avp");
     const Workspace result = applied(
@@ -113,65 +67,6 @@ TEST_F(RunTest, EditHandsItsCriteriaOver) {
     EXPECT_TRUE(s.editing.velocityTest);
     EXPECT_EQ(s.editing.velocityThreshold, 2.0);
     EXPECT_FALSE(probeOf(result).UsesAllSamples());
-}
-
-TEST_F(RunTest, RepeatAnswersTheQuestionAboutDoneStages) {
-    const std::string recipe = std::string(kSpectral) + "[[step]]\ndo = \"clip\"\nfrom = 0\nto = 8\n";
-    const std::string input = simulated("a.avp");
-    EXPECT_EQ(apply(recipe, {"--out", path("yes.avp"), input}).status, 0);
-    EXPECT_EQ(apply(recipe, {"--out", path("no.avp"), "--repeat", "no", input}).status, 0);
-    EXPECT_EQ(apply(kSpectral, {"--out", path("before.avp"), input}).status, 0);
-    const SAdvProbe yes = probeOf(openWorkspace(path("yes.avp")));
-    const SAdvProbe no = probeOf(openWorkspace(path("no.avp")));
-    EXPECT_EQ(yes.seriesU.values.GetSize(), 200);
-    EXPECT_EQ(no.seriesU, probeOf(openWorkspace(path("before.avp"))).seriesU);
-    EXPECT_EQ(no.WorkingSamples(), 200);
-    SAdvProbe again = no;
-    // The clipped record analysed anew is what repeating gives.
-    EXPECT_EQ(apply(kSpectral, {"--out", path("again.avp"), path("no.avp")}).status, 0);
-    EXPECT_EQ(probeOf(openWorkspace(path("again.avp"))).seriesU, yes.seriesU);
-}
-
-TEST_F(RunTest, ExportsAndPicturesTakeTheirNamesFromTheProbe) {
-    const std::string input = withProbes("sea.avp", 2);
-    const std::string recipe =
-        std::string(kSpectral) +
-        "[[step]]\ndo = \"export\"\nkind = \"velocities\"\ntime = true\n"
-        "separator = \"comma\"\nout = \"" +
-        path("{workspace}-{file}-{probe}.dat") +
-        "\"\n"
-        "[[step]]\ndo = \"render\"\nstage = \"spectral\"\npane = \"left-top\"\nsize = \"200x150\"\nout = \"" +
-        path("{probe}.svg") + "\"\n";
-    const Result result = apply(recipe, {input});
-    EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(names(),
-              (std::vector<std::string>{"1.svg", "2.svg", "recipe.toml", "sea-1-1.dat", "sea-1-2.dat", "sea.avp"}));
-    const Workspace workspace = openWorkspace(input);
-    std::ostringstream expected;
-    writeVelocities(expected, {workspace.dataFiles.files.GetAt(0).fileName, 2, probeOf(workspace, 0, 1)},
-                    {.header = false, .time = true, .separator = Separator::Comma});
-    EXPECT_EQ(read(path("sea-1-2.dat")), expected.str());
-    EXPECT_TRUE(holds(read(path("2.svg")), "<svg"));
-    EXPECT_FALSE(probeOf(workspace).IsDone(DoneMark::Spectral));
-}
-
-TEST_F(RunTest, SeveralInputsRunOnWhenOneFailsAndTheWorstStatusCounts) {
-    const std::string a = simulated("a.avp");
-    const std::string bad = write("bad.avp", "no");
-    const std::string c = simulated("c.avp");
-    const std::string expected = [&] {
-        EXPECT_EQ(apply(kSpectral, {"--out", path("expected.avp"), c}).status, 0);
-        return read(path("expected.avp"));
-    }();
-    std::filesystem::create_directory(path("out"));
-    for (const char* jobs : {"1", "2", "8"}) {
-        std::filesystem::remove(path("out/c.avp"));
-        const Result result = apply(kSpectral, {"--out-dir", path("out"), "--jobs", jobs, a, bad, c});
-        EXPECT_EQ(result.status, 3) << jobs;
-        EXPECT_TRUE(holds(result.err, bad));
-        EXPECT_TRUE(sameBytes(read(path("out/c.avp")), expected));
-        EXPECT_FALSE(std::filesystem::exists(path("out/bad.avp")));
-    }
 }
 
 TEST_F(RunTest, JobsKeepLinesWholeAndOutputsInTheOrderOfTheInputs) {
@@ -194,6 +89,30 @@ TEST_F(RunTest, JobsKeepLinesWholeAndOutputsInTheOrderOfTheInputs) {
     }
     EXPECT_GT(count, 9 * 10);
     EXPECT_EQ(names().size(), 10U);
+}
+
+TEST_F(RunTest, ColumnsThatDoNotFitTogetherAreRefusedByTheNameOfTheWorkspace) {
+    Workspace workspace = applied(kSpectral, simulated("a.avp"));
+    SAdvProbe& damaged = workspace.dataFiles.files.ElementAt(0).probes.ElementAt(0);
+    damaged.seriesV.spectrum = SArray();
+    damaged.workTables[0].ElementAt(2) = SArray();
+    const std::string input = path("damaged.avp");
+    saveWorkspace(workspace, input);
+    const std::string recipe = write(
+        "e.toml", "probes = [1]\n[[step]]\ndo = \"export\"\nkind = \"velocities\"\nout = \"" + path("e.dat") + "\"\n");
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"export", "spectral", "--out", path("e.dat"), input},
+          {"export", "velocities", "--out", path("e.dat"), input},
+          {"run", "--recipe", recipe, input}}) {
+        const Result result = run(arguments);
+        EXPECT_EQ(result.status, 1) << arguments[1];
+        EXPECT_TRUE(holds(result.err, input + ": "));
+        EXPECT_TRUE(holds(result.err, "Encountered an improper argument."));
+    }
+    EXPECT_FALSE(std::filesystem::exists(path("e.dat")));
+    for (const char* stage : {"pre-processing", "spectral", "vectors"}) {
+        done({"render", "--stage", stage, "--size", "320x240", "--out", path("e.png"), input});
+    }
 }
 
 }  // namespace

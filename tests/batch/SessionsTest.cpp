@@ -36,7 +36,14 @@ class Sessions : public BatchTest, public testing::WithParamInterface<const char
             return indented(outputOfShell(command), "  ");
         }
         words.erase(words.begin());
-        const Result result = run(words);
+        const auto pipe = std::find(words.begin(), words.end(), "|");
+        const std::string behind = pipe == words.end() ? "" : command.substr(command.find(" | ") + 3);
+        words.erase(pipe, words.end());
+        Result result = run(words);
+        if (!behind.empty()) {
+            std::ofstream("piped") << result.out;
+            result.out = outputOfShell("<piped " + behind);
+        }
         return indented(result.out, "  ") + indented(result.err, "  ! ") +
                (result.status == 0 ? "" : "  status " + std::to_string(result.status) + "\n");
     }
@@ -102,7 +109,7 @@ TEST_P(Sessions, AnswerAsApproved) {
 
 INSTANTIATE_TEST_SUITE_P(Approved, Sessions,
                          testing::Values("session-usage", "session-recipes", "session-refusals", "session-outputs",
-                                         "session-import"));
+                                         "session-import", "session-run"));
 
 }  // namespace
 

@@ -59,22 +59,6 @@ TEST_F(WorkspaceMakingTest, SimulateHandsEveryOptionOver) {
     EXPECT_TRUE(sameBytes(read(path("a.avp")), simulatedByDocument(p, 3)));
 }
 
-TEST_F(WorkspaceMakingTest, SeedsDecideTheRecordAndAppendKeepsWhatIsThere) {
-    simulated("a.avp", "5");
-    simulated("b.avp", "5");
-    simulated("c.avp", "6");
-    EXPECT_TRUE(sameBytes(read(path("a.avp")), read(path("b.avp"))));
-    EXPECT_FALSE(sameBytes(read(path("a.avp")), read(path("c.avp"))));
-    done({"simulate", "--out", path("a.avp"), "--append", "--name", "second"});
-    const Workspace both = openWorkspace(path("a.avp"));
-    ASSERT_EQ(both.dataFiles.files.GetSize(), 2);
-    EXPECT_EQ(both.dataFiles.files.GetAt(0), openWorkspace(path("b.avp")).dataFiles.files.GetAt(0));
-    EXPECT_EQ(both.dataFiles.files.GetAt(1).fileName, "second");
-    EXPECT_EQ(both.settings.activeFile, 1);
-    EXPECT_EQ(run({"simulate", "--out", path("none.avp"), "--append"}).status, 3);
-    EXPECT_FALSE(std::filesystem::exists(path("none.avp")));
-}
-
 TEST_F(WorkspaceMakingTest, InfoTellsTheModel) {
     Workspace workspace = openWorkspace(withProbes("a.avp", 2));
     SAdvFile& file = workspace.dataFiles.files.ElementAt(0);

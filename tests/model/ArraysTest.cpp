@@ -87,20 +87,6 @@ TEST(Arrays, ReadingOutsideIsRefusedAndSettingGrows) {
     EXPECT_EQ(names.GetAt(49), std::string(100, 'n'));
 }
 
-TEST(Arrays, CopiesAreDeepAndKeepTheScale) {
-    SMultiArray table;
-    table.Reshape(3, 0.01);
-    table.ElementAt(1).AddValue(1.5);
-    SMultiArray copy = table;
-    EXPECT_EQ(copy, table);
-    copy.ElementAt(1).SetAt(0, 9);
-    EXPECT_EQ(table.GetAt(1).GetAt(0), 150);
-    EXPECT_EQ(copy.GetAt(1).GetScale(), 0.01);
-    copy = table;
-    copy.ElementAt(2).SetScale(2.0);
-    EXPECT_NE(copy, table);
-}
-
 TEST(Arrays, CopiesShareTheirElementsUntilOneIsWritten) {
     SArray column(0.5);
     column.StoreValues(std::vector<double>{1.0, 2.0, 3.0});

@@ -99,35 +99,17 @@ TEST(Probe, SamplesCountByTheirMark) {
     EXPECT_EQ(meanVelocities(probe), (std::array<double, 3>{5.5, 0.5, 1.5}));
 }
 
-TEST(Probe, InformationTexts) {
-    SAdvProbe probe;
-    probe.workTables[0].Reshape(3, 1.0);
-    for (int c = 0; c < 3; ++c) {
-        probe.workTables[0].ElementAt(c).Add(c == 1 ? 5 : 0);
-    }
-    probe.samplingVolumeX = 1500.7;
-    probe.samplingVolumeY = -20.0;
-    const std::vector<std::string> expected = {"Current measuring point:",
-                                               "Sampling Volume Coordinates:",
-                                               "X = 1.50     Y = -0.02     Z = 0.00",
-                                               "Mean Flow Direction [deg]:",
-                                               "Heading = 90.00",
-                                               "Roll        = 0.00",
-                                               "Pitch      = 0.00",
-                                               "*Probe's XYZ coordinate system"};
-    EXPECT_EQ(probeInformation(probe), expected);
-    probe.probeNumber = 12;
-    EXPECT_EQ(probeListText(probe), "Probe 12");
-    probe.isProbe = 0;
-    EXPECT_EQ(probeListText(probe), "Burst 12");
-}
-
 TEST(Probe, FlowDirectionsTakeTheirOwnPairs) {
     const FlowDirections directions = meanFlowDirections({1.0, 1.0, -2.0});
     EXPECT_NEAR(directions.heading, 45.0, 1e-9);
     EXPECT_NEAR(directions.roll, -63.434948822922, 1e-9);
     EXPECT_NEAR(directions.pitch, -63.434948822922, 1e-9);
     EXPECT_NEAR(meanFlowDirections({-1.0, 0.0, 1.0}).pitch, 90.0, 1e-9);
+    SAdvProbe probe;
+    probe.probeNumber = 12;
+    EXPECT_EQ(probeListText(probe), "Probe 12");
+    probe.isProbe = 0;
+    EXPECT_EQ(probeListText(probe), "Burst 12");
 }
 
 TEST(RotatePair, TurnsFromTheFirstAxisToTheSecond) {

@@ -235,13 +235,6 @@ class PaintingTest : public QObject {
         QCOMPARE(painter.clipBoundingRect().toRect(), QRect(0, 0, 50, 50));
     }
 
-    void fontsFollowTheirDescription() {
-        const QFont font = qtFont(FontDescription("ARIAL", -20, 700, true), 2.0);
-        QCOMPARE(font.pixelSize(), 40);
-        QCOMPARE(font.weight(), QFont::Bold);
-        QVERIFY(font.italic());
-    }
-
     void filesHoldThePanes() {
         const std::array<PaneContent, 4> panes{diagramOf(noise(500, 0.1, 1)), PaneMessage{"left bottom"},
                                                std::monostate(), diagramOf(noise(500, 0.1, 2))};

@@ -105,17 +105,6 @@ TEST(SPlotFrame, ScaleTypeMustBeAllowed) {
     EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
 }
 
-TEST(SPlotFrame, SaysWhenThereIsNothingToDrawOrNoRoom) {
-    EXPECT_EQ(layoutOf(Diagram()).state, FrameLayout::State::NoData);
-    EXPECT_EQ(layoutOf(diagramOf({})).state, FrameLayout::State::NoData);
-    EXPECT_EQ(layoutOf(diagramOf({std::nan("")})).state, FrameLayout::State::NoData);
-    EXPECT_EQ(layoutOf(diagramOf({1.0, 2.0}), {0, 0, 110, 330}).state, FrameLayout::State::TooSmall);
-    EXPECT_EQ(layoutOf(diagramOf({1.0, 2.0}), {0, 0, 500, 100}).state, FrameLayout::State::TooSmall);
-    EXPECT_EQ(layoutOf(diagramOf({1.0, 2.0}), {0, 0, 160, 130}).state, FrameLayout::State::Drawn);
-    Diagram wide = diagramOf({1e30, 2e30});
-    EXPECT_EQ(layoutOf(wide, {0, 0, 160, 130}).state, FrameLayout::State::TooSmall) << "labels take the plot area";
-}
-
 TEST(SPlotFrame, OutlandishAttributesAndValuesAreDrawn) {
     Diagram diagram = diagramOf({-2147483648.0, 0.0, std::numeric_limits<double>::infinity(), 5.0});
     FrameAttributesType& frame = diagram.frame;

@@ -60,15 +60,3 @@ TEST(STable, IndexesAndFormatsAreChecked) {
     table.formats[1] = "%s%n";
     EXPECT_EQ(table.cell(0, 1), "2.50");
 }
-
-TEST(STable, SurvivesAnArchive) {
-    STable stored(statistics());
-    Archive out = Archive::storing();
-    stored.Serialize(out);
-    Archive in = Archive::loading(out.bytes());
-    STable loaded;
-    loaded.Serialize(in);
-    EXPECT_EQ(in.remaining(), 0U);
-    EXPECT_EQ(loaded.cell(1, 3), "4.00");
-    EXPECT_EQ(loaded.headers, stored.headers);
-}

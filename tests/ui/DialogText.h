@@ -19,6 +19,7 @@
 // A dialog as text: what it holds, what its controls do to it, and what its fields refuse.
 
 using MakeDialog = std::function<std::unique_ptr<vorlan::CParameterDialog>()>;
+using ValuesOf = std::function<QString(const vorlan::CParameterDialog&)>;
 
 template <class Widget>
 QString choicesText(const Widget& list, int current) {
@@ -83,12 +84,13 @@ inline QStringList dialogLines(const QDialog& dialog) {
     return lines;
 }
 
-/// The lines that differ after a deed on a new dialog.
-inline QString changedLines(const MakeDialog& make, const QString& name,
+/// The lines that differ after a deed on a new dialog, and what it hands back then.
+inline QString changedLines(const MakeDialog& make, const ValuesOf& valuesOf, const QString& name,
                             const std::function<void(vorlan::CParameterDialog&)>& deed) {
     const auto dialog = make();
-    const DialogDriver driver(*dialog);
+    DialogDriver driver(*dialog);
     const QStringList before = dialogLines(*dialog);
+    const QString values = valuesOf(*dialog);
     deed(*dialog);
     const QStringList after = dialogLines(*dialog);
     QString changes;
@@ -96,6 +98,9 @@ inline QString changedLines(const MakeDialog& make, const QString& name,
         if (i >= before.size() || after[i] != before[i]) {
             changes += QLatin1String("  ") + after[i] + u'\n';
         }
+    }
+    if (driver.accepted() && valuesOf(*dialog) != values) {
+        changes += QLatin1String("    = ") + valuesOf(*dialog) + u'\n';
     }
     return changes.isEmpty() ? QString() : name + u'\n' + changes;
 }
@@ -109,9 +114,11 @@ inline void tickAll(vorlan::CParameterDialog& dialog) {
 }
 
 /// What OK answers to texts in a field, on a dialog with every box ticked: the answers with the texts that meet them.
-inline QString answersOf(const MakeDialog& make, int fieldNumber) {
+/// What is handed back is told for the first text that is taken.
+inline QString answersOf(const MakeDialog& make, const ValuesOf& valuesOf, int fieldNumber) {
     QMap<QString, QStringList> texts;
-    for (const char* text : {"", "1,5", "0.5", "-1e9", "-1", "0", "1", "99", "1e9"}) {
+    QString taken;
+    for (const char* text : {"2", "0.25", "", "1,5", "-1e9", "-1", "0", "1", "99", "1e9"}) {
         const auto dialog = make();
         DialogDriver driver(*dialog);
         tickAll(*dialog);
@@ -121,6 +128,7 @@ inline QString answersOf(const MakeDialog& make, int fieldNumber) {
         }
         field->setText(QString::fromUtf8(text));
         if (driver.accepted() || driver.boxes.size() != 1) {
+            taken = taken.isEmpty() ? valuesOf(*dialog) : taken;
             continue;
         }
         const vorlan::DialogMessage& box = driver.boxes[0];
@@ -130,16 +138,16 @@ inline QString answersOf(const MakeDialog& make, int fieldNumber) {
                                box.text + QLatin1String(dialog->focusWidget() == field ? "" : " (another field)");
         texts[answer] << QLatin1Char('"') + QString::fromUtf8(text) + QLatin1Char('"');
     }
-    QString answers;
+    QString answers = QLatin1String("    = ") + taken + u'\n';
     for (auto answer = texts.begin(); answer != texts.end(); ++answer) {
         answers += QLatin1String("    ") + answer.value().join(u' ') + QLatin1String(": ") + answer.key() + u'\n';
     }
     return answers;
 }
 
-inline QString dialogText(const MakeDialog& make) {
+inline QString dialogText(const MakeDialog& make, const ValuesOf& valuesOf) {
     const auto dialog = make();
-    QString text = dialogLines(*dialog).join(u'\n') + u'\n';
+    QString text = dialogLines(*dialog).join(u'\n') + QLatin1String("\n    = ") + valuesOf(*dialog) + u'\n';
     const auto deeds = [&](auto* sample, const auto& deed) {
         using Control = std::remove_pointer_t<decltype(sample)>;
         for (int i = 0; i < dialog->findChildren<Control*>().size(); ++i) {
@@ -150,25 +158,24 @@ inline QString dialogText(const MakeDialog& make) {
         if (control(*dialog).isCheckable() || qobject_cast<QToolButton*>(&control(*dialog)) != nullptr) {
             const QString name =
                 control(*dialog).text().isEmpty() ? control(*dialog).objectName() : control(*dialog).text();
-            text += changedLines(make, name, [&](auto& d) { control(d).click(); });
+            text += changedLines(make, valuesOf, name, [&](auto& d) { control(d).click(); });
         }
     });
     deeds(static_cast<QComboBox*>(nullptr), [&](int, const auto& control) {
         for (int k = 0; k < control(*dialog).count(); ++k) {
-            text += changedLines(make, control(*dialog).itemText(k), [&](auto& d) { control(d).setCurrentIndex(k); });
+            text += changedLines(make, valuesOf, control(*dialog).itemText(k),
+                                 [&](auto& d) { control(d).setCurrentIndex(k); });
         }
     });
     deeds(static_cast<QSlider*>(nullptr), [&](int, const auto& control) {
-        text += changedLines(make, QStringLiteral("the slider at its start"), [&](auto& d) { control(d).setValue(0); });
+        text += changedLines(make, valuesOf, QStringLiteral("the slider at its start"),
+                             [&](auto& d) { control(d).setValue(0); });
     });
-    QString before;
     deeds(static_cast<QLineEdit*>(nullptr), [&](int i, const auto& control) {
-        const QString answers = answersOf(make, i);
-        if (!answers.isEmpty()) {
-            text += QStringLiteral("field %1, \"%2\"").arg(i + 1).arg(control(*dialog).text());
-            text += answers == before ? QStringLiteral(" likewise\n") : u'\n' + answers;
-            before = answers;
-        }
+        const QString answers = answersOf(make, valuesOf, i);
+        text += answers.isEmpty()
+                    ? QString()
+                    : QStringLiteral("field %1, \"%2\"\n").arg(i + 1).arg(control(*dialog).text()) + answers;
     });
     return text;
 }

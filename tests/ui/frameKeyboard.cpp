@@ -86,14 +86,6 @@ class FrameKeyboard : public QObject {
         }
     }
 
-    void selectorsSayWhatIsToBeChosen() {
-        FrameDriver driver;
-        QVERIFY(selector(driver, "Probes")->placeholderText().isEmpty());
-        driver.document().SimulateTimeSeries(SimulationParameters{}, 7);
-        QCOMPARE(selector(driver, "Probes")->placeholderText(), QStringLiteral("Choose a probe"));
-        QCOMPARE(selector(driver, "Probes")->currentIndex(), -1);
-    }
-
     void aNarrowWindowShowsEverySelector() {
         FrameDriver driver;
         driver.simulate();
