@@ -27,6 +27,24 @@ Q_DECLARE_METATYPE(MakeDialog)
 class DialogsHabits : public QObject {
     Q_OBJECT
 
+    static QString joined(const std::vector<double>& values) {
+        QStringList texts;
+        for (const double value : values) {
+            texts << QString::number(value);
+        }
+        return texts.join(u' ');
+    }
+
+    /// The settings that are told field by field.
+    template <class Dialog>
+    static QString fieldsOf(const Dialog& dialog) {
+        using Settings = std::remove_cvref_t<decltype(dialog.values())>;
+        std::vector<double> values;
+        Settings::Fields(dialog.values(),
+                         [&](const SettingField&, const auto& value) { values.push_back(static_cast<double>(value)); });
+        return joined(values);
+    }
+
     struct Row {
         const char* name;
         MakeDialog make;
@@ -38,14 +56,6 @@ class DialogsHabits : public QObject {
     static Row row(const char* name, const std::function<QString(const Dialog&)>& values, Arguments... arguments) {
         return {name, [=] { return std::make_unique<Dialog>(arguments...); },
                 [=](const CParameterDialog& dialog) { return values(static_cast<const Dialog&>(dialog)); }};
-    }
-
-    static QString joined(const std::vector<double>& values) {
-        QStringList texts;
-        for (const double value : values) {
-            texts << QString::number(value);
-        }
-        return texts.join(u' ');
     }
 
     static std::vector<Row> dialogs() {
@@ -80,17 +90,11 @@ class DialogsHabits : public QObject {
             return text + joined({number(v.spikeFilter), v.accelerationThreshold, number(v.velocityTest),
                                   v.velocityThreshold, number(v.treatment)});
         };
-        const std::function filter = [=](const CFilterDlg& d) {
-            const FilterSettings& v = d.values();
-            return joined({number(v.shape), number(v.type), v.cutoff, v.halfWidth});
-        };
         const std::function velocity = [=](const CMeanVelDlg& d) {
             return joined({number(d.values().mode), d.values().value});
         };
         const std::function spectral = [=](const CSpAnalDlg& d) {
-            const SpectralDialogValues& v = d.values();
-            return joined({number(v.windowButton), number(v.unitButton), number(v.truncationMode), number(v.percent),
-                           number(v.lags), number(v.percentFlag)});
+            return fieldsOf(d) + u' ' + joined({number(d.values().percentFlag)});
         };
         const std::function coordinates = [](const CCoordSysDlg& d) {
             const RotationSettings& v = d.values();
@@ -98,15 +102,6 @@ class DialogsHabits : public QObject {
         };
         const std::function exports = [=](const CExportDlg& d) {
             return joined({number(d.values().header), number(d.values().time), number(d.values().separator)});
-        };
-        const std::function histogram = [=](const CHistDlg& d) {
-            return joined(
-                {number(d.values().grades), number(d.values().barWidth), number(d.values().normalApproximation)});
-        };
-        const std::function quadrants = [=](const CQuadrDlg& d) {
-            const QuadrantSettings& v = d.values();
-            return joined(
-                {v.increment, v.maximum, v.ejectionThreshold, v.sweepThreshold, v.maximumLag, number(v.stressType)});
         };
         const std::function simulation = [=](const CSimulateDlg& d) {
             const SimulationParameters& v = d.values();
@@ -154,23 +149,18 @@ class DialogsHabits : public QObject {
             row("editing by minima", editing, minima),
             row("export", exports),
             row<CExportScopeDlg>("scope", [=](const CExportScopeDlg& d) { return joined({number(d.allProbes())}); }),
-            row("filter", filter, FilterSettings{}),
-            row("bell filter", filter, bell),
-            row("Gaussian filter", filter, gaussian),
-            row("histogram", histogram, HistogramSettings{}),
+            row("filter", std::function(fieldsOf<CFilterDlg>), FilterSettings{}),
+            row("bell filter", std::function(fieldsOf<CFilterDlg>), bell),
+            row("Gaussian filter", std::function(fieldsOf<CFilterDlg>), gaussian),
+            row("histogram", std::function(fieldsOf<CHistDlg>), HistogramSettings{}),
             row("mean velocity", velocity, MeanVelocitySettings{}, std::optional(12.5)),
             row("user's mean velocity", velocity, MeanVelocitySettings{1, 10.0}, std::optional<double>()),
             row("plot options", plot, logarithmic, std::span<const ScaleType>(kScales)),
-            row("quadrants", quadrants, QuadrantSettings{}),
+            row("quadrants", std::function(fieldsOf<CQuadrDlg>), QuadrantSettings{}),
             row("simulate", simulation, harmonics),
             row("spectral", spectral, SpectralSettings{}),
             row("spectral by lags", spectral, lags),
-            row<CStatDlg>(
-                "stationarity",
-                [=](const CStatDlg& d) {
-                    return joined({number(d.values().mode), number(d.values().bands)});
-                },
-                StationaritySettings{}),
+            row("stationarity", std::function(fieldsOf<CStatDlg>), StationaritySettings{}),
         };
     }
 
