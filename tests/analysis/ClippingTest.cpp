@@ -71,19 +71,6 @@ TEST(Clipping, LimitsAreTruncatedRefusedOrLimitedToTheRecord) {
     }
 }
 
-TEST(Clipping, LongerScoresAreCutAndShorterTablesLeft) {
-    SAdvProbe probe = velocityRecord(100);
-    const SAdvProbe before = probe;
-    for (int c = 0; c < 3; ++c) {
-        velocity(probe, c).SetSize(80);
-    }
-    probe.workTables[SAdvProbe::kWorkPressure].ElementAt(0).SetSize(79);
-    ASSERT_TRUE(clip(probe, 1.0, 4.0));
-    EXPECT_EQ(unitsOf(probe.workTables[1].GetAt(2)), slice(before.workTables[1].GetAt(2), 25, 80));
-    EXPECT_EQ(probe.sampleFlags.GetSize(), 55);
-    EXPECT_EQ(probe.workTables[SAdvProbe::kWorkPressure].GetAt(0).GetSize(), 79);
-}
-
 TEST(Clipping, ResetLeavesZoomModeAndRestoresTheRecord) {
     SAdvProbe probe = velocityRecord(100);
     formStresses(probe);
@@ -100,29 +87,6 @@ TEST(Clipping, ResetLeavesZoomModeAndRestoresTheRecord) {
     probe.sampleFlags.SetAt(3, 0);
     resetProbe(probe);
     EXPECT_TRUE(probe == before);
-}
-
-TEST(Clipping, ResetTouchesOnlyFourDiagramsAndKeepsChoices) {
-    SAdvProbe probe = velocityRecord(20);
-    probe.useAllSamples = 0;
-    probe.title = "kept";
-    probe.coordinateSystem = 2;
-    probe.scalarResults[0] = 3.0;
-    FrameAttributesType fifth;
-    fifth.xMin = 7.0;
-    probe.frameAttributes[0].Add(fifth);
-    resetProbe(probe);
-    EXPECT_EQ(probe.frameAttributes[0].GetAt(4), fifth);
-    EXPECT_EQ(probe.useAllSamples, 0U);
-    EXPECT_EQ(probe.title, "kept");
-    EXPECT_EQ(probe.coordinateSystem, 2U);
-    EXPECT_EQ(probe.scalarResults[0], 0.0);
-
-    SAdvProbe bare;
-    enterZoomMode(bare);
-    resetProbe(bare);
-    EXPECT_EQ(bare.frameAttributes[0].GetSize(), 1);
-    EXPECT_EQ(bare.frameAttributes[0].GetAt(0).plotTitle, "Sampled Velocities");
 }
 
 }  // namespace

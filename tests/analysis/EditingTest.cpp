@@ -168,42 +168,6 @@ TEST(Editing, AllTestsInOrderOnWholeAndClippedRecords) {
     }
 }
 
-TEST(Editing, AssessingLooksAtEachCriterionAloneAndChangesNothing) {
-    SAdvProbe probe = smallRecord({0, 50, 0, 0, 0, 0, 0, 0}, {99, 50, 50, 99, 99, 99, 99, 99});
-    computeProbeMoments(probe);
-    const SAdvProbe before = probe;
-    EditingSettings settings;
-    settings.correlation = {true, ScoreStatistic::Minimum, 0.0, 70.0};
-    settings.velocityTest = true;
-    settings.velocityThreshold = 2.0;
-    const EditingResult result = assessEditing(probe, settings);
-    EXPECT_EQ(probe, before);
-    EXPECT_EQ(result.correlation.bad, 2);
-    EXPECT_EQ(result.velocity.bad, 3) << "the outlier in all three components, not repaired before";
-    EXPECT_EQ(result.signalToNoise.tested, 0);
-    EXPECT_EQ(keptSharesText(result), "Correlation: 66.67 % kept   Velocity: 83.33 % kept");
-}
-
-TEST(Editing, CaptionFollowsSpikesThenVelocities) {
-    SAdvProbe probe = smallRecord({0, 0, 500, 0, 0}, {99, 99, 99, 99, 99});
-    probe.title = "before";
-    EditingSettings settings;
-    settings.spikeFilter = true;
-    settings.accelerationThreshold = 1000.0;
-    editSeries(probe, settings);
-    EXPECT_EQ(probe.title, "before");
-    EXPECT_EQ(probe.frameAttributes[0].GetAt(0).plotTitle, "Cleaned-up time series");
-    settings.accelerationThreshold = 15.0;
-    editSeries(probe, settings);
-    EXPECT_EQ(probe.title, "Cleaned-up time series (3 spikes removed)");
-    settings.spikeFilter = false;
-    settings.velocityTest = true;
-    settings.velocityThreshold = 1e9;
-    computeProbeMoments(probe);
-    editSeries(probe, settings);
-    EXPECT_EQ(probe.title, "Cleaned-up time series");
-}
-
 TEST(Editing, RemovalForgetsFourStagesAndTheirLastTabs) {
     SAdvProbe probe = velocityRecord(50);
     for (const int stage : {3, 1, 2, 4, 5, 6}) {

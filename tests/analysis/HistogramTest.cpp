@@ -60,21 +60,6 @@ TEST(Histogram, CountsEqualThePlainComparisons) {
     }
 }
 
-TEST(Histogram, TheMaximumIsAlwaysInTheLastGrade) {
-    int shortEdges = 0;
-    for (int top = 1; top < 60; ++top) {
-        for (int grades = 2; grades < 60; ++grades) {
-            STimeSeries series = seriesOf({7, 7 + top}, 0.001);
-            const auto [minimum, maximum] = extremesOf(series.values);
-            const double du = (maximum - minimum) / grades;
-            shortEdges += du * (grades - 1) + minimum + du < maximum ? 1 : 0;
-            computeHistogram(series, grades);
-            ASSERT_GT(series.histogram.GetAt(grades - 1), 0) << top << " " << grades;
-        }
-    }
-    EXPECT_GT(shortEdges, 0);
-}
-
 TEST(Histogram, ConstantSeriesStoreADivisionByZero) {
     STimeSeries series = seriesOf({5, 5, 5}, 0.01);
     computeHistogram(series, 2);
@@ -82,30 +67,6 @@ TEST(Histogram, ConstantSeriesStoreADivisionByZero) {
     STimeSeries empty;
     EXPECT_THROW(computeHistogram(empty, 2), InvalidArgument);
     EXPECT_THROW(computeHistogram(series, 0), InvalidArgument);
-}
-
-TEST(Histogram, RunReplacesEarlierResultsUnlessNoSampleCounts) {
-    SAdvProbe probe = velocityRecord(300);
-    NoProgress progress;
-    HistogramSettings settings;
-    settings.grades = 40;
-    analyseDistributions(probe, settings, progress);
-    settings.grades = 20;
-    analyseDistributions(probe, settings, progress);
-    for (int c = 0; c < 3; ++c) {
-        EXPECT_EQ(unitsOf(probe.Series(c).histogram), plainHistogram(probe.Series(c), 20));
-        EXPECT_EQ(probe.Series(c).moments, momentsOf(velocity(probe, c).Values()));
-    }
-    EXPECT_TRUE(probe.IsDone(DoneMark::Histograms));
-
-    const std::vector<std::int32_t> earlier = unitsOf(probe.seriesW.histogram);
-    probe.useAllSamples = 0;
-    std::fill(probe.sampleFlags.begin(), probe.sampleFlags.end(), 0);
-    settings.grades = 10;
-    analyseDistributions(probe, settings, progress);
-    EXPECT_EQ(unitsOf(probe.seriesW.histogram), earlier);
-    EXPECT_EQ(probe.seriesW.grades, 20U);
-    EXPECT_TRUE(std::isnan(probe.seriesW.moments.mean));
 }
 
 TEST(Histogram, NormalCurveHasItsOwnPi) {

@@ -201,15 +201,6 @@ TEST(Kernels, EverySetGivesTheSameTrigonometricBytes) {
     }
 }
 
-TEST(Kernels, UnequalSeriesAndNoLengthAreRefused) {
-    NoProgress progress;
-    const std::vector<Values> unequal = {Values(3), Values(4)};
-    EXPECT_THROW(cosineSums(unequal, 5, 5, progress), InvalidArgument);
-    const std::vector<Values> one = {Values(3)};
-    EXPECT_THROW(sineSums(one, 0, 5, progress), InvalidArgument);
-    EXPECT_TRUE(cosineSums({}, 5, 5, progress).empty());
-}
-
 TEST(Kernels, TheEnvironmentForcesOnlyWhatTheProcessorHas) {
     const std::vector<InstructionSet> sets = availableInstructionSets();
     for (const InstructionSet set : sets) {

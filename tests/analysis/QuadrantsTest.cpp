@@ -165,27 +165,6 @@ TEST(Quadrants, HoldTheIntegersOfThePlainLoops) {
     }
 }
 
-TEST(Quadrants, CountSamplesOnAnAxisAndAtTheHoleSizeInTheHole) {
-    // Means 0; u'w' is 4, -4, -4, 0, 0: m = -0.8, r = -5, 5, 5, 0, 0.
-    SAdvProbe probe = probeOf({{{2, -2, 2, -2, 0}, {0, 0, 0, 0, 0}, {2, 2, -2, 0, -2}}});
-    NoProgress silent;
-    analyseQuadrants(probe, settingsOf(1.0, 6.0, 1.0, 2.0, 2.0, 1), silent);
-    const SMultiArray& times = probe.stageTables[SAdvProbe::kTimes];
-    ASSERT_EQ(probe.statistics[21], -0.8);
-    const std::vector<std::int32_t> outside = {20000, 20000, 20000, 20000, 20000, 0};
-    EXPECT_EQ(unitsOf(times.GetAt(0)), outside);
-    EXPECT_EQ(unitsOf(times.GetAt(1)), outside);
-    EXPECT_EQ(unitsOf(times.GetAt(2)), std::vector<std::int32_t>(6, 0));
-    EXPECT_EQ(unitsOf(times.GetAt(3)), outside);
-    // The quotient 1 / 1e-5 falls just short of 100000, so a whole share is held as 0.99999.
-    EXPECT_EQ(unitsOf(times.GetAt(4)), (std::vector<std::int32_t>{40000, 40000, 40000, 40000, 40000, 99999}));
-    const SMultiArray& contributions = probe.stageTables[SAdvProbe::kContributions];
-    EXPECT_EQ(contributions.GetAt(0).GetAt(0), -99999);
-    EXPECT_EQ(contributions.GetAt(1).GetAt(0), 99999);
-    EXPECT_EQ(contributions.GetAt(3).GetAt(4), 99999);
-    EXPECT_EQ(contributions.GetAt(4).GetAt(5), 99999);
-}
-
 TEST(Quadrants, WrapWhenASumLeavesThirtyTwoBits) {
     // A mean stress near 0 makes every r large; the sums of the units then wrap.
     SAdvProbe probe = probeOf({});

@@ -61,13 +61,6 @@ TEST_F(Commands, TooManyLagsAreRefusedAndTheProbeStays) {
     EXPECT_EQ(document.SpectralAnalysis(lagsOf(500)), Outcome::Done);
 }
 
-TEST_F(Commands, AReopenedLagsModeUsesItsNumberAsPercentage) {
-    SpectralDialogValues settings = lagsOf(30);
-    settings.percentFlag = true;
-    ASSERT_EQ(document.SpectralAnalysis(settings), Outcome::Done);
-    EXPECT_EQ(document.Probe().spectralLags, 300U);
-}
-
 TEST_F(Commands, CancellingStoresNothingAnywhereInTheRun) {
     // Wherever the run is cut, the probe is bit for bit what it was.
     int done = 0;

@@ -54,18 +54,6 @@ TEST_F(Selection, StagesSetTheDisplaySwitchAndTheirOwnCommands) {
     EXPECT_EQ(document.Probe().selectedTab, 0);
 }
 
-TEST_F(Selection, TabsStandInTheOrderOfTheFirstRun) {
-    simulateAndSelect(document);
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
-    ASSERT_EQ(document.Distributions({}), Outcome::Done);
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(30)), Outcome::Done);
-    const STabsArray& tabs = document.Probe().tabItems;
-    ASSERT_EQ(tabs.GetSize(), 3);
-    EXPECT_EQ(tabs.GetAt(1).text, "Spectral Analysis");
-    EXPECT_EQ(tabs.GetAt(2).text, "Histograms");
-    EXPECT_EQ(document.ShownTab(), 1);
-}
-
 TEST_F(Selection, ATabOfAnUnknownStageChangesNothingButTheTab) {
     SimulationParameters p = sampleParameters();
     SAdvFile file = simulate(p, 1);
@@ -142,34 +130,6 @@ TEST_F(Selection, NavigationDoesNotModifyTheWorkspace) {
     document.SelectStage(0);
     EXPECT_FALSE(document.IsModified());
     std::filesystem::remove(path);
-}
-
-TEST_F(Selection, RemovedSamplesDisableWhatNeedsAllOfThem) {
-    simulateAndSelect(document);
-    EditingSettings editing;
-    editing.treatment = BadSampleTreatment::Remove;
-    ASSERT_EQ(document.EditTimeSeries(editing), Outcome::Done);
-    for (const Command command : {Command::DigitalFiltration, Command::StationarityAnalysis, Command::SpectralAnalysis,
-                                  Command::QuadrantsAnalysis, Command::CrossSpectralAnalysis}) {
-        EXPECT_FALSE(enabled(command));
-    }
-    EXPECT_TRUE(enabled(Command::Histograms));
-    EXPECT_TRUE(enabled(exportCommand(ExportKind::Velocities)));
-}
-
-TEST_F(Selection, ExportsOpenWithTheirResults) {
-    simulateAndSelect(document);
-    EXPECT_FALSE(enabled(exportCommand(ExportKind::Spectral)));
-    EXPECT_FALSE(enabled(Command::CrossSpectralAnalysis));
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(20)), Outcome::Done);
-    EXPECT_TRUE(enabled(exportCommand(ExportKind::Spectral)));
-    EXPECT_TRUE(enabled(Command::CrossSpectralAnalysis));
-    EXPECT_FALSE(enabled(exportCommand(ExportKind::CrossSpectral)));
-    ASSERT_EQ(document.CrossSpectralAnalysis(), Outcome::Done);
-    EXPECT_TRUE(enabled(exportCommand(ExportKind::CrossSpectral)));
-    EXPECT_FALSE(enabled(exportCommand(ExportKind::Patterns)));
-    ASSERT_EQ(document.QuadrantsAnalysis({}), Outcome::Done);
-    EXPECT_TRUE(enabled(exportCommand(ExportKind::Patterns)));
 }
 
 }  // namespace

@@ -25,17 +25,6 @@ TEST(Recipe, StepsTakeTheirDefaults) {
     EXPECT_EQ(recipe.steps[2].line, 5);
 }
 
-TEST(Recipe, AnIntegerServesWhereARealIsWanted) {
-    const Recipe recipe = parseRecipe(
-        "files = [2]\nprobes = [3, 1]\n[[step]]\ndo = \"clip\"\nfrom = 2\nto = 3.5\n[[step]]\n"
-        "do = \"rotate\"\nposition = [1, 2.5, -3]\n",
-        "r");
-    EXPECT_EQ(recipe.files, std::vector<int>{2});
-    EXPECT_EQ(recipe.probes, (std::vector<int>{3, 1}));
-    EXPECT_EQ(recipe.steps[0].values.real("from"), 2.0);
-    EXPECT_EQ(recipe.steps[1].values.triple("position"), (std::array<double, 3>{1.0, 2.5, -3.0}));
-}
-
 TEST(OutputPattern, PlaceholdersStandForNameFileAndProbe) {
     const OutputPattern pattern("out/{workspace}-{file}-{probe}{probe}.dat");
     EXPECT_EQ(pattern.expand("in/{probe}.x.avp", {0, 11}), "out/{probe}.x-1-1212.dat");

@@ -50,25 +50,6 @@ TEST_F(RunTest, SelectionEndsAsItWasLoadedAndSettingsAsTheStepsLeaveThem) {
     EXPECT_TRUE(probeOf(result, 0, 2).IsDone(DoneMark::Spectral));
 }
 
-TEST_F(RunTest, EditHandsItsCriteriaOver) {
-    const std::string input = simulated("a.avp");
-    const Workspace result = applied(
-        "[[step]]\ndo = \"edit\"\ncorrelation = \"minimum\"\ncorrelation_threshold = 88\n"
-        "snr = \"average\"\nvelocity_threshold = 2\ntreatment = \"remove\"\n",
-        input);
-    const WorkspaceSettings& s = result.settings;
-    EXPECT_TRUE(s.editing.correlation.on);
-    EXPECT_EQ(s.editing.correlation.statistic, ScoreStatistic::Minimum);
-    EXPECT_EQ(s.editing.correlation.minimumThreshold, 88.0);
-    EXPECT_EQ(s.editing.correlation.averageThreshold, 70.0);
-    EXPECT_TRUE(s.editing.signalToNoise.on);
-    EXPECT_EQ(s.editing.signalToNoise.averageThreshold, 10.0);
-    EXPECT_FALSE(s.editing.spikeFilter);
-    EXPECT_TRUE(s.editing.velocityTest);
-    EXPECT_EQ(s.editing.velocityThreshold, 2.0);
-    EXPECT_FALSE(probeOf(result).UsesAllSamples());
-}
-
 TEST_F(RunTest, JobsKeepLinesWholeAndOutputsInTheOrderOfTheInputs) {
     std::vector<std::string> rest = {"--jobs", "4", "--progress"};
     std::string expected;

@@ -32,6 +32,16 @@ class Sessions : public BatchTest, public testing::WithParamInterface<const char
             words.erase(words.begin(), words.begin() + 2);
             words.insert(words.begin(), {"vorlan-batch", "run", "--recipe", "r.toml"});
         }
+        if (words[0] == "table") {
+            // table 'TEXT' ARGUMENTS: the velocities of the text, written by printf, as they are imported
+            outputOfShell("printf '" + words[1] + "' > t.csv");
+            words.erase(words.begin(), words.begin() + 2);
+            words.insert(words.begin(), {"import", "--out", "t.avp", "--interval", "1"});
+            words.emplace_back("t.csv");
+            const Result result = run(words);
+            return indented(result.err, "  ! ") +
+                   (result.status == 0 ? indented(run({"export", "velocities", "--out", "-", "t.avp"}).out, "  ") : "");
+        }
         if (words[0] != "vorlan-batch") {
             return indented(outputOfShell(command), "  ");
         }
@@ -109,7 +119,7 @@ TEST_P(Sessions, AnswerAsApproved) {
 
 INSTANTIATE_TEST_SUITE_P(Approved, Sessions,
                          testing::Values("session-usage", "session-recipes", "session-refusals", "session-outputs",
-                                         "session-import", "session-run"));
+                                         "session-import", "session-run", "session-tables"));
 
 }  // namespace
 

@@ -26,14 +26,6 @@ TEST_F(WorkspaceMakingTest, NewIsTheEmptyWorkspace) {
     EXPECT_TRUE(sameBytes(read(path("a.avp")), read(path("b.avp"))));
 }
 
-TEST_F(WorkspaceMakingTest, SimulateTakesTheDialogsDefaults) {
-    done({"simulate", "--out", path("a.avp"), "--seed", "7"});
-    EXPECT_TRUE(sameBytes(read(path("a.avp")), simulatedByDocument({}, 7)));
-    const Workspace workspace = openWorkspace(path("a.avp"));
-    EXPECT_EQ(workspace.settings.activeFile, 0);
-    EXPECT_EQ(workspace.settings.activeProbe, 0);
-}
-
 TEST_F(WorkspaceMakingTest, SimulateHandsEveryOptionOver) {
     done({"simulate",   "--out",      path("a.avp"),  "--name",     "wave",
           "--interval", "0.1",        "--length",     "5",          "--correlation",

@@ -109,15 +109,6 @@ TEST(AtomicFiles, FollowLinks) {
     EXPECT_EQ(errorOfWriting(folder / "round", "x").kind(), FileError::Kind::Unwritable);
 }
 
-TEST(AtomicFiles, TakeRelativeNames) {
-    const TempFolder folder;
-    const auto before = std::filesystem::current_path();
-    std::filesystem::current_path(folder.path());
-    writeFileAtomically("bare", "text");
-    std::filesystem::current_path(before);
-    EXPECT_EQ(slurp(folder / "bare"), "text");
-}
-
 TEST(AtomicFiles, WriteDevicesDirectly) {
     const TempFolder folder;
     std::filesystem::create_symlink("/dev/full", folder / "full");

@@ -92,24 +92,6 @@ TEST(Boundaries, AreWrittenWithSixDecimals) {
     EXPECT_EQ(slurp(boundary.path), "1.234000 0.000000 -7.250000\n100000.000000 0.001000 0.000000\n");
 }
 
-TEST(Boundaries, NumbersUseAPointInEveryLocale) {
-    const TempFolder folder;
-    SBndFile boundary;
-    boundary.path = (folder / "bank.bnd").string();
-    boundary.SetNode(0, 1.5, 2.5, 3.5);
-    const bool comma = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
-    writeBoundary(boundary);
-    SBndFile back;
-    back.path = boundary.path;
-    EXPECT_NO_THROW(readBoundary(back));
-    std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(slurp(boundary.path), "1.500000 2.500000 3.500000\n");
-    EXPECT_EQ(integersOf(back), "1500,2500,3500;");
-    if (!comma) {
-        GTEST_SKIP() << "no locale with a decimal comma here";
-    }
-}
-
 TEST(Boundaries, OpenFailuresChangeNothing) {
     const TempFolder folder;
     SBndFile boundary;

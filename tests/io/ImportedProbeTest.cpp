@@ -74,19 +74,6 @@ TEST(ImportedProbes, HoldTheRecordInBothTables) {
     EXPECT_TRUE(probe.UsesAllSamples());
 }
 
-TEST(ImportedProbes, AreFinishedLikeSimulatedOnes) {
-    const SAdvProbe probe = importedProbe(recordOf("u,v,w\n1,2,3\n2,3,5\n6,1,4\n"), everyFifth());
-    EXPECT_EQ(probe.timeAxis.GetSize(), 3);
-    EXPECT_EQ(probe.timeAxis.GetAt(2), 400);
-    EXPECT_EQ(probe.VelocityMoments(0).mean, 3.0);
-    EXPECT_EQ(probe.workTables[SAdvProbe::kStresses].GetAt(0).GetSize(), 3);
-    EXPECT_EQ(probe.tabItems.GetSize(), 1);
-    EXPECT_EQ(probe.frameAttributes[0].GetAt(0).plotTitle, "Sampled Velocities");
-    EXPECT_TRUE(probe.sampledTables[SAdvProbe::kSampledCompass].IsEmpty());
-    EXPECT_TRUE(probe.sampledTables[SAdvProbe::kSampledPressure].IsEmpty());
-    EXPECT_TRUE(probe.workTables[SAdvProbe::kWorkPressure].IsEmpty());
-}
-
 TEST(ImportedProbes, MissingRowsHaveNoScore) {
     const SAdvProbe probe =
         importedProbe(recordOf("u,v,w,cor1,pressure\n1,1,1,90,5\n,,,,\n3,3,3,90,7\n"), everyFifth());

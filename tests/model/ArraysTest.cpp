@@ -200,32 +200,6 @@ TEST(Tabs, StandInOrderOfFirstRun) {
     EXPECT_THROW(tabs.AppendStage(-1), InvalidArgument);
 }
 
-TEST(SamplingVolumes, HoldTheIntegerPartOfTheCoordinates) {
-    SAdvSet set;
-    SAdvFile file;
-    file.fileName = "C:\\site/a\\run 7.adv";
-    SAdvProbe probe;
-    probe.samplingVolumeX = 1500.7;
-    probe.samplingVolumeY = -2.9;
-    probe.samplingVolumeZ = 1e12;
-    file.probes.Add(probe);
-    set.files.Add(file);
-    file.fileName = "site/run 8.adv";
-    file.probes.RemoveAll();
-    set.files.Add(file);
-    SSvmSet volumes;
-    volumes.Build(set);
-    volumes.Build(set);
-    ASSERT_EQ(volumes.files().size(), 2U);
-    EXPECT_EQ(volumes.files()[0].name, "run 7.adv");
-    EXPECT_EQ(volumes.files()[0].x.GetAt(0), 1500);
-    EXPECT_EQ(volumes.files()[0].x.GetValue(0), 1.5);
-    EXPECT_EQ(volumes.files()[0].y.GetAt(0), -2);
-    EXPECT_EQ(volumes.files()[0].z.GetAt(0), kNoInteger);
-    EXPECT_EQ(volumes.files()[1].name, "site/run 8.adv");
-    EXPECT_TRUE(volumes.files()[1].x.IsEmpty());
-}
-
 TEST(FixedText, EqualsPrintfForRandomValuesAndTies) {
     std::mt19937_64 random(3);
     for (int i = 0; i < 200000; ++i) {

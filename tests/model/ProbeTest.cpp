@@ -74,17 +74,6 @@ TEST(Probe, PressureIsNotStored) {
     EXPECT_FALSE(back.workTables[3].IsEmpty());
 }
 
-TEST(Probe, AnyMarkOfAStageMeansChanged) {
-    for (int mark = 0; mark < kDoneMarkCount; ++mark) {
-        SAdvProbe probe;
-        probe.SetDone(static_cast<DoneMark>(mark));
-        EXPECT_TRUE(probe.IsChanged());
-        EXPECT_TRUE(probe.IsDone(static_cast<DoneMark>(mark)));
-        probe.SetDone(static_cast<DoneMark>(mark), false);
-        EXPECT_FALSE(probe.IsChanged());
-    }
-}
-
 TEST(Probe, SamplesCountByTheirMark) {
     SAdvProbe probe = smallProbe();
     probe.Reset();

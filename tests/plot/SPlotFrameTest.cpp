@@ -78,33 +78,6 @@ TEST(SPlotFrame, KeepsEverythingApartInEveryStyle) {
     }
 }
 
-TEST(SPlotFrame, MarksFallOnWholePixelsAndScaleFactorsFollow) {
-    const FrameLayout layout = layoutOf(diagramOf({0.0, 5.0, 10.0}, 18.65));
-    const SAxis& x = layout.axes[0];
-    const CScreenUtils& g = layout.geometry;
-    EXPECT_EQ(g.width, x.markCount * x.pixelsPerMark);
-    EXPECT_DOUBLE_EQ(g.xScale, x.markStep / x.pixelsPerMark);
-    EXPECT_EQ(g.xPixel(x.minimum + x.markStep), x.originX + x.pixelsPerMark);
-    EXPECT_NEAR(g.xValue(g.originX + g.width), g.xMax, 1e-9);
-    EXPECT_NEAR(g.yValue(g.originY - g.height), g.yMax, 1e-9);
-    // No label is left out where the step was thinned to fit.
-    for (const SAxis& axis : layout.axes) {
-        EXPECT_EQ(axis.linearLabels(FixedMeasure()).texts.size(), static_cast<std::size_t>(axis.markCount) + 1);
-    }
-}
-
-TEST(SPlotFrame, ScaleTypeMustBeAllowed) {
-    Diagram diagram = diagramOf({1.0, 2.0});
-    diagram.frame.scaleType = 1;
-    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
-    diagram.allowedScales.push_back(ScaleType::Logarithmic);
-    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Logarithmic);
-    diagram.plot.series[0].attributes.style = SeriesStyle::Bars;
-    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
-    diagram.frame.scaleType = 77;
-    EXPECT_EQ(SPlotFrame::effectiveScale(diagram), ScaleType::Linear);
-}
-
 TEST(SPlotFrame, OutlandishAttributesAndValuesAreDrawn) {
     Diagram diagram = diagramOf({-2147483648.0, 0.0, std::numeric_limits<double>::infinity(), 5.0});
     FrameAttributesType& frame = diagram.frame;

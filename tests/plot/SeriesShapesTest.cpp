@@ -45,28 +45,6 @@ TEST(SeriesShapes, BarsStandOverTheirBins) {
     EXPECT_EQ(barBoxes(s, unitGeometry()).size(), 2U) << "three edges, two bars";
 }
 
-TEST(SeriesShapes, BarGaps) {
-    PlotSeries s = series({0.0, 20.0, 40.0}, {30.0, 50.0, 0.0});
-    const struct {
-        double percent;
-        std::size_t bars;
-        int width;
-    } rows[] = {{0.0, 2, 20}, {50.0, 2, 10}, {100.0, 2, 0}, {100.1, 0, 0}, {101.0, 0, 0}};
-    for (const auto& row : rows) {
-        s.attributes.barGapPercent = row.percent;
-        const std::vector<Box> bars = barBoxes(s, unitGeometry());
-        ASSERT_EQ(bars.size(), row.bars) << row.percent;
-        if (!bars.empty()) {
-            EXPECT_EQ(bars[0].width(), row.width) << row.percent;
-        }
-    }
-    EXPECT_TRUE(barBoxes(series({5.0}, {5.0}), unitGeometry()).empty()) << "one point has no bar";
-    CScreenUtils logarithmic = unitGeometry();
-    logarithmic.scaleType = ScaleType::Logarithmic;
-    s.attributes.barGapPercent = 0.0;
-    EXPECT_TRUE(barBoxes(s, logarithmic).empty());
-}
-
 TEST(SeriesShapes, ArrowHeads) {
     const Arrow arrow = arrowShape({0, 0}, {100, 0}, 8.0, 20.0);
     ASSERT_EQ(arrow.head.size(), 2U);

@@ -125,25 +125,6 @@ class FrameCommands : public QObject {
         QCOMPARE(driver.document().CurrentStage(), Stage::Spectral);
     }
 
-    void plotOptionsStartFromTheAxesThatAreSeen() {
-        FrameDriver driver;
-        driver.simulate();
-        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
-        view.grab();
-        const double top = view.geometry().value().yMax;
-        QVERIFY(driver.withDialog(Command::PlotFrameOptions, "Plot Frame Options", [](QDialog& dialog) {
-            int row = 0;
-            for (QCheckBox* box : dialog.findChildren<QCheckBox*>()) {
-                if (box->text() == QLatin1String("     Y") && row++ == 1) {
-                    box->click();
-                }
-            }
-        }));
-        const FrameAttributesType& frame = driver.document().Probe().frameAttributes[0].GetAt(0);
-        QCOMPARE(frame.yMaxMode, 1);
-        QCOMPARE(frame.yMax, top);
-    }
-
     void cancelledDialogsChangeNothing() {
         FrameDriver driver;
         driver.simulate();
@@ -264,16 +245,6 @@ class FrameCommands : public QObject {
         QVERIFY(!image.isNull());
         QCOMPARE(image.pixelColor(1, 1), QColor(Qt::white));
         QVERIFY(image.size().width() <= driver.frame->panes().view(Pane::LeftTop).width());
-    }
-
-    void barsFollowTheViewMenu() {
-        FrameDriver driver;
-        auto* bar = driver.frame->findChild<QToolBar*>(QStringLiteral("SpectralBar"));
-        QVERIFY(bar->isVisible());
-        driver.trigger(Command::SpectralToolbar);
-        QVERIFY(!bar->isVisible());
-        driver.trigger(Command::SpectralToolbar);
-        QVERIFY(bar->isVisible());
     }
 };
 

@@ -71,21 +71,6 @@ class FrameKeyboard : public QObject {
         QCOMPARE(driver.document().ActivePane(), Pane::RightBottom);
     }
 
-    void hidingTheFocusedToolbarKeepsTheActiveView() {
-        FrameDriver driver;
-        driver.simulate();
-        for (const Pane pane : {Pane::LeftTop, Pane::RightBottom}) {
-            comeToTheFront(driver);
-            driver.document().SelectActivePane(pane);
-            selector(driver, "Active view")->setFocus();
-            driver.trigger(Command::SelectionToolbar);
-            QVERIFY(!selector(driver, "Active view")->isVisible());
-            QCOMPARE(driver.document().ActivePane(), pane);
-            QVERIFY(driver.frame->panes().view(pane).hasFocus());
-            driver.trigger(Command::SelectionToolbar);
-        }
-    }
-
     void aNarrowWindowShowsEverySelector() {
         FrameDriver driver;
         driver.simulate();

@@ -108,19 +108,6 @@ class FrameMouse : public QObject {
         QVERIFY2(driver.status().startsWith(QLatin1String("Time: ")), qPrintable(driver.status()));
         QTest::mouseRelease(&view, Qt::LeftButton, {}, inPlot(view, 0.7));
     }
-
-    void aDragFromBeforeTheRecordIsRefused() {
-        FrameDriver driver;
-        driver.simulate();
-        driver.trigger(Command::ZoomAndClipping);
-        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
-        view.grab();
-        QVERIFY2(view.geometry()->xMin < 0.0, "in zoom mode the axis starts below the data");
-        QTest::mousePress(&view, Qt::LeftButton, {}, inPlot(view, 0.01));
-        QTest::mouseRelease(&view, Qt::LeftButton, {}, inPlot(view, 0.5));
-        QCOMPARE(driver.boxes.refusals, QStringList{QStringLiteral("The limits for clipping are wrong !")});
-        QCOMPARE(driver.document().Probe().WorkingSamples(), 1000);
-    }
 };
 
 QTEST_MAIN(FrameMouse)
