@@ -1,16 +1,14 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "batch/BatchProgram.h"
+#include "io/TempFolder.h"
 #include "io/WorkspaceFile.h"
 
 namespace vorlan {
@@ -23,13 +21,6 @@ class BatchTest : public ::testing::Test {
         std::string out;
         std::string err;
     };
-
-    void SetUp() override {
-        std::string name = (std::filesystem::temp_directory_path() / "vorlan-batch-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        folder_ = name;
-    }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
 
     std::string path(const std::string& name) const { return (folder_ / name).string(); }
 
@@ -47,17 +38,14 @@ class BatchTest : public ::testing::Test {
     }
 
     std::string write(const std::string& name, const std::string& text) const {
-        std::ofstream(path(name), std::ios::binary) << text;
+        test::spill(path(name), text);
         return path(name);
     }
-    static std::string read(const std::string& file) {
-        std::ifstream stream(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    static std::string read(const std::string& file) { return test::slurp(file); }
     /// Names in the folder, sorted.
     std::vector<std::string> names() const {
         std::vector<std::string> list;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
             list.push_back(entry.path().filename().string());
         }
         std::sort(list.begin(), list.end());
@@ -86,7 +74,7 @@ class BatchTest : public ::testing::Test {
     }
 
   private:
-    std::filesystem::path folder_;
+    test::TempFolder folder_;
 };
 
 /// True when the text holds the part; the failure shows the text.

@@ -11,14 +11,10 @@ namespace {
 class Sessions : public BatchTest, public testing::WithParamInterface<const char*> {
   protected:
     void SetUp() override {
-        BatchTest::SetUp();
         before_ = std::filesystem::current_path();
         std::filesystem::current_path(path(""));
     }
-    void TearDown() override {
-        std::filesystem::current_path(before_);
-        BatchTest::TearDown();
-    }
+    void TearDown() override { std::filesystem::current_path(before_); }
 
     static std::string answerOf(const std::string& command) {
         std::vector<std::string> words = wordsOf(command);

@@ -7,9 +7,8 @@
 #include <random>
 
 #include "model/Archive.h"
-#include "model/SAdvSet.h"
+#include "model/PlainArrays.h"
 #include "model/SArray.h"
-#include "model/SSvmSet.h"
 #include "model/STabsArray.h"
 #include "model/Text.h"
 
@@ -18,46 +17,39 @@ namespace {
 
 constexpr std::int32_t kNoInteger = std::numeric_limits<std::int32_t>::min();
 
-struct Stored {
-    const char* name;
-    double scale;
-    double value;
-    std::int32_t integer;
-};
-
-class StoringValues : public testing::TestWithParam<Stored> {};
-
-TEST_P(StoringValues, TruncatesTowardZero) {
-    SArray column(GetParam().scale);
-    column.AddValue(GetParam().value);
-    column.SetValue(2, GetParam().value);
-    EXPECT_EQ(column.GetAt(0), GetParam().integer);
-    EXPECT_EQ(column.GetAt(1), 0);
-    EXPECT_EQ(column.GetAt(2), GetParam().integer);
-    EXPECT_EQ(column.GetValue(0), GetParam().integer * GetParam().scale);
-    const std::vector<double> values{GetParam().value};
-    column.StoreValues(values);
-    EXPECT_EQ(column.GetSize(), 1);
-    EXPECT_EQ(column.GetAt(0), GetParam().integer);
-    // Several are stored as one is.
-    column.StoreValues(std::vector<double>(7, GetParam().value));
-    ASSERT_EQ(column.GetSize(), 7);
-    for (const std::int32_t integer : column) {
-        EXPECT_EQ(integer, GetParam().integer);
+TEST(Arrays, StoreValuesTruncatedTowardZero) {
+    const struct {
+        double scale;
+        double value;
+        std::int32_t integer;
+    } rows[] = {{1.0, 1.99, 1},
+                {1.0, -1.99, -1},
+                {0.01, 12.349, 1234},
+                {0.01, 0.29, 28},  // the quotient is below the integer
+                {1.0, 2147483647.9, 2147483647},
+                {1.0, 2147483648.0, kNoInteger},
+                {1.0, -2147483648.9, kNoInteger},
+                {1.0, -2147483649.0, kNoInteger},
+                {1.0, std::nan(""), kNoInteger},
+                {0.001, -std::numeric_limits<double>::infinity(), kNoInteger},
+                {0.0, 1.0, kNoInteger}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.value);
+        SArray column(row.scale);
+        column.AddValue(row.value);
+        column.SetValue(2, row.value);
+        EXPECT_EQ(column.GetAt(0), row.integer);
+        EXPECT_EQ(column.GetAt(1), 0);
+        EXPECT_EQ(column.GetAt(2), row.integer);
+        EXPECT_EQ(column.GetValue(0), row.integer * row.scale);
+        // Several are stored as one is.
+        column.StoreValues(std::vector<double>(7, row.value));
+        ASSERT_EQ(column.GetSize(), 7);
+        for (const std::int32_t integer : column) {
+            EXPECT_EQ(integer, row.integer);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Values, StoringValues,
-    testing::Values(Stored{"positive", 1.0, 1.99, 1}, Stored{"negative", 1.0, -1.99, -1},
-                    Stored{"decimals", 0.01, 12.349, 1234}, Stored{"quotientBelowTheInteger", 0.01, 0.29, 28},
-                    Stored{"largest", 1.0, 2147483647.9, 2147483647}, Stored{"tooLarge", 1.0, 2147483648.0, kNoInteger},
-                    Stored{"smallest", 1.0, -2147483648.9, kNoInteger},
-                    Stored{"tooSmall", 1.0, -2147483649.0, kNoInteger},
-                    Stored{"notANumber", 1.0, std::nan(""), kNoInteger},
-                    Stored{"infinite", 0.001, -std::numeric_limits<double>::infinity(), kNoInteger},
-                    Stored{"zeroScale", 0.0, 1.0, kNoInteger}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(Arrays, ReadingOutsideIsRefusedAndSettingGrows) {
     SIntArray marks;

@@ -225,16 +225,6 @@ class PaintingTest : public QObject {
         QVERIFY(inked(paint(TextPanel{{"one", "two"}, {}}).image) > 2 * inked(paint(TextPanel{{"o"}, {}}).image));
     }
 
-    void painterComesBackAsItWas() {
-        QImage image(300, 200, QImage::Format_RGB32);
-        QPainter painter(&image);
-        painter.setPen(Qt::red);
-        painter.setClipRect(0, 0, 50, 50);
-        paintPane(painter, QRect(0, 0, 300, 200), diagramOf(noise(10, 1.0, 1)));
-        QCOMPARE(painter.pen().color(), QColor(Qt::red));
-        QCOMPARE(painter.clipBoundingRect().toRect(), QRect(0, 0, 50, 50));
-    }
-
     void filesHoldThePanes() {
         const std::array<PaneContent, 4> panes{diagramOf(noise(500, 0.1, 1)), PaneMessage{"left bottom"},
                                                std::monostate(), diagramOf(noise(500, 0.1, 2))};
