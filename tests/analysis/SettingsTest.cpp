@@ -107,19 +107,6 @@ TEST(Settings, TruncationPointIsAPercentageOrANumberOfLags) {
     EXPECT_EQ(truncationPoint(settings, 2'000'000'000), 2'147'483'647);
 }
 
-TEST(Settings, FilterShapesAllowTheirTypes) {
-    std::string allowed;
-    for (const FilterShape shape :
-         {FilterShape::Rectangle, FilterShape::Tukey, FilterShape::Gaussian, FilterShape::Bell}) {
-        for (const FilterType type :
-             {FilterType::LowPass, FilterType::HighPass, FilterType::BandPass, FilterType::BandCut}) {
-            allowed += allowsType(shape, type) ? (type == defaultTypeOf(shape) ? 'X' : 'x') : '-';
-        }
-        allowed += ' ';
-    }
-    EXPECT_EQ(allowed, "Xx-- Xx-- X--- --Xx ");
-}
-
 TEST(Settings, RotationStartsAtTheProbeInMetres) {
     SAdvProbe probe;
     probe.samplingVolumeY = 250.0;

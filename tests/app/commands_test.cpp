@@ -222,17 +222,6 @@ TEST_F(Commands, WhatOthersWroteOnTheFileIsNoticed) {
     EXPECT_FALSE(document.IsChangedOnDisk());
 }
 
-TEST_F(Commands, FramesAreCreatedFromTheDefaults) {
-    FrameAttributesType frame;
-    frame.plotTitle = "mine";
-    document.SetPlanFrame(1, frame);
-    EXPECT_EQ(document.GetWorkspace().dataFiles.frameAttributes.GetSize(), 2);
-    EXPECT_EQ(document.GetWorkspace().dataFiles.frameAttributes.GetAt(1).plotTitle, "mine");
-    document.SetFrame(3, 1, frame);
-    EXPECT_EQ(document.Probe().frameAttributes[3].GetAt(1), frame);
-    EXPECT_THROW(document.SetFrame(-1, 0, frame), std::exception);
-}
-
 TEST_F(Commands, APatchExchangedTwiceIsTakenBack) {
     simulateAndSelect(document, 10.0);
     Workspace workspace = document.GetWorkspace();

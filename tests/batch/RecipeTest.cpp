@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "batch/TextValues.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -29,23 +28,6 @@ TEST(OutputPattern, PlaceholdersStandForNameFileAndProbe) {
     const OutputPattern pattern("out/{workspace}-{file}-{probe}{probe}.dat");
     EXPECT_EQ(pattern.expand("in/{probe}.x.avp", {0, 11}), "out/{probe}.x-1-1212.dat");
     EXPECT_EQ(pattern.expandWorkspace("a.avp"), "out/a-{file}-{probe}{probe}.dat");
-}
-
-TEST(TextValues, NumbersAreWholeTextsWithAPoint) {
-    EXPECT_EQ(parseReal("-2.5e1"), -25.0);
-    EXPECT_EQ(parseReal("+3"), 3.0);
-    for (const char* text : {"", " 1", "1 ", "1,5", "0x10", "inf", "nan", "1e999", "+-1"}) {
-        EXPECT_FALSE(parseReal(text)) << text;
-    }
-    EXPECT_EQ(parseReals("1,-2,.5", 3), (std::vector<double>{1.0, -2.0, 0.5}));
-    EXPECT_FALSE(parseReals("1,2,", 3));
-    EXPECT_EQ(componentOfLetter("W"), 2);
-    EXPECT_EQ(componentOfLetter("uv"), -1);
-    EXPECT_EQ(componentOfLetter(""), -1);
-    EXPECT_EQ(parsePictureSize("640x480")->height, 480);
-    for (const char* text : {"640", "640x", "x", "640x0", "10001x1", "1x2x3", "-1x5"}) {
-        EXPECT_FALSE(parsePictureSize(text)) << text;
-    }
 }
 
 TEST(Text, IsUtf8OrElseWindows1252) {

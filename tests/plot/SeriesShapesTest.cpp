@@ -63,16 +63,6 @@ TEST(SeriesShapes, ArrowHeads) {
     EXPECT_EQ(all[0].shaft, (Line{{60, 60}, {80, 50}}));
 }
 
-TEST(SeriesShapes, MarkersOfEveryKindShareABox) {
-    EXPECT_EQ(markerBox({20, 30}, 5), (Box{18, 28, 23, 33}));
-    EXPECT_EQ(markerLines(MarkerKind::Plus, {20, 30}, 5)[1], (Line{{20, 32}, {20, 28}}));
-    const std::vector<Line> triangle = markerLines(MarkerKind::Triangle, {20, 30}, 5);
-    ASSERT_EQ(triangle.size(), 3U);
-    EXPECT_EQ(triangle[1], (Line{{18, 32}, {20, 28}}));
-    const PlotSeries s = series({5.0, 5.2, kNaN, 300.0, 7.0}, {5.0, 5.3, 1.0, 5.0, 7.0});
-    EXPECT_EQ(markerSpots(s, unitGeometry()), (std::vector<Spot>{{15, 105}, {17, 103}}));
-}
-
 TEST(SeriesShapes, LinesBreakWhereAValueHasNoPlace) {
     const PlotSeries s = series({0.0, 1.0, 2.0, 3.0, 4.0}, {1.0, 2.0, kNaN, 4.0, 5.0});
     EXPECT_EQ(polylineEnvelope(s, unitGeometry()).parts.size(), 2U);
