@@ -43,7 +43,7 @@ std::string changeOfApproved(const std::string& name, std::string text) {
     const std::filesystem::path received =
         std::filesystem::temp_directory_path() / ("vorlan-" + name + "-" + std::to_string(::getpid()));
     write(received, text);
-    std::string lines = approved.string() + " is not what the program says now:\n";
+    std::string lines = approved.string() + " is not what the program says now (./approve renews it):\n";
     const std::string command =
         "diff -u --label approved --label now '" + approved.string() + "' '" + received.string() + "' 2>&1";
     if (FILE* diff = ::popen(command.c_str(), "r")) {

@@ -15,45 +15,6 @@ class Selection : public ::testing::Test {
     bool enabled(Command command) const { return commandState(document, command).enabled; }
 };
 
-TEST_F(Selection, NewDocumentHasNothingSelected) {
-    EXPECT_EQ(document.ActiveFile(), -1);
-    EXPECT_EQ(document.ActiveProbe(), -1);
-    EXPECT_EQ(document.ShownTab(), -1);
-    EXPECT_FALSE(document.IsModified());
-}
-
-TEST_F(Selection, SimulatingSelectsTheFileAndNoProbe) {
-    document.SimulateTimeSeries(sampleParameters(), 1);
-    EXPECT_EQ(document.ActiveFile(), 0);
-    EXPECT_FALSE(document.HasProbe());
-    EXPECT_TRUE(document.IsModified());
-    EXPECT_TRUE(enabled(Command::CloseFile));
-    EXPECT_FALSE(enabled(Command::SpectralAnalysis));
-    EXPECT_FALSE(enabled(Command::Histograms));
-
-    document.SelectProbe(0);
-    EXPECT_EQ(document.ShownTab(), 0);
-    EXPECT_EQ(document.Settings().choiceA, 1);
-    EXPECT_TRUE(document.ShowsTable());
-    EXPECT_TRUE(enabled(Command::SpectralAnalysis));
-    EXPECT_TRUE(enabled(Command::ResetTimeSeries));
-}
-
-TEST_F(Selection, StagesSetTheDisplaySwitchAndTheirOwnCommands) {
-    simulateAndSelect(document);
-    ASSERT_EQ(document.StationarityAnalysis({BandMode::Fixed, 4}), Outcome::Done);
-    EXPECT_EQ(document.CurrentStage(), Stage::Stationarity);
-    EXPECT_FALSE(document.ShowsTable());
-    EXPECT_FALSE(enabled(Command::ResetTimeSeries)) << "belongs to pre-processing";
-    EXPECT_TRUE(enabled(Command::DigitalFiltration)) << "needs no stage";
-    EXPECT_FALSE(enabled(Command::ResultsTable));
-
-    document.SelectStage(0);
-    EXPECT_TRUE(document.ShowsTable());
-    EXPECT_TRUE(enabled(Command::ResetTimeSeries));
-    EXPECT_EQ(document.Probe().selectedTab, 0);
-}
-
 TEST_F(Selection, ATabOfAnUnknownStageChangesNothingButTheTab) {
     SimulationParameters p = sampleParameters();
     SAdvFile file = simulate(p, 1);
