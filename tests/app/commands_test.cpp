@@ -27,30 +27,6 @@ class Commands : public ::testing::Test {
     SAdvProbe before;
 };
 
-TEST_F(Commands, SpectralAnalysisRecordsItsRunAndEntersItsStage) {
-    SpectralSettings settings;
-    settings.windowButton = 1;
-    settings.unitButton = 0;
-    settings.percent = 15;
-    ASSERT_EQ(document.SpectralAnalysis(settings), Outcome::Done);
-    EXPECT_EQ(document.Probe().spectralLags, 150U);
-    EXPECT_EQ(document.Probe().spectralWindow, 2U);
-    EXPECT_EQ(document.Probe().spectralUnit, 1U);
-    EXPECT_EQ(document.Settings().lastWindowCode, 2);
-    EXPECT_TRUE(document.Settings().lastUnitIsRad);
-    EXPECT_EQ(document.Settings().lastTruncationPoint, 150);
-    EXPECT_EQ(document.Settings().spectral.percent, 15);
-    EXPECT_EQ(document.CurrentStage(), Stage::Spectral);
-    EXPECT_EQ(document.Probe().seriesV.spectrum.GetSize(), 150);
-    ASSERT_FALSE(port.positions.empty());
-    EXPECT_TRUE(std::is_sorted(port.positions.begin(), port.positions.end()));
-    EXPECT_EQ(port.positions.back(), 100);
-    EXPECT_EQ(port.statuses.front(), "Spectral analysis calculations: ");
-    EXPECT_EQ(port.runs, std::vector<Calculation>{Calculation::Spectral});
-    EXPECT_EQ(port.ends, 1);
-    EXPECT_FALSE(document.IsRunning());
-}
-
 TEST_F(Commands, TooManyLagsAreRefusedAndTheProbeStays) {
     EXPECT_EQ(document.SpectralAnalysis(lagsOf(501)), Outcome::Refused);
     ASSERT_EQ(port.refusals.size(), 1U);

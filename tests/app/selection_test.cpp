@@ -81,17 +81,5 @@ TEST_F(Selection, TabAndStageAgreeWhateverAWorkspaceHolds) {
     EXPECT_EQ(document.Settings().choiceA, 1);
 }
 
-TEST_F(Selection, NavigationDoesNotModifyTheWorkspace) {
-    simulateAndSelect(document);
-    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "navigation.avp";
-    document.SaveWorkspace(path);
-    document.SelectPhysicalValue(PhysicalValue::Stresses);
-    document.SelectActivePane(Pane::RightTop);
-    document.SelectFile(0);
-    document.SelectStage(0);
-    EXPECT_FALSE(document.IsModified());
-    std::filesystem::remove(path);
-}
-
 }  // namespace
 }  // namespace vorlan
