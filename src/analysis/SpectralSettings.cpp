@@ -5,10 +5,6 @@
 
 namespace vorlan {
 
-namespace {
-constexpr int kPercentMode = 0;
-}
-
 SpectralSettings spectralSettingsOf(const WorkspaceSettings& settings) {
     SpectralSettings dialog = usable(settings.spectral);
     const Range range = fieldOf(dialog, dialog.percent).range;
@@ -41,7 +37,7 @@ int unitSelectorOfButton(int unitButton) {
 }
 
 int truncationPoint(const SpectralDialogValues& settings, int samples) {
-    const int value = settings.truncationMode == kPercentMode ? settings.percent : settings.lags;
+    const int value = settings.truncationMode == SpectralSettings::kPercentMode ? settings.percent : settings.lags;
     if (!settings.percentFlag) {
         return value;
     }

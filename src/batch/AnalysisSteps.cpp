@@ -19,7 +19,7 @@ Outcome runSpectral(StepContext& context, const StepValues& values) {
     // The mode that is not used keeps its number.
     SpectralDialogValues settings = settingsOf(values, spectralSettingsOf(context.document.Settings()));
     settings.percentFlag = !values.has("lags");
-    settings.truncationMode = settings.percentFlag ? 0 : 1;
+    settings.truncationMode = settings.percentFlag ? SpectralSettings::kPercentMode : SpectralSettings::kLagsMode;
     if (settings.percentFlag && !values.has("percent")) {
         settings.percent = SpectralSettings().percent;
     }

@@ -3,8 +3,6 @@
 namespace vorlan {
 
 namespace {
-constexpr int kPercentMode = 0;
-constexpr int kLagsMode = 1;
 constexpr int kFewestLags = 3;
 }  // namespace
 
@@ -27,10 +25,10 @@ Refusal refusalOf(const HistogramSettings& settings) {
 }
 
 Refusal refusalOf(const SpectralSettings& settings) {
-    if (settings.truncationMode == kPercentMode && settings.percent == 0) {
+    if (settings.truncationMode == SpectralSettings::kPercentMode && settings.percent == 0) {
         return {"The truncation point should be grater than 0!", "percent"};
     }
-    if (settings.truncationMode == kLagsMode && settings.lags < kFewestLags) {
+    if (settings.truncationMode == SpectralSettings::kLagsMode && settings.lags < kFewestLags) {
         return {"The truncation point should be grater than 2!", "lags"};
     }
     return {};

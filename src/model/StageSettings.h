@@ -103,10 +103,13 @@ struct HistogramSettings {
 
 /// What the dialog "Spectral Analysis | Parameters" edits.
 struct SpectralSettings {
-    std::int32_t windowButton = 2;    ///< 0 rectangle, 1 Bartlett, 2 Tukey, 3 Parzen
-    std::int32_t unitButton = 1;      ///< 0 rad/s, 1 Hz
-    std::int32_t truncationMode = 0;  ///< 0 percent of the series length, 1 number of lags
-    std::int32_t percent = 10;
+    static constexpr std::int32_t kPercentMode = 0;
+    static constexpr std::int32_t kLagsMode = 1;
+
+    std::int32_t windowButton = 2;  ///< 0 rectangle, 1 Bartlett, 2 Tukey, 3 Parzen
+    std::int32_t unitButton = 1;    ///< 0 rad/s, 1 Hz
+    std::int32_t truncationMode = kPercentMode;
+    std::int32_t percent = 10;  ///< of the series length
     std::int32_t lags = 100;
 
     /// A recipe chooses the mode by giving its number.
@@ -115,7 +118,7 @@ struct SpectralSettings {
         visit(SettingField{"window", {}, {{"rectangle", 0}, {"bartlett", 1}, {"tukey", 2}, {"parzen", 3}}},
               self.windowButton);
         visit(SettingField{"unit", {}, {{"hz", 1}, {"rad/s", 0}}}, self.unitButton);
-        visit(SettingField{"", {}, {{"percent", 0}, {"lags", 1}}}, self.truncationMode);
+        visit(SettingField{"", {}, {{"percent", kPercentMode}, {"lags", kLagsMode}}}, self.truncationMode);
         visit(SettingField{"percent", {0, 50}}, self.percent);
         visit(SettingField{"lags"}, self.lags);
     }

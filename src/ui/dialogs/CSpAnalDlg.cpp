@@ -14,8 +14,6 @@
 namespace vorlan {
 
 namespace {
-constexpr int kPercentMode = 0;
-constexpr int kLagsMode = 1;
 constexpr int kLargestSpin = 10000;
 }  // namespace
 
@@ -42,9 +40,9 @@ QWidget* CSpAnalDlg::truncationBox() {
     auto* lagsButton = new QRadioButton(QStringLiteral("&Number of Lags"), box);
     lags_ = new IntegerField(box);
     lagsUpDown_ = new CUpDown(0, kLargestSpin, lags_, box);
-    mode_->addButton(percentButton, kPercentMode);
-    mode_->addButton(lagsButton, kLagsMode);
-    (values_.truncationMode == kLagsMode ? lagsButton : percentButton)->setChecked(true);
+    mode_->addButton(percentButton, SpectralSettings::kPercentMode);
+    mode_->addButton(lagsButton, SpectralSettings::kLagsMode);
+    (values_.truncationMode == SpectralSettings::kLagsMode ? lagsButton : percentButton)->setChecked(true);
 
     const Range range = fieldOf<SpectralSettings>(values_, values_.percent).range;
     percent_->setRange(static_cast<int>(range.minimum), static_cast<int>(range.maximum));
@@ -58,7 +56,7 @@ QWidget* CSpAnalDlg::truncationBox() {
     showPercent(percent_->value());
     lags_->setInteger(values_.lags);
     lagsUpDown_->setPosition(values_.lags);
-    enableLags(values_.truncationMode == kLagsMode);
+    enableLags(values_.truncationMode == SpectralSettings::kLagsMode);
 
     auto* slider = new QHBoxLayout;
     slider->addWidget(new QLabel(QString::number(percent_->minimum()), box));
@@ -89,9 +87,9 @@ QWidget* CSpAnalDlg::truncationBox() {
 }
 
 void CSpAnalDlg::chooseMode(int mode) {
-    percentFlag_ = mode == kPercentMode;
-    enableLags(mode == kLagsMode);
-    percent_->setEnabled(mode == kPercentMode);
+    percentFlag_ = mode == SpectralSettings::kPercentMode;
+    enableLags(mode == SpectralSettings::kLagsMode);
+    percent_->setEnabled(mode == SpectralSettings::kPercentMode);
 }
 
 void CSpAnalDlg::enableLags(bool on) {
