@@ -72,10 +72,6 @@ int countedSamples(const SAdvProbe& probe) {
     return CountedSamples(probe, probe.WorkingSamples()).size();
 }
 
-SArray countedColumn(const SAdvProbe& probe, const SArray& column) {
-    return CountedSamples(probe, column.GetSize()).of(column);
-}
-
 std::array<SArray, 3> countedColumns(const SAdvProbe& probe, const std::array<const SArray*, 3>& columns) {
     std::array<SArray, 3> counted;
     std::optional<CountedSamples> samples;
@@ -91,10 +87,6 @@ std::array<SArray, 3> countedColumns(const SAdvProbe& probe, const std::array<co
         counted[c] = samples->of(*columns[c]);
     }
     return counted;
-}
-
-std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column) {
-    return countedColumn(probe, column).Values();
 }
 
 }  // namespace vorlan

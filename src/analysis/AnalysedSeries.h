@@ -11,13 +11,8 @@ void formAnalysedSeries(SAdvProbe& probe);
 /// Number of working samples that count: the length that the analysed series take.
 int countedSamples(const SAdvProbe& probe);
 
-/// The part of column that counts by the probe's marks: integers copied, resolution kept.
-SArray countedColumn(const SAdvProbe& probe, const SArray& column);
-
-/// Three columns at once, their marks read once; an empty column for a null pointer.
+/// The parts of three columns that count by the probe's marks: integers copied, resolution kept; an empty column for a
+/// null pointer.
 std::array<SArray, 3> countedColumns(const SAdvProbe& probe, const std::array<const SArray*, 3>& columns);
-
-/// The values of column that count by the probe's marks, in index order.
-std::vector<double> countedValues(const SAdvProbe& probe, const SArray& column);
 
 }  // namespace vorlan

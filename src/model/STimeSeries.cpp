@@ -20,12 +20,6 @@ void STimeSeries::Serialize(Archive& archive) {
     }
 }
 
-void STimeSeries::ClearSpectralResults() {
-    correlation.RemoveAll();
-    spectrum.RemoveAll();
-    structureFunction.RemoveAll();
-}
-
 void STimeSeries::ClearStationarityResults() {
     bandMeans.RemoveAll();
     bandVariances.RemoveAll();

@@ -30,7 +30,6 @@ class STimeSeries : public SObject {
     const char* ClassName() const override { return "STimeSeries"; }
     void Serialize(Archive& archive) override;
 
-    void ClearSpectralResults();
     void ClearStationarityResults();
 
     std::uint32_t kind;

@@ -150,7 +150,7 @@ TEST(CrossSpectralAnalysis, IsRefusedWhenTheRecordBecameTooShort) {
 TEST(CrossSpectralAnalysis, RefusesInconsistentRecords) {
     NoProgress silent;
     SAdvProbe withoutSpectra = spectrallyAnalysed(60, 10, 0, 0);
-    withoutSpectra.seriesW.ClearSpectralResults();
+    withoutSpectra.seriesW.spectrum.RemoveAll();
     EXPECT_THROW(analyseCrossSpectra(withoutSpectra, silent), InvalidArgument);
     SAdvProbe staleStresses = spectrallyAnalysed(60, 10, 0, 0);
     formStresses(staleStresses);

@@ -62,7 +62,8 @@ TEST(AnalysedSeries, HoldsTheSamplesThatCount) {
     EXPECT_EQ(probe.seriesV.values, columnOf({5, 7}, 0.25));
     EXPECT_EQ(probe.seriesW.values, columnOf({9, 11}, 1.0));
     EXPECT_EQ(probe.seriesW.samplingInterval, 0.5);
-    EXPECT_EQ(countedValues(probe, columnOf({1, 2}, 0.1)), std::vector<double>{0.1});
+    const SArray tenths = columnOf({1, 2}, 0.1);
+    EXPECT_EQ(countedColumns(probe, {nullptr, &tenths, nullptr})[1], columnOf({1}, 0.1));
 
     SAdvProbe uneven = probeOf({{{1, 2}, {1}, {1, 2}}}, kScales);
     mark(uneven, {1, 1});

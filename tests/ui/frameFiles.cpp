@@ -170,6 +170,7 @@ class FrameFiles : public QObject {
             disabled = driver.document().IsRunning() && !driver.enabled(Command::SimulateTimeSeries) &&
                        !driver.frame->findChild<QComboBox*>(QStringLiteral("Probes"))->isEnabled();
             QVERIFY(driver.frame->statusPane().progressBar().isVisible());
+            QVERIFY(driver.frame->statusPane().progressBar().x() >= 170);
             driver.frame->close();
             QVERIFY2(driver.frame->isVisible(), "a busy window stays");
             QVERIFY2(showsText(driver, "Closing when the calculation ends"), "and says what it waits for");
