@@ -35,6 +35,20 @@ std::string textOf(const CLI::ParseError& error, const CLI::App& program, const 
     return word && program.get_subcommands().empty() ? "\"" + first + "\" is no subcommand" : error.what();
 }
 
+/// An option of the form "--name=" without a value; empty when there is none. The library would take the next word for
+/// the value: with an empty variable behind "--out=" that is an input.
+std::string emptyOption(const std::vector<std::string>& args) {
+    for (const std::string& word : args) {
+        if (word == "--") {
+            break;
+        }
+        if (word.starts_with("--") && word.find('=') == word.size() - 1) {
+            return word;
+        }
+    }
+    return {};
+}
+
 int usageFault(Console& console, const CLI::App& program, const std::string& text) {
     console.complain(text);
     std::string command = kBatchName;
@@ -69,6 +83,9 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
     program.require_subcommand(1);
     const std::vector<Subcommand> commands = addSubcommands(program);
     const std::string first = args.empty() ? "" : args.front();
+    if (const std::string option = emptyOption(args); !option.empty()) {
+        return usageFault(console, program, option + " has no value: write it behind the equals sign");
+    }
     try {
         std::reverse(args.begin(), args.end());
         program.parse(std::move(args));
