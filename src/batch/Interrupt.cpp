@@ -6,6 +6,8 @@ namespace vorlan {
 
 namespace {
 
+constexpr int kSignals[] = {SIGINT, SIGTERM};
+
 // A signal handler can reach nothing else.
 volatile std::sig_atomic_t pendingSignal = 0;
 
@@ -16,9 +18,20 @@ extern "C" void noteSignal(int signal) {
 
 }  // namespace
 
-void installInterruptHandler() {
-    std::signal(SIGINT, noteSignal);
-    std::signal(SIGTERM, noteSignal);
+InterruptWatch::InterruptWatch() {
+    for (const int signal : kSignals) {
+        if (std::signal(signal, noteSignal) == SIG_IGN) {
+            std::signal(signal, SIG_IGN);
+        }
+    }
+}
+
+InterruptWatch::~InterruptWatch() {
+    for (const int signal : kSignals) {
+        if (std::signal(signal, SIG_DFL) == SIG_IGN) {
+            std::signal(signal, SIG_IGN);
+        }
+    }
 }
 
 bool interrupted() {

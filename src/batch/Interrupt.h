@@ -2,8 +2,15 @@
 
 namespace vorlan {
 
-/// From now on the first SIGINT or SIGTERM only asks the running calculation to stop; a second one ends the program.
-void installInterruptHandler();
+/// As long as it lives the first SIGINT or SIGTERM only asks the running calculation to stop; a second one ends the
+/// program. A signal that was ignored stays ignored. One at a time.
+class InterruptWatch {
+  public:
+    InterruptWatch();
+    ~InterruptWatch();
+    InterruptWatch(const InterruptWatch&) = delete;
+    InterruptWatch& operator=(const InterruptWatch&) = delete;
+};
 
 /// Whether the user asked the program to stop.
 bool interrupted();

@@ -1,6 +1,7 @@
 #include <map>
 #include <set>
 
+#include "batch/Interrupt.h"
 #include "batch/Jobs.h"
 #include "batch/Options.h"
 #include "batch/RecipeRunner.h"
@@ -120,6 +121,8 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
     // Lines of several workers at once would only be noise on a terminal.
     const ConsolePort::Options options{arguments.noRepeat == 0,
                                        arguments.progress || (console.errIsTerminal && !processes)};
+    // Every other subcommand simply dies of the signal: nothing is written before it is complete.
+    const InterruptWatch watch;
     const auto task = [&](int index, Console& own) {
         const auto i = static_cast<std::size_t>(index);
         runRecipe(recipe, arguments.inputs[i], targets[i], options, own);

@@ -7,7 +7,6 @@
 
 int main(int argc, char** argv) {
     vorlan::keepFreedMemory();
-    vorlan::installInterruptHandler();
     const int status = vorlan::runBatch({argv + 1, argv + argc}, std::cout, std::cerr);
     if (status == static_cast<int>(vorlan::ExitStatus::Interrupted)) {
         vorlan::dieOfInterrupt();

@@ -83,6 +83,15 @@ TEST_F(ProgramTest, AnInterruptLeavesEverythingAsItWas) {
     }
 }
 
+TEST_F(ProgramTest, CommandsThatWriteOneFileEndAtOnceByTheSignal) {
+    EXPECT_EQ(shell("\"$batch\" simulate --out $dir/a.avp --length 1000 --seed 1"), 0);
+    // The table does not fit into the pipe: the program waits in the middle of its work, until somebody reads on.
+    EXPECT_EQ(shell("cd $dir; mkfifo p; exec 3<>p; \"$batch\" export velocities --out - a.avp >p & worker=$!; "
+                    "read -r first <&3; kill -TERM $worker; cat <&3 >/dev/null & reader=$!; wait $worker; status=$?; "
+                    "kill $reader; exit $status"),
+              128 + SIGTERM);
+}
+
 TEST_F(ProgramTest, TheMeasuredRecordGoesThrough) {
     const char* const table = std::getenv("VORLAN_MEASURED_RECORD");
     if (table == nullptr) {
