@@ -25,7 +25,9 @@ QFontMetrics QtTextMeasure::metrics(const FontDescription& font, double share) c
 }
 
 int QtTextMeasure::width(const std::string& text, const FontDescription& font, double share) const {
-    return text.empty() ? 0 : metrics(font, share).horizontalAdvance(QString::fromStdString(text));
+    // Wider than any picture anyway.
+    constexpr std::size_t kLongest = 20000;
+    return text.empty() ? 0 : metrics(font, share).horizontalAdvance(QString::fromStdString(text.substr(0, kLongest)));
 }
 
 int QtTextMeasure::height(const FontDescription& font, double share) const {

@@ -1,8 +1,13 @@
 #include "plot/TextMeasure.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace vorlan {
 
 namespace {
+
+constexpr int kKernedLetters = 3;
 
 bool continuesCharacter(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
@@ -15,17 +20,24 @@ std::string shortened(const std::string& text, const FontDescription& font, int 
     if (measure.width(text, font, share) <= width) {
         return text;
     }
-    const std::string ellipsis = "\u2026";
-    for (std::size_t length = text.size(); length-- > 0;) {
-        if (continuesCharacter(text[length])) {
-            continue;
-        }
-        std::string shorter = text.substr(0, length) + ellipsis;
-        if (measure.width(shorter, font, share) <= width) {
-            return shorter;
+    // A character takes a pixel at least: what lies further behind is not worth a look.
+    const std::size_t most = static_cast<std::size_t>(std::max(width, 0)) + 1;
+    std::vector<std::size_t> lengths;
+    for (std::size_t length = 0; length < text.size() && lengths.size() < most; ++length) {
+        if (!continuesCharacter(text[length])) {
+            lengths.push_back(length);
         }
     }
-    return {};
+    const auto cut = [&](std::size_t length) { return text.substr(0, length) + "\u2026"; };
+    const auto fits = [&](std::size_t length) { return measure.width(cut(length), font, share) <= width; };
+    auto end = std::partition_point(lengths.begin(), lengths.end(), fits);
+    // Two letters can be narrower together than their first one.
+    for (auto next = end; next != lengths.end() && next - end < kKernedLetters; ++next) {
+        if (fits(*next)) {
+            end = next + 1;
+        }
+    }
+    return end == lengths.begin() ? std::string() : cut(*std::prev(end));
 }
 
 }  // namespace vorlan

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "model/Archive.h"
 #include "model/Errors.h"
 #include "plot/FixedMeasure.h"
@@ -59,4 +61,42 @@ TEST(STable, IndexesAndFormatsAreChecked) {
     EXPECT_EQ(table.cell(0, 1), "2.500e+00");
     table.formats[1] = "%s%n";
     EXPECT_EQ(table.cell(0, 1), "2.50");
+}
+
+namespace {
+
+/// Letters of different widths; "f" before "i" is narrower than alone.
+class KernedMeasure : public FixedMeasure {
+  public:
+    int width(const std::string& text, const FontDescription& font, double share) const override {
+        ++calls;
+        int width = FixedMeasure::width(text, font, share);
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            width += text[i] == 'w' ? 5 : text[i] == 'f' && i + 1 < text.size() && text[i + 1] == 'i' ? -7 : 0;
+        }
+        return width;
+    }
+    mutable int calls = 0;
+};
+
+}  // namespace
+
+TEST(Shortened, IsTheLongestBeginningThatFitsFoundWithFewMeasurements) {
+    KernedMeasure measure;
+    const FontDescription font;
+    std::string text;
+    for (int i = 0; i < 400; ++i) {
+        text += std::array{"w", "f", "i", "\u00E4", "fi", "n"}[static_cast<std::size_t>(i * i % 31 % 6)];
+    }
+    for (int width = -1; width < 3000; width += 7) {
+        std::string expected = text;
+        for (std::size_t length = text.size(); measure.width(expected, font, 1.0) > width && length-- > 0;) {
+            expected = (text[length] & 0xC0) == 0x80 ? expected : text.substr(0, length) + "\u2026";
+        }
+        expected = measure.width(expected, font, 1.0) > width ? "" : expected;
+        EXPECT_EQ(shortened(text, font, width, measure), expected) << width;
+    }
+    measure.calls = 0;
+    EXPECT_FALSE(shortened(std::string(100000, 'n'), font, 600, measure).empty());
+    EXPECT_LT(measure.calls, 20);
 }

@@ -2,6 +2,12 @@
 
 namespace vorlan {
 
+namespace {
+// There are fewer stages; a damaged file can hold any number of tabs, with texts of any length.
+constexpr qsizetype kMostTabs = 64;
+constexpr qsizetype kLongestText = 128;
+}  // namespace
+
 StageTabs::StageTabs(QWidget* parent) : QTabBar(parent) {
     setObjectName(QStringLiteral("StageTabs"));
     setAccessibleName(QStringLiteral("Stages"));
@@ -24,7 +30,9 @@ void StageTabs::refresh(const CVorl_ADVDoc& document) {
     QStringList texts;
     if (document.HasProbe()) {
         for (const TabItem& item : document.Probe().tabItems) {
-            texts.append(QString::fromStdString(item.text));
+            if (texts.size() < kMostTabs) {
+                texts.append(QString::fromStdString(item.text.substr(0, kLongestText)));
+            }
         }
     }
     QStringList shown;
