@@ -121,14 +121,15 @@ Subcommand addImportCommand(CLI::App& program) {
                 requireReplaceable(options->out);
                 SilentPort port;
                 CVorl_ADVDoc document(port);
+                std::optional<WorkspaceUpdate> update;
                 if (options->append) {
-                    openDocument(document, options->out);
+                    update.emplace(document, options->out, console);
                 }
                 for (SAdvFile& file : readFiles(*options, console)) {
                     document.AppendFile(std::move(file));
                 }
                 document.SelectProbe(0);
-                saveDocument(document, options->out);
+                update ? update->save() : saveDocument(document, options->out);
                 return ExitStatus::Done;
             }};
 }

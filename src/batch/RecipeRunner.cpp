@@ -76,10 +76,17 @@ class Runner {
     }
 
     void run(const std::filesystem::path& target) {
-        openDocument(document_, input_);
+        if (!target.empty() && identityOf(target) == identityOf(input_)) {
+            update_.emplace(document_, input_, console_);
+        } else {
+            openDocument(document_, input_);
+        }
         applySteps(target);
         if (interrupted()) {
             throw BatchError(ExitStatus::Interrupted, input_.string() + ": interrupted");
+        }
+        if (update_) {
+            update_->requireUnchanged();
         }
         outputs_.commit(console_);
         if (!target.empty()) {
@@ -137,7 +144,7 @@ class Runner {
 
     void writeWorkspace(const std::filesystem::path& target) {
         if (!recipe_.steps.empty()) {
-            saveDocument(document_, target);
+            update_ ? update_->save() : saveDocument(document_, target);
             return;
         }
         try {
@@ -153,6 +160,7 @@ class Runner {
     Console& console_;
     ConsolePort port_;
     CVorl_ADVDoc document_;
+    std::optional<WorkspaceUpdate> update_;
     PendingOutputs outputs_;
     Renderer renderer_;
 };

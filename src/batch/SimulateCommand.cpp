@@ -140,18 +140,19 @@ Subcommand addSimulateCommand(CLI::App& program) {
         ->type_name("N");
 
     const CLI::Option* noise = app->get_option("--noise-variance");
-    return {app, [options, compass, noise](Console&) {
+    return {app, [options, compass, noise](Console& console) {
                 options->parameters.compass = compass->count() > 0;
                 requireReplaceable(options->out);
                 SilentPort port;
                 CVorl_ADVDoc document(port);
+                std::optional<WorkspaceUpdate> update;
                 if (options->append) {
-                    openDocument(document, options->out);
+                    update.emplace(document, options->out, console);
                 }
                 document.SimulateTimeSeries(parametersOf(*options, noise->count() > 0), seedOf(*options));
                 // The window then opens on the record.
                 document.SelectProbe(0);
-                saveDocument(document, options->out);
+                update ? update->save() : saveDocument(document, options->out);
                 return ExitStatus::Done;
             }};
 }

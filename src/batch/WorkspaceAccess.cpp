@@ -1,6 +1,10 @@
 #include "batch/WorkspaceAccess.h"
 
+#include <chrono>
+#include <thread>
+
 #include "batch/BatchError.h"
+#include "batch/Interrupt.h"
 #include "io/WorkspaceFile.h"
 
 namespace vorlan {
@@ -31,6 +35,32 @@ void saveDocument(CVorl_ADVDoc& document, const std::filesystem::path& path) {
     } catch (const FileError& error) {
         throw unwritable(textOf(error));
     }
+}
+
+WorkspaceUpdate::WorkspaceUpdate(CVorl_ADVDoc& document, std::filesystem::path path, Console& console)
+    : document_(document), path_(std::move(path)), lock_(path_) {
+    constexpr std::chrono::milliseconds kPause{20};
+    for (bool said = false; !lock_.take(); std::this_thread::sleep_for(kPause)) {
+        if (interrupted()) {
+            throw BatchError(ExitStatus::Interrupted, path_.string() + ": interrupted");
+        }
+        if (!said) {
+            console.complain(path_.string() + ": waiting for another run that changes it");
+            said = true;
+        }
+    }
+    openDocument(document_, path_);
+}
+
+void WorkspaceUpdate::requireUnchanged() const {
+    if (document_.IsChangedOnDisk()) {
+        throw unwritable(path_.string() + ": another program has written it meanwhile; it was left as it is");
+    }
+}
+
+void WorkspaceUpdate::save() {
+    requireUnchanged();
+    saveDocument(document_, path_);
 }
 
 std::string describe(const ProbePlace& place) {

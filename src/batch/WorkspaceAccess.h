@@ -4,7 +4,9 @@
 #include <string>
 
 #include "app/CVorl_ADVDoc.h"
+#include "batch/Console.h"
 #include "io/FileError.h"
+#include "io/FileLock.h"
 
 namespace vorlan {
 
@@ -15,6 +17,24 @@ void openDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
 void requireReplaceable(const std::filesystem::path& path);
 /// Saves it; BatchError Unwritable, the file at path is then what it was.
 void saveDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
+
+/// A workspace that is opened, changed and saved over itself. Runs of this program that do so at the same time wait for
+/// each other; when any other program has written the file meanwhile, it is not saved over.
+class WorkspaceUpdate {
+  public:
+    /// Waits for its turn, then opens the workspace in the document. BatchError Unreadable, or Interrupted while it
+    /// waits.
+    WorkspaceUpdate(CVorl_ADVDoc& document, std::filesystem::path path, Console& console);
+    /// BatchError Unwritable when another program has written the file.
+    void requireUnchanged() const;
+    /// BatchError Unwritable, the file is then what it was.
+    void save();
+
+  private:
+    CVorl_ADVDoc& document_;
+    std::filesystem::path path_;
+    FileLock lock_;
+};
 
 /// The error's text, with the file's name in front where it does not hold it.
 std::string textOf(const FileError& error);

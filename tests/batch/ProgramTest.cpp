@@ -3,7 +3,9 @@
 
 #include <csignal>
 
+#include "batch/BatchError.h"
 #include "batch/BatchTest.h"
+#include "batch/WorkspaceAccess.h"
 
 namespace vorlan {
 
@@ -90,6 +92,23 @@ TEST_F(ProgramTest, CommandsThatWriteOneFileEndAtOnceByTheSignal) {
                     "read -r first <&3; kill -TERM $worker; cat <&3 >/dev/null & reader=$!; wait $worker; status=$?; "
                     "kill $reader; exit $status"),
               128 + SIGTERM);
+}
+
+TEST_F(ProgramTest, RunsThatChangeOneWorkspaceAtTheSameTimeLoseNothing) {
+    EXPECT_EQ(shell("cd $dir; \"$batch\" simulate --out a.avp --length 100 --seed 1; s=0; w=; "
+                    "for i in 1 2 3 4 5 6 7 8; do \"$batch\" simulate --append --out a.avp --length 4 2>/dev/null & "
+                    "w=\"$w $!\"; done; for i in $w; do wait $i || s=$?; done; exit $s"),
+              0);
+    EXPECT_EQ(openWorkspace(path("a.avp")).dataFiles.files.GetSize(), 9);
+    // What any other program has written is not saved over.
+    SilentPort port;
+    CVorl_ADVDoc document(port);
+    std::ostringstream messages;
+    Console console{messages, messages, false};
+    WorkspaceUpdate update(document, path("a.avp"), console);
+    write("a.avp", "new");
+    EXPECT_THROW(update.save(), BatchError);
+    EXPECT_EQ(read(path("a.avp")), "new");
 }
 
 TEST_F(ProgramTest, TheMeasuredRecordGoesThrough) {
