@@ -1,6 +1,11 @@
 #include "batch/Recipe.h"
 
+// What the library asserts it also answers with an error; without an assertion it does so in every build.
+#pragma push_macro("NDEBUG")
+#undef NDEBUG
+#define TOML_ASSERT(condition) static_cast<void>(0)
 #include <toml++/toml.h>
+#pragma pop_macro("NDEBUG")
 
 #include <algorithm>
 #include <cmath>
@@ -8,6 +13,7 @@
 #include <set>
 
 #include "batch/BatchError.h"
+#include "batch/RecipeText.h"
 #include "io/ReadFile.h"
 #include "model/Text.h"
 
@@ -256,6 +262,10 @@ bool Recipe::writesFiles() const {
 Recipe parseRecipe(std::string_view text, const std::filesystem::path& path) {
     Faults faults;
     Recipe recipe;
+    if (const std::optional<RecipeTextFault> fault = faultOfRecipeText(text)) {
+        faults.add(fault->line, fault->text);
+        faults.throwIfAny(path);
+    }
     try {
         const toml::table table = toml::parse(text);
         for (const auto& [key, node] : table) {

@@ -1,0 +1,88 @@
+#include "batch/RecipeText.h"
+
+#include <algorithm>
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::size_t kMostBytes = 1 << 20;
+constexpr int kMostKeyParts = 16;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// Walks over a text outside its strings and comments.
+class Scanner {
+  public:
+    explicit Scanner(std::string_view text) : text_(text) {}
+
+    std::optional<RecipeTextFault> scan() {
+        int points = 0;
+        while (at_ < text_.size()) {
+            const char c = text_[at_];
+            if (c == '"' || c == '\'') {
+                skipString(c);
+                continue;
+            }
+            if (c == '#') {
+                at_ = std::min(text_.find('\n', at_), text_.size());
+                continue;
+            }
+            if (static_cast<unsigned char>(c) >= 0x80) {
+                return RecipeTextFault{line_, "letters outside ASCII must stand in quotes"};
+            }
+            if (std::string_view("\n=,[]{}").find(c) != std::string_view::npos) {
+                points = 0;
+            } else if (c == '.' && ++points >= kMostKeyParts) {
+                return RecipeTextFault{line_, "a key has at most " + std::to_string(kMostKeyParts) + " parts"};
+            }
+            line_ += c == '\n' ? 1 : 0;
+            ++at_;
+        }
+        return std::nullopt;
+    }
+
+  private:
+    /// Ends behind the string; at the end of its line when it is left open, which the library refuses.
+    void skipString(char quote) {
+        const std::string triple(3, quote);
+        const bool isBlock = text_.substr(at_).starts_with(triple);
+        at_ += isBlock ? 3 : 1;
+        for (; at_ < text_.size(); ++at_) {
+            const char c = text_[at_];
+            if (c == '\n' && !isBlock) {
+                return;
+            }
+            line_ += c == '\n' ? 1 : 0;
+            if (c == quote && !isBlock) {
+                ++at_;
+                return;
+            }
+            if (c == quote && text_.substr(at_).starts_with(triple)) {
+                // Two more quotes in front of the closing ones belong to the text.
+                at_ = std::min(text_.find_first_not_of(quote, at_), std::min(at_ + 5, text_.size()));
+                return;
+            }
+            if (c == '\\' && quote == '"' && at_ + 1 < text_.size() && text_[at_ + 1] != '\n') {
+                ++at_;
+            }
+        }
+    }
+
+    std::string_view text_;
+    std::size_t at_ = 0;
+    int line_ = 1;
+};
+
+}  // namespace
+
+std::optional<RecipeTextFault> faultOfRecipeText(std::string_view text) {
+    if (text.size() > kMostBytes) {
+        return RecipeTextFault{1, "a recipe has at most " + std::to_string(kMostBytes) + " bytes"};
+    }
+    if (text.starts_with(kByteOrderMark)) {
+        text.remove_prefix(kByteOrderMark.size());
+    }
+    return Scanner(text).scan();
+}
+
+}  // namespace vorlan

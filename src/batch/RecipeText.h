@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vorlan {
+
+struct RecipeTextFault {
+    int line;  ///< from 1
+    std::string text;
+};
+
+/// What the TOML library must not be given: more than a megabyte, keys of more than 16 parts (it descends into each),
+/// and letters outside ASCII where no string or comment holds them. Nothing when the text can be parsed.
+std::optional<RecipeTextFault> faultOfRecipeText(std::string_view text);
+
+}  // namespace vorlan
