@@ -6,10 +6,12 @@ namespace vorlan {
 
 void Console::complain(const std::string& text) {
     std::istringstream lines(text);
+    std::string whole;
     for (std::string line; std::getline(lines, line);) {
-        err << kBatchName << ": " << line << '\n';
+        whole.append(kBatchName).append(": ").append(line).append("\n");
     }
-    err.flush();
+    // At once: a terminal's stream writes every piece by itself.
+    err << whole << std::flush;
 }
 
 }  // namespace vorlan

@@ -1,6 +1,8 @@
 #include "batch/Outputs.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 #include "batch/BatchError.h"
 #include "io/AtomicFile.h"
@@ -14,11 +16,24 @@ constexpr std::string_view kWorkspaceHolder = "{workspace}";
 constexpr std::string_view kFileHolder = "{file}";
 constexpr std::string_view kProbeHolder = "{probe}";
 
-std::string replaced(std::string text, std::string_view holder, const std::string& value) {
-    for (std::size_t at = text.find(holder); at != std::string::npos; at = text.find(holder, at + value.size())) {
-        text.replace(at, holder.size(), value);
+/// The text with values in the place of their holders. What stands in a value is no holder.
+std::string filled(std::string_view text, std::span<const std::pair<std::string_view, std::string>> holders) {
+    std::string result;
+    while (!text.empty()) {
+        const std::size_t plain = std::min(text.find('{'), text.size());
+        result += text.substr(0, plain);
+        text.remove_prefix(plain);
+        const auto holder = std::find_if(holders.begin(), holders.end(),
+                                         [&](const auto& known) { return text.starts_with(known.first); });
+        if (holder != holders.end()) {
+            result += holder->second;
+            text.remove_prefix(holder->first.size());
+        } else if (!text.empty()) {
+            result += text.front();
+            text.remove_prefix(1);
+        }
     }
-    return text;
+    return result;
 }
 
 }  // namespace
@@ -89,14 +104,15 @@ std::string OutputPattern::faultOf(const std::string& text) {
 }
 
 std::string OutputPattern::expand(const std::filesystem::path& workspace, const ProbePlace& place) const {
-    // The name comes last: what stands in it is no placeholder.
-    const std::string numbered = replaced(replaced(text_, kFileHolder, std::to_string(place.file + 1)), kProbeHolder,
-                                          std::to_string(place.probe + 1));
-    return replaced(numbered, kWorkspaceHolder, workspace.stem().string());
+    const std::pair<std::string_view, std::string> holders[] = {{kWorkspaceHolder, workspace.stem().string()},
+                                                                {kFileHolder, std::to_string(place.file + 1)},
+                                                                {kProbeHolder, std::to_string(place.probe + 1)}};
+    return filled(text_, holders);
 }
 
 std::string OutputPattern::expandWorkspace(const std::filesystem::path& workspace) const {
-    return replaced(text_, kWorkspaceHolder, workspace.stem().string());
+    const std::pair<std::string_view, std::string> holders[] = {{kWorkspaceHolder, workspace.stem().string()}};
+    return filled(text_, holders);
 }
 
 }  // namespace vorlan

@@ -27,7 +27,7 @@ TEST(Recipe, StepsTakeTheirDefaults) {
 TEST(OutputPattern, PlaceholdersStandForNameFileAndProbe) {
     const OutputPattern pattern("out/{workspace}-{file}-{probe}{probe}.dat");
     EXPECT_EQ(pattern.expand("in/{probe}.x.avp", {0, 11}), "out/{probe}.x-1-1212.dat");
-    EXPECT_EQ(pattern.expandWorkspace("a.avp"), "out/a-{file}-{probe}{probe}.dat");
+    EXPECT_EQ(pattern.expandWorkspace("{file}.avp"), "out/{file}-{file}-{probe}{probe}.dat");
 }
 
 TEST(Text, IsUtf8OrElseWindows1252) {
