@@ -3,9 +3,11 @@
 #include "analysis/ImportedProbe.h"
 #include "batch/Options.h"
 #include "batch/Outputs.h"
+#include "batch/RecipeKeys.h"
 #include "batch/Subcommands.h"
 #include "batch/TextValues.h"
 #include "io/DelimitedTable.h"
+#include "io/TableText.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -25,12 +27,27 @@ struct ImportOptions {
 
 const Range kAboveZero{std::nextafter(0.0, 1.0), 1e300};
 
+void tellUnused(const std::string& path, const std::vector<std::string>& columns, Console& console) {
+    constexpr std::size_t kMostNamed = 10;
+    if (columns.empty()) {
+        return;
+    }
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < std::min(columns.size(), kMostNamed); ++i) {
+        names.push_back(shownField(utf8Text(columns[i])));
+    }
+    if (columns.size() > kMostNamed) {
+        names.push_back(std::to_string(columns.size() - kMostNamed) + " more");
+    }
+    console.complain(
+        path + (columns.size() == 1 ? ": column " + names[0] + " is" : ": columns " + listed(names, "and") + " are") +
+        " not used");
+}
+
 SAdvProbe readProbe(const std::string& path, const ImportOptions& options, std::uint32_t number, Console& console) {
     try {
         const DelimitedTable table = readDelimitedTable(path, options.table);
-        for (const std::string& column : table.unused) {
-            console.complain(path + ": column \"" + utf8Text(column) + "\" is not used");
-        }
+        tellUnused(path, table.unused, console);
         ImportSettings settings = options.settings;
         settings.probeNumber = number;
         return importedProbe(table.record, settings);

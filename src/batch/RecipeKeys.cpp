@@ -108,10 +108,10 @@ KeyRule required(KeyRule key) {
     return key;
 }
 
-std::string listed(const std::vector<std::string>& choices) {
+std::string listed(const std::vector<std::string>& choices, const std::string& last) {
     std::string text;
     for (std::size_t i = 0; i < choices.size(); ++i) {
-        text += i == 0 ? "" : i + 1 == choices.size() ? " or " : ", ";
+        text += i == 0 ? std::string() : i + 1 == choices.size() ? " " + last + " " : ", ";
         text += choices[i];
     }
     return text;

@@ -42,6 +42,9 @@ std::size_t columnNamed(std::string_view name) {
 
 // A header may name columns that no probe takes; a list that somebody wrote for this purpose may not.
 Fault lay(const std::vector<std::string_view>& names, bool unknownAllowed, Layout& layout) {
+    if (names.size() > TableLines::kMostFields) {
+        return {TableLines::kMostFields + 1, formatted("more than %zu columns", TableLines::kMostFields)};
+    }
     std::array<bool, RecordColumns::kColumns> present{};
     for (std::size_t i = 0; i < names.size(); ++i) {
         const std::size_t target = columnNamed(names[i]);
@@ -80,7 +83,7 @@ Fault layList(const std::string& list, Layout& layout) {
 enum class Reading { Number, Missing, NotFinite, OutOfRange, NoNumber };
 
 Reading readNumber(std::string_view field, double& value) {
-    if (field.empty()) {
+    if (field.empty() || isSpreadsheetError(field)) {
         return Reading::Missing;
     }
     const std::errc error = parseNumber(field, value);

@@ -1,5 +1,10 @@
 #include "io/TableText.h"
 
+#include <algorithm>
+#include <array>
+
+#include "model/Text.h"
+
 namespace vorlan {
 
 namespace {
@@ -23,7 +28,27 @@ std::string_view unquoted(std::string_view field) {
     return field;
 }
 
+constexpr std::array<std::string_view, 7> kSpreadsheetErrors = {"#N/A",  "#DIV/0!", "#VALUE!", "#NUM!",
+                                                                "#REF!", "#NAME?",  "#NULL!"};
+constexpr std::string_view kFieldEnds = ",;\t \"";
+
+/// Where the comment of a line begins; npos without one.
+std::size_t commentIn(std::string_view line) {
+    for (std::size_t at = line.find('#'); at != std::string_view::npos; at = line.find('#', at + 1)) {
+        const bool first = at == 0 || kFieldEnds.find(line[at - 1]) != std::string_view::npos;
+        const std::size_t end = std::min(line.find_first_of(kFieldEnds, at), line.size());
+        if (!first || !isSpreadsheetError(line.substr(at, end - at))) {
+            return at;
+        }
+    }
+    return std::string_view::npos;
+}
+
 }  // namespace
+
+bool isSpreadsheetError(std::string_view field) {
+    return std::find(kSpreadsheetErrors.begin(), kSpreadsheetErrors.end(), field) != kSpreadsheetErrors.end();
+}
 
 TableLines::TableLines(std::string_view text) : rest_(text) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -42,7 +67,7 @@ bool TableLines::next() {
             rest_.remove_prefix(rest_.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
         }
         ++number_;
-        line_ = line_.substr(0, line_.find('#'));
+        line_ = line_.substr(0, commentIn(line_));
         const std::string_view blanks = separator_ == '\t' ? " " : kBlanks;
         if (line_.find_first_not_of(blanks) != std::string_view::npos) {
             return true;
@@ -65,30 +90,27 @@ void TableLines::detectSeparator() {
 const std::vector<std::string_view>& TableLines::fields() {
     fields_.clear();
     if (separator_ == ' ') {
-        for (std::size_t at = 0; (at = line_.find_first_not_of(kBlanks, at)) != std::string_view::npos;) {
-            const std::size_t end = line_.find_first_of(kBlanks, at);
+        for (std::size_t at = 0;
+             fields_.size() <= kMostFields && (at = line_.find_first_not_of(kBlanks, at)) != std::string_view::npos;) {
+            const std::size_t end = std::min(line_.find_first_of(kBlanks, at), line_.size());
             fields_.push_back(unquoted(line_.substr(at, end - at)));
             at = end;
         }
         return fields_;
     }
-    for (std::size_t at = 0;;) {
+    for (std::size_t at = 0; fields_.size() <= kMostFields;) {
         const std::size_t end = line_.find(separator_, at);
         fields_.push_back(unquoted(line_.substr(at, end - at)));
         if (end == std::string_view::npos) {
-            return fields_;
+            break;
         }
         at = end + 1;
     }
+    return fields_;
 }
 
 std::string shownField(std::string_view field) {
-    std::string shown = "\"";
-    for (const char c : field.substr(0, kLongestShown)) {
-        shown += static_cast<unsigned char>(c) < 0x20 || c == 0x7F ? '?' : c;
-    }
-    shown += field.size() > kLongestShown ? "...\"" : "\"";
-    return shown;
+    return "\"" + printable(field.substr(0, kLongestShown)) + (field.size() > kLongestShown ? "...\"" : "\"");
 }
 
 }  // namespace vorlan

@@ -7,7 +7,8 @@
 
 namespace vorlan {
 
-/// The lines of a text that hold something: without byte order mark, line ends (LF, CRLF or CR) and "#" comments.
+/// The lines of a text that hold something: without byte order mark, line ends (LF, CRLF or CR) and "#" comments. A
+/// field that a spreadsheet has filled with an error ("#N/A") begins no comment.
 class TableLines {
   public:
     explicit TableLines(std::string_view text);
@@ -20,8 +21,10 @@ class TableLines {
 
     /// Semicolon, comma, tab or blank, as the current line has them.
     void detectSeparator();
-    /// The fields of the current line, without blanks and quotes around them. Runs of blanks separate once.
+    /// The fields of the current line, without blanks and quotes around them. Runs of blanks separate once. At most one
+    /// more than kMostFields: a line of separators costs no multiple of its length.
     const std::vector<std::string_view>& fields();
+    static constexpr std::size_t kMostFields = 4096;
 
   private:
     std::string_view rest_;
@@ -30,6 +33,9 @@ class TableLines {
     char separator_ = ' ';
     std::vector<std::string_view> fields_;
 };
+
+/// Whether a spreadsheet has written the field where a value is missing or wrong: "#N/A", "#DIV/0!" and the like.
+bool isSpreadsheetError(std::string_view field);
 
 /// A field as messages show it: in quotes, without control characters, at most 40 bytes.
 std::string shownField(std::string_view field);
