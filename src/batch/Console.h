@@ -13,7 +13,8 @@ struct Console {
     std::ostream& err;
     bool errIsTerminal = false;
 
-    /// "vorlan-batch: text" on err, for every line of the text.
+    /// "vorlan-batch: text" on err, for every line of the text. A name in it can hold anything: control characters are
+    /// shown as question marks.
     void complain(const std::string& text);
 };
 

@@ -6,6 +6,7 @@
 #include "batch/BatchError.h"
 #include "batch/Interrupt.h"
 #include "io/ReadFile.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -72,7 +73,7 @@ class Runner {
     Runner(const Recipe& recipe, const std::filesystem::path& input, const ConsolePort::Options& options,
            Console& console)
         : recipe_(recipe), input_(input), console_(console), port_(console, options), document_(port_) {
-        port_.setContext(input.string());
+        port_.setContext(printable(input.string()));
     }
 
     void run(const std::filesystem::path& target) {
@@ -120,8 +121,8 @@ class Runner {
     }
 
     void apply(const RecipeStep& step, std::size_t number, const ProbePlace& place) {
-        port_.setContext(input_.string() + ": " + describe(place) + ", step " + std::to_string(number) + " (" +
-                         step.kind->name + ")");
+        port_.setContext(printable(input_.string()) + ": " + describe(place) + ", step " + std::to_string(number) +
+                         " (" + step.kind->name + ")");
         StepContext context{document_, port_, outputs_, renderer_, input_, place};
         Outcome outcome = Outcome::Done;
         try {

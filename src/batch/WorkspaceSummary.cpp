@@ -56,6 +56,24 @@ Json probeAsJson(const SAdvProbe& probe) {
     return json;
 }
 
+/// A name from a file can hold anything, codes that a terminal obeys included.
+std::string shownName(const std::string& bytes) {
+    return printable(utf8Text(bytes));
+}
+
+/// The library leaves U+007F to U+009F as they are; escaped they say the same and no terminal obeys them.
+std::string escaped(const std::string& json) {
+    std::string text;
+    for (std::size_t i = 0; i < json.size(); ++i) {
+        const auto code = static_cast<unsigned char>(json[i]);
+        const auto next = static_cast<unsigned char>(i + 1 < json.size() ? json[i + 1] : 0);
+        const bool high = code == 0xC2 && next >= 0x80 && next < 0xA0;
+        text += code == 0x7F ? "\\u007f" : high ? formatted("\\u%04x", next) : std::string(1, json[i]);
+        i += high ? 1 : 0;
+    }
+    return text;
+}
+
 std::string plural(int count, const std::string& thing) {
     return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
@@ -121,7 +139,7 @@ std::string probeAsText(const SAdvProbe& probe, const WorkspaceSettings& setting
     std::string text = "  " + probeListText(probe) + ": " + plural(samples, "sample") +
                        formatted(" at %g s (%g s)", probe.samplingInterval, samples * probe.samplingInterval) + "\n";
     if (!probe.title.empty()) {
-        text += "    " + utf8Text(probe.title) + "\n";
+        text += "    " + shownName(probe.title) + "\n";
     }
     text += "    Working record: " + plural(working, "sample") + ", " + std::to_string(validSamples(probe)) + " valid" +
             (probe.UsesAllSamples() ? "" : "; only those are used") + "\n";
@@ -159,19 +177,19 @@ std::string summaryAsJson(const Workspace& workspace, const std::string& version
         }
         json["files"].push_back({{"name", utf8Text(file.fileName)}, {"probes", std::move(probes)}});
     }
-    return json.dump(2) + "\n";
+    return escaped(json.dump(2)) + "\n";
 }
 
 std::string summaryAsText(const Workspace& workspace, const std::string& version, const std::string& name) {
     std::string text =
-        name + ": " + utf8Text(version) + ", " + plural(workspace.dataFiles.files.GetSize(), "data file");
+        printable(name) + ": " + shownName(version) + ", " + plural(workspace.dataFiles.files.GetSize(), "data file");
     if (!workspace.boundaries.IsEmpty()) {
         text += ", " + plural(workspace.boundaries.GetSize(), "boundary file");
     }
     text += "\n";
     int number = 0;
     for (const SAdvFile& file : workspace.dataFiles.files) {
-        text += "\nData file " + std::to_string(++number) + ": " + utf8Text(file.fileName) + "\n";
+        text += "\nData file " + std::to_string(++number) + ": " + shownName(file.fileName) + "\n";
         for (const SAdvProbe& probe : file.probes) {
             text += probeAsText(probe, workspace.settings);
         }

@@ -8,6 +8,15 @@
 
 namespace vorlan {
 
+namespace {
+
+// A name from a file can hold characters that no picture file may.
+QString shownText(const std::string& text) {
+    return QString::fromStdString(printable(text));
+}
+
+}  // namespace
+
 QFont qtFont(const FontDescription& font, double scale) {
     QFont result(QString::fromStdString(utf8Text(font.face())));
     result.setStyleHint(QFont::SansSerif);
@@ -27,7 +36,7 @@ QFontMetrics QtTextMeasure::metrics(const FontDescription& font, double share) c
 int QtTextMeasure::width(const std::string& text, const FontDescription& font, double share) const {
     // Wider than any picture anyway.
     constexpr std::size_t kLongest = 20000;
-    return text.empty() ? 0 : metrics(font, share).horizontalAdvance(QString::fromStdString(text.substr(0, kLongest)));
+    return text.empty() ? 0 : metrics(font, share).horizontalAdvance(shownText(text.substr(0, kLongest)));
 }
 
 int QtTextMeasure::height(const FontDescription& font, double share) const {
@@ -41,7 +50,7 @@ int QtTextMeasure::ascent(const FontDescription& font, double share) const {
 void drawTexts(QPainter& painter, std::span<const PlacedText> texts, const TextMeasure& measure, double fontScale) {
     for (const PlacedText& placed : texts) {
         painter.setFont(qtFont(placed.font, fontScale * placed.share));
-        const QString text = QString::fromStdString(placed.text);
+        const QString text = shownText(placed.text);
         const int ascent = measure.ascent(placed.font, placed.share);
         if (placed.upward) {
             painter.save();
