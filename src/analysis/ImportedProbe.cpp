@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "analysis/Simulation.h"
-
 namespace vorlan {
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "analysis/Simulation.h"
 #include "model/RecordColumns.h"
 #include "model/SAdvProbe.h"
 
@@ -10,6 +11,12 @@ namespace vorlan {
 /// Scores of a record that comes without them.
 inline constexpr double kAbsentCorrelation = 100.0;   ///< per cent
 inline constexpr double kAbsentSignalToNoise = 30.0;  ///< dB
+
+/// What makes sense of a record, both ends included.
+namespace import_range {
+inline constexpr Range kInterval{1e-6, 1e6};
+inline constexpr Range kResolution{1e-9, 1e3};
+}  // namespace import_range
 
 struct ImportSettings {
     double samplingInterval = 0.0;     ///< s

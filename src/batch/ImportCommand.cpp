@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include "analysis/ImportedProbe.h"
 #include "batch/Options.h"
 #include "batch/Outputs.h"
@@ -24,8 +22,6 @@ struct ImportOptions {
     int missing = 0;  ///< 0 error, 1 mark
     std::vector<std::string> tables;
 };
-
-const Range kAboveZero{std::nextafter(0.0, 1.0), 1e300};
 
 void tellUnused(const std::string& path, const std::vector<std::string>& columns, Console& console) {
     constexpr std::size_t kMostNamed = 10;
@@ -96,8 +92,8 @@ void addTableOptions(CLI::App& app, ImportOptions& options) {
            "Names of the columns with commas between them, - for one to skip:\nu,v,w (required), cor1,cor2,cor3, "
            "snr1,snr2,snr3,\nheading,pitch,roll, pressure; without it the first line names them")
         ->type_name("LIST");
-    addReal(app, "--resolution", options.settings.resolution, kAboveZero, "R",
-            "Step in which velocities are stored, cm/s; everything else takes 0.001")
+    addReal(app, "--resolution", options.settings.resolution, import_range::kResolution, "R",
+            "Step in which velocities are stored, cm/s (1e-9 to 1000); everything\nelse takes 0.001")
         ->default_str(shown(options.settings.resolution));
     addChoice(app, "--missing", options.missing, {"error", "mark"},
               "An empty or NaN velocity is an error, or (mark) its sample gets\nmark 0 and the straight line between "
@@ -113,14 +109,14 @@ Subcommand addImportCommand(CLI::App& program) {
     const auto options = std::make_shared<ImportOptions>();
     addWorkspaceOutput(*app, options->out, "The workspace to write")->required();
     app->add_flag("--append", options->append, "Add the records to that workspace as further data files");
-    addReal(*app, "--interval", options->settings.samplingInterval, kAboveZero, "S", "Sampling interval, s")
+    addReal(*app, "--interval", options->settings.samplingInterval, import_range::kInterval, "S",
+            "Sampling interval, s (1e-6 to 1e6)")
         ->required();
     addTableOptions(*app, *options);
     app->add_option("--name", options->name,
                     "Name of the data file; the table's without folder and extension\nunless given")
         ->type_name("TEXT");
-    addTriple(*app, "--position", options->settings.position, kAnyNumbers, "X,Y,Z",
-              "Position of the sampling volume, m")
+    addTriple(*app, "--position", options->settings.position, kPositions, "X,Y,Z", "Position of the sampling volume, m")
         ->default_str("0,0,0");
     app->add_flag("--as-probes", options->asProbes, "Make all tables probes 1, 2, ... of one data file");
     app->add_option(

@@ -36,8 +36,9 @@ std::string choicesHelp(const std::string& what, const std::vector<std::string>&
 /// "--file N" and "--probe N", numbers from 1.
 void addPlace(CLI::App& app, ProbePlace& place);
 
-inline constexpr Range kAnyNumber{-1e300, 1e300};
-inline constexpr Ranges kAnyNumbers{kAnyNumber, kAnyNumber, kAnyNumber};
+/// Of a sampling volume, m.
+inline constexpr Range kPosition{-1e6, 1e6};
+inline constexpr Ranges kPositions{kPosition, kPosition, kPosition};
 
 /// "0.04", as help texts and messages show numbers.
 std::string shown(double value);

@@ -82,8 +82,9 @@ void addVelocityOptions(CLI::App& app, SimulateOptions& options) {
     constexpr Ranges kVelocities{limits::kVelocity, limits::kVelocity, limits::kVelocity};
     addTriple(app, "--mean", options.mean, kVelocities, "U,V,W", "Mean velocities, cm/s (-200 to 200)")
         ->default_str("50,5,0");
-    CLI::Option* variance = addTriple(app, "--noise-variance", options.noiseVariance, kAnyNumbers, "U,V,W",
-                                      "White noise; each number is used as the standard deviation, cm/s");
+    CLI::Option* variance =
+        addTriple(app, "--noise-variance", options.noiseVariance, {limits::kNoise, limits::kNoise, limits::kNoise},
+                  "U,V,W", "White noise; each number is used as the standard deviation, cm/s");
     addTriple(app, "--noise-mean", options.noiseMean, kVelocities, "U,V,W", "Mean of the noise, cm/s (-200 to 200)")
         ->needs(variance)
         ->default_str("0,0,0");
@@ -125,7 +126,7 @@ Subcommand addSimulateCommand(CLI::App& program) {
         addTriple(*app, "--compass", options->compass, {limits::kHeading, limits::kTilt, limits::kTilt},
                   "HEADING,PITCH,ROLL", "Compass and tilt, degrees (0 to 360, -30 to 30, -30 to 30); none\nwithout it");
     addVelocityOptions(*app, *options);
-    addTriple(*app, "--position", p.position, kAnyNumbers, "X,Y,Z", "Position of the sampling volume, m")
+    addTriple(*app, "--position", p.position, kPositions, "X,Y,Z", "Position of the sampling volume, m")
         ->default_str("0,0,0");
     app->add_option_function<std::string>(
            "--seed",
