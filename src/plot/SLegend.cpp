@@ -70,7 +70,9 @@ class Composer {
         const SeriesAtrType& attributes = series.attributes;
         double sample = kSampleLength;
         if (attributes.style == SeriesStyle::Arrows && series.legendArrow > 0.0) {
-            sample = std::min(series.legendArrow * attributes.arrowScale, maxWidth_ / (2.0 * scale_));
+            // A file can hold any length of the arrows, and any sign.
+            const double wanted = series.legendArrow * attributes.arrowScale;
+            sample = wanted > 0.0 ? std::min(wanted, std::max(maxWidth_ / (2.0 * scale_), 0.0)) : 0.0;
         }
         const int sampleLength = static_cast<int>(std::lround(sample * scale_));
         const int wanted = sampleLength + scaled(kSampleGap) + measure_.width(attributes.legendText, font_);
