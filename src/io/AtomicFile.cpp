@@ -1,6 +1,7 @@
 #include "io/AtomicFile.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 
 #include <array>
@@ -42,6 +43,22 @@ std::string temporaryName() {
                   static_cast<unsigned long>(now.tv_nsec), counter.fetch_add(1));
     return name.data();
 }
+
+/// While it lives the thread is not interrupted by a signal that would end the program; SIGKILL is no such one.
+class SignalsHeld {
+  public:
+    SignalsHeld() {
+        sigset_t all;
+        ::sigfillset(&all);
+        ::pthread_sigmask(SIG_BLOCK, &all, &before_);
+    }
+    ~SignalsHeld() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    SignalsHeld(const SignalsHeld&) = delete;
+    SignalsHeld& operator=(const SignalsHeld&) = delete;
+
+  private:
+    sigset_t before_{};
+};
 
 class AtomicFileBuffer : public std::streambuf {
   public:
@@ -164,20 +181,33 @@ void AtomicFile::commit() {
     if (::fsync(file_.get()) != 0) {
         fail(errno);
     }
-    if (nameless_) {
-        tryNames([this](const char* name) {
-            return ::linkat(AT_FDCWD, ownPath().c_str(), AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
-        });
-    }
-    if (file_.close() != 0 || ::rename(temporary_.c_str(), target_.c_str()) != 0) {
-        fail(errno);
-    }
-    temporary_.clear();
+    takePlace();
     // The file is in place; a folder that cannot be flushed only delays the moment from which a crash keeps the name.
     FileDescriptor directory(::open(folder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (directory.isOpen()) {
         ::fsync(directory.get());
     }
+}
+
+void AtomicFile::takePlace() {
+    const auto link = [this](const char* name) {
+        return ::linkat(AT_FDCWD, ownPath().c_str(), AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
+    };
+    // A file that replaces none needs no other name first.
+    if (nameless_ && link(target_.c_str())) {
+        return;
+    }
+    // A link cannot replace a file: for a moment the new one has a name of its own.
+    const SignalsHeld held;
+    if (nameless_) {
+        tryNames(link);
+    } else if (file_.close() != 0) {
+        fail(errno);
+    }
+    if (::rename(temporary_.c_str(), target_.c_str()) != 0) {
+        fail(errno);
+    }
+    temporary_.clear();
 }
 
 void AtomicFile::fail(int error) const {

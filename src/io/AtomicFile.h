@@ -15,9 +15,11 @@ namespace vorlan {
 /// A file that takes the place of another only when it is complete.
 ///
 /// The bytes go to a temporary file in the target's folder; commit() flushes it to the disk and renames it. Until then
-/// the target stays as it was; without a commit the temporary is removed, or has never had a name. A symbolic link is
-/// followed, permissions of a file that is replaced are kept. A target that is a device or a pipe is written directly,
-/// since a rename would replace the device.
+/// the target stays as it was; without a commit the temporary is removed, or has never had a name. A program that is
+/// killed leaves a temporary (".vorlan-....tmp") only between the two system calls that name and rename the file, and
+/// where the file system keeps no files without a name. A symbolic link is followed, permissions of a file that is
+/// replaced are kept; other hard links to it keep the old content, extended attributes are lost. A target that is a
+/// device or a pipe is written directly, since a rename would replace the device.
 ///
 /// Every failure throws FileError of kind Unwritable, NotAFile (a folder) or Missing (no such folder).
 class AtomicFile {
@@ -35,6 +37,8 @@ class AtomicFile {
     void openTemporary(unsigned mode);
     /// Takes the first name in the target's folder that is free.
     void tryNames(const std::function<bool(const char*)>& take);
+    /// Gives the complete file the target's name.
+    void takePlace();
     /// Where the system shows the open file.
     std::string ownPath() const;
     std::filesystem::path folder() const;

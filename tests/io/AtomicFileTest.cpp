@@ -231,7 +231,7 @@ TEST(SavingWorkspaces, KilledInTheMiddleLeavesOneOfTheTwo) {
             }
         }
         ::usleep(static_cast<useconds_t>(2000 + 3700 * round));
-        ::kill(child, SIGKILL);
+        ::kill(child, round % 2 == 0 ? SIGKILL : SIGTERM);
         int status = 0;
         ::waitpid(child, &status, 0);
         ASSERT_TRUE(WIFSIGNALED(status));
