@@ -44,7 +44,7 @@ Subcommand addExportCommand(CLI::App& program) {
     addChoice(*app, "KIND", arguments->kind, exportNames(), choicesHelp("What to write", exportNames()))
         ->required()
         ->type_name("");
-    app->add_option("--out", arguments->out, "The file to write; - is standard output")
+    needsName(app->add_option("--out", arguments->out, "The file to write; - is standard output"))
         ->required()
         ->type_name("OUT.dat");
     addPlace(*app, arguments->place);
@@ -54,7 +54,7 @@ Subcommand addExportCommand(CLI::App& program) {
         ->type_name("space|tab|comma")
         ->default_str("space");
     app->add_flag("--all", arguments->request.all, "All files and probes, for tables that have such a form");
-    app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
+    needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");
     return {app, [arguments](Console& console) {
                 arguments->request.kind = static_cast<ExportKind>(arguments->kind);
                 arguments->request.options.separator = static_cast<Separator>(arguments->separator);

@@ -119,9 +119,10 @@ Subcommand addImportCommand(CLI::App& program) {
     addTriple(*app, "--position", options->settings.position, kPositions, "X,Y,Z", "Position of the sampling volume, m")
         ->default_str("0,0,0");
     app->add_flag("--as-probes", options->asProbes, "Make all tables probes 1, 2, ... of one data file");
-    app->add_option(
-           "TABLE", options->tables,
-           "Text with one sample per line; comma, semicolon, tab or blanks\nbetween the values, # before a comment")
+    needsName(
+        app->add_option(
+            "TABLE", options->tables,
+            "Text with one sample per line; comma, semicolon, tab or blanks\nbetween the values, # before a comment"))
         ->required()
         ->type_name("");
     return {app, [options](Console& console) {

@@ -39,7 +39,7 @@ Subcommand addInfoCommand(CLI::App& program) {
     CLI::App* app = program.add_subcommand("info", "Tell what a workspace holds");
     const auto arguments = std::make_shared<InfoArguments>();
     app->add_flag("--json", arguments->json, "As one JSON object, for other programs");
-    app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
+    needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");
     return {app, [arguments](Console& console) {
                 writeOutput(kStandardOutput, summaryOf(*arguments), console);
                 return ExitStatus::Done;

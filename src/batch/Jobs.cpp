@@ -94,7 +94,9 @@ struct Worker {
     ::_exit(static_cast<int>(status));
 }
 
-bool start(Worker& worker, int index, const std::function<void(int, Console&)>& task) {
+/// Starts the worker of an index; false when the system has no room for it.
+bool start(std::vector<Worker>& workers, std::size_t index, const std::function<void(int, Console&)>& task) {
+    Worker& worker = workers[index];
     Pipe out;
     Pipe err;
     if (!out.open() || !err.open()) {
@@ -102,7 +104,12 @@ bool start(Worker& worker, int index, const std::function<void(int, Console&)>& 
     }
     worker.process = ::fork();
     if (worker.process == 0) {
-        work(index, out, err, task);
+        // What the parent reads from is of no use here, and descriptors can be few.
+        for (Worker& other : workers) {
+            other.out.close();
+            other.err.close();
+        }
+        work(static_cast<int>(index), out, err, task);
     }
     if (worker.process < 0) {
         return false;
@@ -156,8 +163,7 @@ class WorkerPool {
 
     ExitStatus run(int jobs) {
         while (passed_ < workers_.size()) {
-            while (started_ < workers_.size() && running_ < jobs) {
-                startNext();
+            while (started_ < workers_.size() && running_ < jobs && startNext()) {
             }
             if (running_ > 0) {
                 wait();
@@ -168,19 +174,23 @@ class WorkerPool {
     }
 
   private:
-    void startNext() {
+    /// False when the system has no room for another worker beside those that run: one of them has to end first.
+    bool startNext() {
         Worker& worker = workers_[started_];
         if (interrupted()) {
             worst_ = worse(worst_, ExitStatus::Interrupted);
             worker.finished = true;
-        } else if (start(worker, static_cast<int>(started_), task_)) {
+        } else if (start(workers_, started_, task_)) {
             ++running_;
+        } else if (running_ > 0) {
+            return false;
         } else {
             console_.complain("a worker process cannot be started: " + systemReason(errno));
             worst_ = worse(worst_, ExitStatus::Refused);
             worker.finished = true;
         }
         ++started_;
+        return true;
     }
 
     void wait() {

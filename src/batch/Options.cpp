@@ -40,6 +40,10 @@ std::string shown(double value) {
     return formatted("%.15g", value);
 }
 
+CLI::Option* needsName(CLI::Option* option) {
+    return option->check([](const std::string& name) { return name.empty() ? "the name is empty" : std::string(); });
+}
+
 CLI::Option* addWorkspaceOutput(CLI::App& app, std::string& path, const std::string& help) {
     return app
         .add_option_function<std::string>(

@@ -14,6 +14,9 @@ namespace vorlan {
 // Options that several subcommands have, each with its check: a wrong value is a CLI::ValidationError that names the
 // option.
 
+/// For an option that names a file or folder: an empty name is refused.
+CLI::Option* needsName(CLI::Option* option);
+
 /// "--out OUT.avp".
 CLI::Option* addWorkspaceOutput(CLI::App& app, std::string& path, const std::string& help);
 

@@ -55,8 +55,12 @@ void writeOutput(const std::string& path, std::string_view bytes, Console& conso
 }
 
 std::string identityOf(const std::filesystem::path& path) {
+    // Without a name, or in a folder that was removed, there is no absolute one.
     std::error_code error;
-    const std::filesystem::path whole = std::filesystem::weakly_canonical(std::filesystem::absolute(path), error);
+    std::filesystem::path whole = std::filesystem::absolute(path, error);
+    if (!error) {
+        whole = std::filesystem::weakly_canonical(whole, error);
+    }
     return error ? path.lexically_normal().string() : whole.string();
 }
 
@@ -93,6 +97,9 @@ void PendingOutputs::commit(Console& console) {
 std::string OutputPattern::faultOf(const std::string& text) {
     if (text.empty()) {
         return "is empty";
+    }
+    if (text.find('\0') != std::string::npos) {
+        return "holds a character that no name of a file has";
     }
     for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
         const std::string_view rest = std::string_view(text).substr(at);

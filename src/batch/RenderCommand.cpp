@@ -79,7 +79,7 @@ Subcommand addRenderCommand(CLI::App& program) {
         ->type_name("WxH")
         ->default_str("1200x900");
     addPlace(*app, arguments->place);
-    app->add_option("IN.avp", arguments->input, "The workspace to read")->required()->type_name("");
+    needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");
     return {app, [arguments](Console& console) {
                 runRender(*arguments, console);
                 return ExitStatus::Done;

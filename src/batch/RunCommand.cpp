@@ -142,11 +142,12 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
 Subcommand addRunCommand(CLI::App& program) {
     CLI::App* app = program.add_subcommand("run", "Apply a recipe to workspaces");
     const auto arguments = std::make_shared<RunArguments>();
-    app->add_option("--recipe", arguments->recipe, "The steps to do, a TOML file")
+    needsName(app->add_option("--recipe", arguments->recipe, "The steps to do, a TOML file"))
         ->required()
         ->type_name("RECIPE.toml");
     addWorkspaceOutput(*app, arguments->out, "The workspace to write, for one input");
-    app->add_option("--out-dir", arguments->outDir, "An existing folder for the workspaces, under their own names")
+    needsName(
+        app->add_option("--out-dir", arguments->outDir, "An existing folder for the workspaces, under their own names"))
         ->type_name("DIR");
     app->add_flag("--in-place", arguments->inPlace, "Write every workspace over its input");
     app->add_option("--jobs", arguments->jobs, "Workspaces to work on at once")
@@ -158,7 +159,7 @@ Subcommand addRunCommand(CLI::App& program) {
         ->type_name("yes|no")
         ->default_str("yes");
     app->add_flag("--progress", arguments->progress, "Tell the progress even when nobody sits at a terminal");
-    app->add_option("IN.avp", arguments->inputs, "The workspaces to read")->required()->type_name("");
+    needsName(app->add_option("IN.avp", arguments->inputs, "The workspaces to read"))->required()->type_name("");
     return {app, [arguments](Console& console) { return runAll(*arguments, console); }};
 }
 

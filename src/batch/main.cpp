@@ -1,3 +1,4 @@
+#include <csignal>
 #include <iostream>
 
 #include "app/ProcessMemory.h"
@@ -7,6 +8,8 @@
 
 int main(int argc, char** argv) {
     vorlan::keepFreedMemory();
+    // A file that may not grow further is told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     const int status = vorlan::runBatch({argv + 1, argv + argc}, std::cout, std::cerr);
     if (status == static_cast<int>(vorlan::ExitStatus::Interrupted)) {
         vorlan::dieOfInterrupt();

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <cstdio>
 
 #include "app/ProcessMemory.h"
@@ -23,6 +24,8 @@ int main(int argc, char** argv) {
         return 0;
     }
     vorlan::keepFreedMemory();
+    // A file that may not grow further is told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     // Takes its own options out of the arguments.
     vorlan::CVorl_ADVApp application(argc, argv);
     const vorlan::CommandLine line = vorlan::readCommandLine(vorlan::CVorl_ADVApp::arguments());

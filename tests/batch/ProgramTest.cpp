@@ -34,6 +34,26 @@ TEST_F(ProgramTest, ExitStatusesReachTheShell) {
     }
 }
 
+TEST_F(ProgramTest, WhatTheSystemDoesNotGiveIsTold) {
+    const std::string old = write("old.avp", read(simulated("a.avp")));
+    EXPECT_EQ(shell("ulimit -f 1; \"$batch\" simulate --out $dir/old.avp 2>$dir/err"), 4);
+    EXPECT_TRUE(holds(read(path("err")), "old.avp (file too large)"));
+    EXPECT_TRUE(sameBytes(read(old), read(path("a.avp"))));
+    write("r.toml", "[[step]]\ndo = \"reset\"\n");
+    EXPECT_EQ(shell("mkdir $dir/d; cd $dir/d; rmdir $dir/d; \"$batch\" simulate --out b.avp 2>/dev/null"), 4);
+    EXPECT_EQ(
+        shell("mkdir $dir/d; cd $dir/d; rmdir $dir/d; \"$batch\" run --recipe ../r.toml --out b.avp b.avp 2>$dir/err"),
+        3);
+    EXPECT_EQ(read(path("err")).find("filesystem error"), std::string::npos);
+    // Fewer descriptors than workers: those that find none wait for others to end.
+    EXPECT_EQ(shell("cd $dir; mkdir out; i=0; w=; while [ $i -lt 30 ]; do cp a.avp w$i.avp; w=\"$w w$i.avp\"; "
+                    "i=$((i+1)); done; "
+                    "ulimit -n 24; \"$batch\" run --recipe r.toml --jobs 30 --out-dir out $w 2>err"),
+              0);
+    EXPECT_EQ(read(path("err")), "");
+    EXPECT_EQ(shell("[ $(ls $dir/out | wc -l) -eq 30 ]"), 0);
+}
+
 TEST_F(ProgramTest, DefaultsToTheOffscreenPlatformAndKeepsThePointInNumbers) {
     EXPECT_EQ(shell("\"$batch\" simulate --out $dir/a.avp --length 4 --seed 1"), 0);
     write("r.toml", "[[step]]\ndo = \"render\"\nstage = \"pre-processing\"\nout = \"" + path("a.png") +
