@@ -2,9 +2,7 @@
 #include "batch/Outputs.h"
 #include "batch/Subcommands.h"
 #include "batch/WorkspaceSummary.h"
-#include "io/ReadFile.h"
 #include "io/WorkspaceFile.h"
-#include "model/Archive.h"
 
 namespace vorlan {
 
@@ -15,19 +13,10 @@ struct InfoArguments {
     bool json = false;
 };
 
-/// The text at the head of a workspace file.
-std::string versionOf(const FileContent& content) {
-    Archive archive = Archive::loading(content.bytes());
-    std::string version;
-    archive.value(version);
-    return version;
-}
-
 std::string summaryOf(const InfoArguments& arguments) {
     try {
         const Workspace workspace = openWorkspace(arguments.input);
-        const std::string version = versionOf(readFile(arguments.input));
-        return arguments.json ? summaryAsJson(workspace, version) : summaryAsText(workspace, version, arguments.input);
+        return arguments.json ? summaryAsJson(workspace) : summaryAsText(workspace, arguments.input);
     } catch (const FileError& error) {
         throw unreadable(textOf(error));
     }

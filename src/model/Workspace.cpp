@@ -10,24 +10,14 @@ Workspace::Workspace() {
     pages.SetSize(kStageCount);
 }
 
-namespace {
-
-/// Other files begin with something that reads as a text, too, but hardly with a printable one.
-bool isVersionText(const std::string& text) {
-    const bool number = text.find_first_of("0123456789.") != std::string::npos;
-    return number && std::none_of(text.begin(), text.end(), [](char c) {
-               const auto code = static_cast<unsigned char>(c);
-               return code < 0x20 || code == 0x7f;
-           });
-}
-
-}  // namespace
-
 void Workspace::Serialize(Archive& archive) {
-    std::string version = kVersionText;
-    archive.value(version);
-    if (archive.isLoading() && !isVersionText(version)) {
-        throw InvalidVersionError();
+    std::string text = kVersionText;
+    archive.value(text);
+    if (archive.isLoading()) {
+        if (text.find_first_of("0123456789.") == std::string::npos) {
+            throw InvalidVersionError();
+        }
+        version = text;
     }
     settings.Serialize(archive);
     dataFiles.Serialize(archive);

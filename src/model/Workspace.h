@@ -17,7 +17,7 @@ namespace vorlan {
 /// The program's version text, written at the head of every workspace.
 inline constexpr const char* kVersionText = "Version 1.59";
 
-/// The version text of the file holds no number, or bytes that no text has.
+/// The version text of the file holds neither a digit nor a point.
 class InvalidVersionError : public FormatError {
   public:
     InvalidVersionError() : FormatError("Invalid Workspace format.", 0) {}
@@ -33,6 +33,8 @@ class Workspace : public SObject {
     /// Bytes behind what this program knows are kept and stored again. Load into a new object only.
     void Serialize(Archive& archive) override;
 
+    /// As the file has it that was loaded; a save writes the program's own.
+    std::string version = kVersionText;
     WorkspaceSettings settings;
     SAdvSet dataFiles;
     SBndSet boundaries;
