@@ -9,14 +9,11 @@
 
 namespace vorlan {
 
-/// More grades than this raise InvalidArgument.
-inline constexpr int kMaximumGrades = 10'000'000;
-
 /// Probability density of the series in n grades of width du = (max - min) / n:
 ///   h[k] = (c[k] / N) / du, c[k] samples with du k + min <= x <= du k + min + du.
 /// Both ends belong to a grade, so a sample on a boundary counts twice; the last grade ends at max itself. Stored in
 /// the resolution of the samples. A constant series stores what a division by 0 gives. Cost does not grow with N n.
-/// InvalidArgument for an empty series or fewer than one grade.
+/// InvalidArgument for an empty series, fewer than one grade or more than kMaximumGrades.
 void computeHistogram(STimeSeries& series, int grades);
 
 /// Forms the analysed series, then moments and histogram of U, V and W; sets the stage's mark. Without a sample the

@@ -8,6 +8,7 @@
 #include "analysis/HoleSweep.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -22,11 +23,11 @@ constexpr const char* kInward = "Inward Interactions (dimensionless velocities)"
 constexpr int kEjectionDiagram = 1;
 constexpr int kSweepDiagram = 3;
 
-/// trunc(whole / step) when it does not exceed limit.
-int boundedQuotient(double whole, double step, int limit) {
+/// trunc(whole / step) when it does not exceed limit; what is too much of it.
+int boundedQuotient(double whole, double step, int limit, const char* what) {
     const double quotient = whole / step;
     if (!(quotient < limit + 1.0)) {
-        throw InvalidArgument();
+        throw InvalidArgument(formatted("There should be no more than %d %s!", limit, what));
     }
     return truncateToInt32(quotient);
 }
@@ -147,9 +148,11 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
     if (settings.stressType < 0 || settings.stressType >= kStressPairs) {
         throw InvalidArgument();
     }
-    const int sizes =
-        settings.increment < 0.0 ? 0 : boundedQuotient(settings.maximum, settings.increment, kMaximumHoleSizes);
-    const int lag = boundedQuotient(settings.maximumLag, probe.samplingInterval, kMaximumPatternLag);
+    const int sizes = settings.increment < 0.0
+                          ? 0
+                          : boundedQuotient(settings.maximum, settings.increment, kMaximumHoleSizes, "hole sizes");
+    const int lag = boundedQuotient(settings.maximumLag, probe.samplingInterval, kMaximumPatternLag,
+                                    "samples in the maximum time lag");
     progress.status(kQuadrantStatus);
     progress.breathe();
 

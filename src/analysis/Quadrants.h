@@ -10,11 +10,6 @@ namespace vorlan {
 
 inline constexpr const char* kQuadrantStatus = "Conditional Quadrants and Averaging calculations";
 
-/// More hole sizes, or more lags to one side of an event, than this are refused: the results would fill hundreds of
-/// megabytes.
-inline constexpr int kMaximumHoleSizes = 1000000;
-inline constexpr int kMaximumPatternLag = 1000000;
-
 /// Conditional quadrant analysis of one stress series s with mean m, r = s / m, over all working samples.
 ///
 /// Hole sizes H = h * increment for h = 0..trunc(maximum / increment)-1 (none for a negative increment): every sample

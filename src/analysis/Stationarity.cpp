@@ -9,6 +9,7 @@
 #include "analysis/MomentEstimators.h"
 #include "analysis/kernels/KernelSet.h"
 #include "analysis/kernels/Pacer.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -121,6 +122,10 @@ void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progr
 std::string analyseStationarity(SAdvProbe& probe, const StationaritySettings& settings, Progress& progress) {
     progress.status("Stationarity calculations: ");
     formAnalysedSeries(probe);
+    const int samples = probe.seriesU.values.GetSize();
+    if (settings.bands > samples) {
+        return formatted("Band number should not be larger than the number of samples, %d!", samples);
+    }
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
         series.ClearStationarityResults();

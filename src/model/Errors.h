@@ -1,6 +1,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
 
 namespace vorlan {
 
@@ -8,6 +9,8 @@ namespace vorlan {
 class InvalidArgument : public std::invalid_argument {
   public:
     InvalidArgument() : std::invalid_argument("Encountered an improper argument.") {}
+    /// Where more can be said.
+    explicit InvalidArgument(const std::string& text) : std::invalid_argument(text) {}
 };
 
 }  // namespace vorlan

@@ -1,5 +1,7 @@
 #include "model/StageSettings.h"
 
+#include "model/Text.h"
+
 namespace vorlan {
 
 namespace {
@@ -17,11 +19,23 @@ Refusal refusalOf(const FilterSettings& settings) {
 }
 
 Refusal refusalOf(const StationaritySettings& settings) {
-    return settings.bands < 2 ? Refusal{"Band number should be larger than 1!", "bands"} : Refusal{};
+    if (settings.bands < 2) {
+        return {"Band number should be larger than 1!", "bands"};
+    }
+    if (settings.bands > kMaximumBands) {
+        return {formatted("Band number should be between 2 and %d!", kMaximumBands), "bands"};
+    }
+    return {};
 }
 
 Refusal refusalOf(const HistogramSettings& settings) {
-    return settings.grades < 2 ? Refusal{"Number of grades should be larger than 1!", "grades"} : Refusal{};
+    if (settings.grades < 2) {
+        return {"Number of grades should be larger than 1!", "grades"};
+    }
+    if (settings.grades > kMaximumGrades) {
+        return {formatted("Number of grades should be between 2 and %d!", kMaximumGrades), "grades"};
+    }
+    return {};
 }
 
 Refusal refusalOf(const SpectralSettings& settings) {
@@ -49,6 +63,10 @@ Refusal refusalOf(const QuadrantSettings& settings) {
     }
     if (settings.increment == 0.0) {
         return {"The size increment should be grater than 0!", "increment"};
+    }
+    if (settings.maximum / settings.increment >= kMaximumHoleSizes + 1.0) {
+        return {formatted("The size increment should give no more than %d hole sizes!", kMaximumHoleSizes),
+                "increment"};
     }
     return {};
 }
