@@ -39,8 +39,22 @@ Outcome runQuadrants(StepContext& context, const StepValues& values) {
     return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.QuadrantsAnalysis(settings);
 }
 
+constexpr Range kMeanVelocities{MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum};
+
 Outcome runMeanVelocity(StepContext& context, const StepValues& values) {
-    return context.document.SetMeanVelocity({values.choice("mode"), values.real("value")});
+    MeanVelocitySettings settings = context.document.GetMeanVelocity();
+    settings.mode = values.choice("mode");
+    // As in the dialog: what nobody uses is taken when it could be used, else the value stays.
+    if (kMeanVelocities.holds(values.real("value"))) {
+        settings.value = values.real("value");
+    }
+    return context.document.SetMeanVelocity(settings);
+}
+
+std::string faultOfMeanVelocity(const StepValues& values) {
+    constexpr int kUserMode = 1;
+    const bool wrong = values.choice("mode") == kUserMode && !kMeanVelocities.holds(values.real("value"));
+    return wrong ? "\"value\" must be " + describe(kMeanVelocities) : "";
 }
 
 }  // namespace
@@ -66,10 +80,10 @@ std::vector<StepKind> analysisSteps() {
          .run = runQuadrants,
          .command = Command::QuadrantsAnalysis},
         {.name = "mean-velocity",
-         .keys = {choiceKey("mode", {"averaged", "user"}, "averaged"),
-                  within(realKey("value", 10.0), MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum)},
+         .keys = {choiceKey("mode", {"averaged", "user"}, "averaged"), realKey("value", 10.0)},
          .run = runMeanVelocity,
-         .command = Command::MeanVelocity},
+         .command = Command::MeanVelocity,
+         .faultOfValues = faultOfMeanVelocity},
     };
 }
 
