@@ -10,12 +10,12 @@ struct FourSamples {
     FourUnits of[4];
 
     FourSamples(FourUnits x, FourUnits y, FourUnits z) {
-        const FourUnits low = __builtin_shuffle(x, y, FourUnits{0, 4, 1, 5});
-        const FourUnits high = __builtin_shuffle(x, y, FourUnits{2, 6, 3, 7});
-        of[0] = __builtin_shuffle(low, z, FourUnits{0, 1, 4, 4});
-        of[1] = __builtin_shuffle(low, z, FourUnits{2, 3, 5, 5});
-        of[2] = __builtin_shuffle(high, z, FourUnits{0, 1, 6, 6});
-        of[3] = __builtin_shuffle(high, z, FourUnits{2, 3, 7, 7});
+        const FourUnits low = __builtin_shufflevector(x, y, 0, 4, 1, 5);
+        const FourUnits high = __builtin_shufflevector(x, y, 2, 6, 3, 7);
+        of[0] = __builtin_shufflevector(low, z, 0, 1, 4, 4);
+        of[1] = __builtin_shufflevector(low, z, 2, 3, 5, 5);
+        of[2] = __builtin_shufflevector(high, z, 0, 1, 6, 6);
+        of[3] = __builtin_shufflevector(high, z, 2, 3, 7, 7);
     }
 };
 

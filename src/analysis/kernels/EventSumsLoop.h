@@ -10,7 +10,7 @@ constexpr std::size_t kEventLanes = kLanes < 4 ? kLanes : 4;
 constexpr std::size_t kEventRegisters = kLanes < 4 ? 8 : 16;
 
 using EventLanes = double __attribute__((vector_size(kEventLanes * sizeof(double))));
-using UnalignedEventLanes = double __attribute__((vector_size(kEventLanes * sizeof(double)), aligned(8), may_alias));
+using UnalignedEventLanes __attribute__((vector_size(kEventLanes * sizeof(double)), aligned(8), may_alias)) = double;
 
 template <std::size_t R>
 void eventSumsOf(const double* x, const std::size_t* events, std::size_t count, std::size_t back, double* sums) {

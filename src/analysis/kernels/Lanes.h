@@ -25,7 +25,7 @@ constexpr std::size_t kWidestBlock = 8;
 #endif
 
 using Lanes = double __attribute__((vector_size(kLanes * sizeof(double))));
-using UnalignedLanes = double __attribute__((vector_size(kLanes * sizeof(double)), aligned(8), may_alias));
+using UnalignedLanes __attribute__((vector_size(kLanes * sizeof(double)), aligned(8), may_alias)) = double;
 
 inline Lanes load(const double* p) {
     return *reinterpret_cast<const UnalignedLanes*>(p);

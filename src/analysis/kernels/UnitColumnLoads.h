@@ -13,7 +13,7 @@ namespace {
 // Four integers at once, whatever the width of the registers.
 using Four = double __attribute__((vector_size(32)));
 using FourUnits = std::int32_t __attribute__((vector_size(16)));
-using UnalignedFourUnits = std::int32_t __attribute__((vector_size(16), aligned(4), may_alias));
+using UnalignedFourUnits __attribute__((vector_size(16), aligned(4), may_alias)) = std::int32_t;
 
 inline FourUnits loadUnits(const std::int32_t* units) {
     return *reinterpret_cast<const UnalignedFourUnits*>(units);
