@@ -18,7 +18,7 @@ inline constexpr int kStressPairs = 3;
 /// u'v', u'w', v'w'.
 inline constexpr std::array<StressPair, kStressPairs> kStressPairComponents = {{{0, 1}, {0, 2}, {1, 2}}};
 
-/// Which velocity column lends its resolution to a stress column.
+/// Which velocity column a stress column takes its resolution from.
 enum class StressResolution {
     SamePosition,  ///< u'v' takes U's, u'w' takes V's, v'w' takes W's: formed by pre-processing
     StreamwiseU,   ///< all three take U's: formed by an analysis that finds none

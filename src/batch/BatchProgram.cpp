@@ -8,23 +8,31 @@
 
 #include "batch/Jobs.h"
 #include "batch/Subcommands.h"
+#include "model/Workspace.h"
 
 namespace vorlan {
 
 namespace {
 
-constexpr const char* kVersion = "vorlan-batch 1.59";
+constexpr const char* kVersionHelp = "Print the version";
+constexpr const char* kHelpHelp = "Print this help";
 constexpr const char* kStatusHelp =
     "Exit status: 0 done, 1 refused, 2 wrong usage or recipe, 3 an input cannot be read,\n"
     "4 an output cannot be written. An output file is replaced only when it is complete.";
+
+/// "vorlan-batch 1.59".
+std::string versionLine() {
+    const std::string_view text = kVersionText;
+    return std::string(kBatchName) + std::string(text.substr(text.find(' ')));
+}
 
 std::vector<Subcommand> addSubcommands(CLI::App& program) {
     std::vector<Subcommand> commands;
     for (const auto add : {addNewCommand, addSimulateCommand, addImportCommand, addInfoCommand, addRunCommand,
                            addExportCommand, addRenderCommand}) {
         commands.push_back(add(program));
-        commands.back().options->set_version_flag("--version", kVersion, "Tell the version");
-        commands.back().options->set_help_flag("-h,--help", "Tell how it is used");
+        commands.back().options->set_version_flag("--version", versionLine(), kVersionHelp);
+        commands.back().options->set_help_flag("-h,--help", kHelpHelp);
     }
     return commands;
 }
@@ -32,7 +40,7 @@ std::vector<Subcommand> addSubcommands(CLI::App& program) {
 /// The first word is the subcommand: an unknown one is worth its name.
 std::string textOf(const CLI::ParseError& error, const CLI::App& program, const std::string& first) {
     const bool word = !first.empty() && first[0] != '-';
-    return word && program.get_subcommands().empty() ? "\"" + first + "\" is no subcommand" : error.what();
+    return word && program.get_subcommands().empty() ? "\"" + first + "\" is not a subcommand" : error.what();
 }
 
 /// An option of the form "--name=" without a value; empty when there is none. The library would take the next word for
@@ -77,8 +85,8 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
         "Turbulence measurements without a window: runs the commands of Vorlan over any number of workspaces.",
         kBatchName);
     program.get_formatter()->column_width(36);
-    program.set_version_flag("--version", kVersion, "Tell the version");
-    program.set_help_flag("-h,--help", "Tell how it is used");
+    program.set_version_flag("--version", versionLine(), kVersionHelp);
+    program.set_help_flag("-h,--help", kHelpHelp);
     program.footer(kStatusHelp);
     program.require_subcommand(1);
     const std::vector<Subcommand> commands = addSubcommands(program);

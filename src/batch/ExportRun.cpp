@@ -26,7 +26,7 @@ const std::vector<std::string>& separatorNames() {
 std::string faultOf(const ExportRequest& request) {
     const ExportKindInfo& info = exportKindInfo(request.kind);
     if (request.all && info.dialog != ExportDialog::Scope) {
-        return std::string("the export \"") + info.name + "\" is of one probe: it does not know \"all\"";
+        return std::string("the export \"") + info.name + "\" writes one probe: it does not take \"all\"";
     }
     return {};
 }

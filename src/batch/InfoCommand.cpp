@@ -25,7 +25,7 @@ std::string summaryOf(const InfoArguments& arguments) {
 }  // namespace
 
 Subcommand addInfoCommand(CLI::App& program) {
-    CLI::App* app = program.add_subcommand("info", "Tell what a workspace holds");
+    CLI::App* app = program.add_subcommand("info", "Show what a workspace holds");
     const auto arguments = std::make_shared<InfoArguments>();
     app->add_flag("--json", arguments->json, "As one JSON object, for other programs");
     needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");

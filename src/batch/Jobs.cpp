@@ -151,7 +151,7 @@ ExitStatus endOf(Worker& worker, Console& console) {
         return static_cast<ExitStatus>(WEXITSTATUS(status));
     }
     if (!interrupted()) {
-        console.complain("a worker process ended by signal " + std::to_string(WTERMSIG(status)));
+        console.complain("a worker process was ended by signal " + std::to_string(WTERMSIG(status)));
     }
     return interrupted() ? ExitStatus::Interrupted : ExitStatus::Refused;
 }

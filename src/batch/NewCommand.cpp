@@ -11,7 +11,7 @@ Subcommand addNewCommand(CLI::App& program) {
            "OUT.avp",
            [path](const std::string& text) {
                if (text.empty() || text == kStandardOutput) {
-                   throw CLI::ValidationError("OUT.avp", "a workspace needs the name of a file");
+                   throw CLI::ValidationError("OUT.avp", "a workspace needs a file name");
                }
                *path = text;
            },

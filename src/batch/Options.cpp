@@ -25,7 +25,7 @@ CLI::Option* addNumber(CLI::App& app, const std::string& name, int& target, cons
             [&target, name](const std::string& text) {
                 const std::optional<long long> number = parseInteger(text);
                 if (!number || *number < 1 || *number > std::numeric_limits<int>::max()) {
-                    throw CLI::ValidationError(name, "\"" + text + "\" is not a number from 1");
+                    throw CLI::ValidationError(name, "\"" + text + "\" is not an integer of 1 or more");
                 }
                 target = static_cast<int>(*number) - 1;
             },
@@ -50,7 +50,7 @@ CLI::Option* addWorkspaceOutput(CLI::App& app, std::string& path, const std::str
             "--out",
             [&path](const std::string& text) {
                 if (text.empty() || text == kStandardOutput) {
-                    throw CLI::ValidationError("--out", "a workspace needs the name of a file");
+                    throw CLI::ValidationError("--out", "a workspace needs a file name");
                 }
                 path = text;
             },

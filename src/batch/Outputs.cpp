@@ -66,7 +66,7 @@ std::string identityOf(const std::filesystem::path& path) {
 
 void requireOtherThanInput(const std::string& output, const std::string& input) {
     if (output != kStandardOutput && identityOf(output) == identityOf(input)) {
-        throw usageError(output + " is an input: it is not written over");
+        throw usageError(output + " is an input and would be overwritten");
     }
 }
 
@@ -99,7 +99,7 @@ std::string OutputPattern::faultOf(const std::string& text) {
         return "is empty";
     }
     if (text.find('\0') != std::string::npos) {
-        return "holds a character that no name of a file has";
+        return "holds a character that no file name can have";
     }
     for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
         const std::string_view rest = std::string_view(text).substr(at);

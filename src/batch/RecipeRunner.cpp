@@ -61,7 +61,7 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
                                  std::to_string(step.line) + " of the recipe) keep the probes apart");
             }
             if (!target.empty() && identityOf(path) == identityOf(target)) {
-                throw usageError(path + " is where the workspace goes: a step needs another name");
+                throw usageError(path + " is the workspace that the run writes: the step needs another name");
             }
             requireOtherThanWorkspace(path);
         }

@@ -28,13 +28,13 @@ void requireOneTarget(const RunArguments& arguments, const Recipe& recipe) {
     const int targets =
         (arguments.out.empty() ? 0 : 1) + (arguments.outDir.empty() ? 0 : 1) + (arguments.inPlace ? 1 : 0);
     if (targets > 1) {
-        throw usageError("--out, --out-dir and --in-place exclude each other");
+        throw usageError("--out, --out-dir and --in-place cannot be combined");
     }
     if (targets == 0 && !recipe.writesFiles()) {
-        throw usageError("nothing would be written: say --out, --out-dir or --in-place");
+        throw usageError("nothing would be written: give --out, --out-dir or --in-place");
     }
     if (!arguments.out.empty() && arguments.inputs.size() > 1) {
-        throw usageError("--out takes one input; for several it is --out-dir or --in-place");
+        throw usageError("--out takes one input; use --out-dir or --in-place for several");
     }
 }
 
@@ -92,12 +92,13 @@ void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
     }
     for (const std::string& path : steps) {
         if (inputs.count(identityOf(path)) != 0) {
-            throw usageError(path + " is an input: a step cannot write over it");
+            throw usageError(path + " is an input and would be overwritten");
         }
     }
     for (std::size_t i = 0; i < targets.size() && !arguments.outDir.empty(); ++i) {
         if (inputs.count(identityOf(targets[i])) != 0) {
-            throw usageError(targets[i].string() + " is an input: --in-place writes over inputs, --out-dir does not");
+            throw usageError(targets[i].string() +
+                             " is an input and would be overwritten; --in-place does that on purpose");
         }
     }
 }
@@ -158,7 +159,7 @@ Subcommand addRunCommand(CLI::App& program) {
               "Repeat the stages that are done when a step changes the record")
         ->type_name("yes|no")
         ->default_str("yes");
-    app->add_flag("--progress", arguments->progress, "Tell the progress even when nobody sits at a terminal");
+    app->add_flag("--progress", arguments->progress, "Show progress even when standard error is not a terminal");
     needsName(app->add_option("IN.avp", arguments->inputs, "The workspaces to read"))->required()->type_name("");
     return {app, [arguments](Console& console) { return runAll(*arguments, console); }};
 }

@@ -133,7 +133,7 @@ Subcommand addSimulateCommand(CLI::App& program) {
            [options](const std::string& text) {
                const std::optional<long long> seed = parseInteger(text);
                if (!seed || *seed < 0) {
-                   throw CLI::ValidationError("--seed", "\"" + text + "\" is not a number from 0");
+                   throw CLI::ValidationError("--seed", "\"" + text + "\" is not an integer of 0 or more");
                }
                options->seed = static_cast<std::uint64_t>(*seed);
            },

@@ -25,7 +25,8 @@ void openDocument(CVorl_ADVDoc& document, const std::filesystem::path& path) {
 
 void requireReplaceable(const std::filesystem::path& path) {
     if (path.extension() != ".avp" && kindOfFile(path) == FileKind::Other) {
-        throw usageError(path.string() + " is no workspace: a workspace does not take its place");
+        throw usageError(path.string() +
+                         " is not a workspace and would be overwritten by one; only a name in .avp allows that");
     }
 }
 
@@ -54,7 +55,7 @@ WorkspaceUpdate::WorkspaceUpdate(CVorl_ADVDoc& document, std::filesystem::path p
 
 void WorkspaceUpdate::requireUnchanged() const {
     if (document_.IsChangedOnDisk()) {
-        throw unwritable(path_.string() + ": another program has written it meanwhile; it was left as it is");
+        throw unwritable(path_.string() + ": another program has changed it in the meantime; it was left as it is");
     }
 }
 

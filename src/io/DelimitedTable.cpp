@@ -56,7 +56,7 @@ Fault lay(const std::vector<std::string_view>& names, bool unknownAllowed, Layou
             present[target] = true;
         } else if (!names[i].empty() && names[i] != "-") {
             if (!unknownAllowed) {
-                return {i + 1, "there is no kind of column " + shownField(names[i])};
+                return {i + 1, "unknown column " + shownField(names[i])};
             }
             layout.unused.emplace_back(names[i]);
         }
@@ -154,7 +154,7 @@ class Rows {
                 return shownField(field) + " is not a number";
             case Reading::NotFinite:
             case Reading::OutOfRange:
-                return shownField(field) + " is no finite number";
+                return shownField(field) + " is not a finite number";
             case Reading::Number:
                 break;
         }
@@ -210,7 +210,7 @@ DelimitedTable parseDelimitedTable(std::string_view text, const std::filesystem:
         const auto& names = lines.fields();
         if (const auto number = std::find_if(names.begin(), names.end(), holdsNumber); number != names.end()) {
             refuse({static_cast<std::size_t>(number - names.begin()) + 1,
-                    shownField(*number) + " stands where the name of a column should; name the columns otherwise"});
+                    shownField(*number) + " stands where a column name should; the columns need names"});
         }
         refuse(lay(names, true, layout));
         more = lines.next();

@@ -84,7 +84,7 @@ FileKind kindOfFile(const std::filesystem::path& path) {
 }
 
 std::string refusalToReplace(const std::filesystem::path& path) {
-    return kindOfFile(path) == FileKind::Workspace ? path.string() + " is a workspace: nothing else takes its place"
+    return kindOfFile(path) == FileKind::Workspace ? path.string() + " is a workspace and would be overwritten"
                                                    : "";
 }
 
