@@ -84,8 +84,7 @@ FileKind kindOfFile(const std::filesystem::path& path) {
 }
 
 std::string refusalToReplace(const std::filesystem::path& path) {
-    return kindOfFile(path) == FileKind::Workspace ? path.string() + " is a workspace and would be overwritten"
-                                                   : "";
+    return kindOfFile(path) == FileKind::Workspace ? path.string() + " is a workspace and would be overwritten" : "";
 }
 
 void saveWorkspace(Workspace& workspace, const std::filesystem::path& path) {

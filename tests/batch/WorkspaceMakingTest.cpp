@@ -80,6 +80,28 @@ TEST_F(WorkspaceMakingTest, InfoTellsTheModel) {
     EXPECT_EQ(test::changeOfApproved("info", text + done({"info", "--json", path("a.avp")})), "");
 }
 
+TEST_F(WorkspaceMakingTest, ControlCharactersOfNamesReachNoTerminalAndNoPicture) {
+    const std::string hostile = "x\x1b[2J\x07\n\x7f\xC2\x9By";
+    Workspace workspace = openWorkspace(simulated("a.avp"));
+    SAdvFile& file = workspace.dataFiles.files.ElementAt(0);
+    file.fileName = hostile;
+    SAdvProbe& probe = file.probes.ElementAt(0);
+    probe.title = hostile;
+    probe.frameAttributes[0].ElementAt(0).plotTitle = hostile;
+    const std::string input = path("\x1b[31m.avp");
+    saveWorkspace(workspace, input);
+    done({"render", "--stage", "pre-processing", "--out", path("a.svg"), input});
+    const std::string texts = done({"info", input}) + done({"info", "--json", input}) +
+                              run({"export", "spectral", "--out", "-", input}).err + read(path("a.svg"));
+    EXPECT_TRUE(holds(texts, "Data file 1: x?[2J????y\n"));
+    EXPECT_TRUE(holds(texts, R"("name": "x\u001b[2J\u0007\n\u007f\u009by")"));
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const auto code = static_cast<unsigned char>(texts[i]);
+        EXPECT_TRUE(code == '\n' || (code >= 0x20 && code != 0x7F)) << texts.substr(i < 20 ? 0 : i - 20, 40);
+        EXPECT_FALSE(code == 0xC2 && static_cast<unsigned char>(texts[i + 1]) < 0xA0);
+    }
+}
+
 }  // namespace
 
 }  // namespace vorlan

@@ -100,3 +100,16 @@ TEST(SPlotFrame, OutlandishAttributesAndValuesAreDrawn) {
     ASSERT_EQ(layout.state, FrameLayout::State::Drawn);
     EXPECT_EQ(layout.geometry.xPixel(0.0), layout.geometry.originX + layout.geometry.width) << "runs backward";
 }
+
+TEST(SLegend, SampleArrowsOfAnyLengthStayInTheLegend) {
+    Diagram diagram = diagramOf({1.0, 2.0});
+    PlotSeries& arrows = diagram.plot.series[0];
+    arrows.attributes.style = SeriesStyle::Arrows;
+    arrows.legendArrow = 10.0;
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double scale : {-infinity, -2147483648.0, 0.0, std::nan(""), 3.0, 2147483647.0, infinity}) {
+        arrows.attributes.arrowScale = scale;
+        const int length = placeLegend(diagram, 400, FixedMeasure(), 1.0).entries[0].sampleLength;
+        EXPECT_EQ(length, scale == 3.0 ? 30 : scale > 3.0 ? 200 : 0) << scale;
+    }
+}
