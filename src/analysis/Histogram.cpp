@@ -5,6 +5,7 @@
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
+#include "model/StageLimits.h"
 
 namespace vorlan {
 

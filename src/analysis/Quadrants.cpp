@@ -2,12 +2,14 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/StageLimits.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -23,13 +25,10 @@ constexpr const char* kInward = "Inward Interactions (dimensionless velocities)"
 constexpr int kEjectionDiagram = 1;
 constexpr int kSweepDiagram = 3;
 
-/// trunc(whole / step) when it does not exceed limit; what is too much of it.
-int boundedQuotient(double whole, double step, int limit, const char* what) {
+/// trunc(whole / step) when it does not exceed limit.
+std::optional<int> boundedQuotient(double whole, double step, int limit) {
     const double quotient = whole / step;
-    if (!(quotient < limit + 1.0)) {
-        throw InvalidArgument(formatted("There should be no more than %d %s!", limit, what));
-    }
-    return truncateToInt32(quotient);
+    return quotient < limit + 1.0 ? std::optional(truncateToInt32(quotient)) : std::nullopt;
 }
 
 /// Fluctuations and relative stress of the analysed pair.
@@ -148,11 +147,17 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
     if (settings.stressType < 0 || settings.stressType >= kStressPairs) {
         throw InvalidArgument();
     }
-    const int sizes = settings.increment < 0.0
-                          ? 0
-                          : boundedQuotient(settings.maximum, settings.increment, kMaximumHoleSizes, "hole sizes");
-    const int lag = boundedQuotient(settings.maximumLag, probe.samplingInterval, kMaximumPatternLag,
-                                    "samples in the maximum time lag");
+    const std::optional<int> holes =
+        settings.increment < 0.0 ? 0 : boundedQuotient(settings.maximum, settings.increment, kMaximumHoleSizes);
+    const std::optional<int> lags = boundedQuotient(settings.maximumLag, probe.samplingInterval, kMaximumPatternLag);
+    if (!holes) {
+        return formatted("There should be no more than %d hole sizes!", kMaximumHoleSizes);
+    }
+    if (!lags) {
+        return formatted("The maximum lag should be no more than %d samples!", kMaximumPatternLag);
+    }
+    const int sizes = *holes;
+    const int lag = *lags;
     progress.status(kQuadrantStatus);
     progress.breathe();
 

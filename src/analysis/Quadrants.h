@@ -24,11 +24,11 @@ inline constexpr const char* kQuadrantStatus = "Conditional Quadrants and Averag
 ///
 /// The stresses are formed when the probe has none; variances and mean stresses are computed anew. Records stress
 /// type, increment, maximum, maximum lag and m, titles the pattern diagrams by what the events are, and sets the
-/// stage's mark. A record without samples gets empty contribution and time sets. Returns why it is refused: never, so
-/// it is empty.
+/// stage's mark. A record without samples gets empty contribution and time sets.
 ///
-/// InvalidArgument when the record's columns differ in length, for an unknown stress type, or when the settings ask
-/// for more hole sizes or lags than the limits above (an increment or a sampling interval of 0 included).
+/// Returns why it is refused, when the settings ask for more hole sizes or lags than StageLimits.h allows (an increment
+/// or a sampling interval of 0 included); empty when it was done. InvalidArgument when the record's columns differ in
+/// length or for an unknown stress type.
 std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progress& progress);
 
 }  // namespace vorlan

@@ -52,8 +52,6 @@ inline constexpr Range kSignalToNoise{0.0, 50.0};
 inline constexpr Range kHeading{0.0, 360.0};
 inline constexpr Range kTilt{-30.0, 30.0};
 inline constexpr Range kVelocity{-200.0, 200.0};
-/// The dialog takes any; with a larger one the noise cannot be stored.
-inline constexpr Range kNoise{-1e5, 1e5};
 inline constexpr Range kAmplitude{-200.0, 200.0};
 inline constexpr Range kPeriod{1e-7, 1e7};
 inline constexpr Range kPhase{0.0, 360.0};

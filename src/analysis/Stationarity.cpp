@@ -9,6 +9,7 @@
 #include "analysis/MomentEstimators.h"
 #include "analysis/kernels/KernelSet.h"
 #include "analysis/kernels/Pacer.h"
+#include "model/StageLimits.h"
 #include "model/Text.h"
 
 namespace vorlan {

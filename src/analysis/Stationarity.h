@@ -15,8 +15,8 @@ namespace vorlan {
 /// With m samples and d = x - mean: mean = sum x / m, variance = sum d^2 / (m - 1),
 ///   skewness = sum d^3 / (variance m sqrt(variance)), kurtosis = sum d^4 / (variance^2 m) - 3.
 /// Every value is stored with resolution 0.0001 and read back by the ones after it. Bands of fewer than two samples
-/// are not guarded: they hold non-finite values as the columns store them. InvalidArgument for fewer than one band and
-/// for more than kMaximumBands.
+/// are not guarded: they hold non-finite values as the columns store them. InvalidArgument without a band or for
+/// more than kMaximumBands.
 void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progress);
 
 /// Forms the analysed series and replaces the bands of U, V and W; records mode and number of bands and sets the

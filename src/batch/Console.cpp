@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "model/Text.h"
+#include "model/Printable.h"
 
 namespace vorlan {
 

@@ -2,7 +2,9 @@
 #include "batch/Outputs.h"
 #include "batch/Subcommands.h"
 #include "batch/WorkspaceSummary.h"
+#include "io/ReadFile.h"
 #include "io/WorkspaceFile.h"
+#include "model/Archive.h"
 
 namespace vorlan {
 
@@ -13,10 +15,20 @@ struct InfoArguments {
     bool json = false;
 };
 
+/// The text at the head of a workspace file; no more is read.
+std::string versionOf(const std::string& path) {
+    InputFile file(path);
+    Archive archive = Archive::loading(file);
+    std::string version;
+    archive.value(version);
+    return version;
+}
+
 std::string summaryOf(const InfoArguments& arguments) {
     try {
         const Workspace workspace = openWorkspace(arguments.input);
-        return arguments.json ? summaryAsJson(workspace) : summaryAsText(workspace, arguments.input);
+        const std::string version = versionOf(arguments.input);
+        return arguments.json ? summaryAsJson(workspace, version) : summaryAsText(workspace, version, arguments.input);
     } catch (const FileError& error) {
         throw unreadable(textOf(error));
     }

@@ -6,7 +6,7 @@
 #include "batch/BatchError.h"
 #include "batch/Interrupt.h"
 #include "io/ReadFile.h"
-#include "model/Text.h"
+#include "model/Printable.h"
 
 namespace vorlan {
 

@@ -10,6 +10,9 @@ namespace {
 
 namespace limits = simulation_range;
 
+// The dialog takes any; with a larger one the noise cannot be stored.
+constexpr Range kNoise{-1e5, 1e5};
+
 struct SimulateOptions {
     std::string out;
     bool append = false;
@@ -82,9 +85,8 @@ void addVelocityOptions(CLI::App& app, SimulateOptions& options) {
     constexpr Ranges kVelocities{limits::kVelocity, limits::kVelocity, limits::kVelocity};
     addTriple(app, "--mean", options.mean, kVelocities, "U,V,W", "Mean velocities, cm/s (-200 to 200)")
         ->default_str("50,5,0");
-    CLI::Option* variance =
-        addTriple(app, "--noise-variance", options.noiseVariance, {limits::kNoise, limits::kNoise, limits::kNoise},
-                  "U,V,W", "White noise; each number is used as the standard deviation, cm/s");
+    CLI::Option* variance = addTriple(app, "--noise-variance", options.noiseVariance, {kNoise, kNoise, kNoise}, "U,V,W",
+                                      "White noise; each number is used as the standard deviation, cm/s");
     addTriple(app, "--noise-mean", options.noiseMean, kVelocities, "U,V,W", "Mean of the noise, cm/s (-200 to 200)")
         ->needs(variance)
         ->default_str("0,0,0");

@@ -7,6 +7,7 @@
 
 #include "analysis/EditingAssessment.h"
 #include "analysis/RotationSettings.h"
+#include "model/Printable.h"
 #include "model/ProbeInformation.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
@@ -164,9 +165,9 @@ int validSamples(const SAdvProbe& probe) {
     return static_cast<int>(std::count_if(marks.begin(), marks.end(), [](std::int32_t mark) { return mark >= 1; }));
 }
 
-std::string summaryAsJson(const Workspace& workspace) {
+std::string summaryAsJson(const Workspace& workspace, const std::string& version) {
     Json json;
-    json["version"] = utf8Text(workspace.version);
+    json["version"] = utf8Text(version);
     json["activeFile"] = workspace.settings.activeFile;
     json["activeProbe"] = workspace.settings.activeProbe;
     json["files"] = Json::array();
@@ -180,9 +181,9 @@ std::string summaryAsJson(const Workspace& workspace) {
     return escaped(json.dump(2)) + "\n";
 }
 
-std::string summaryAsText(const Workspace& workspace, const std::string& name) {
-    std::string text = printable(name) + ": " + shownName(workspace.version) + ", " +
-                       plural(workspace.dataFiles.files.GetSize(), "data file");
+std::string summaryAsText(const Workspace& workspace, const std::string& version, const std::string& name) {
+    std::string text =
+        printable(name) + ": " + shownName(version) + ", " + plural(workspace.dataFiles.files.GetSize(), "data file");
     if (!workspace.boundaries.IsEmpty()) {
         text += ", " + plural(workspace.boundaries.GetSize(), "boundary file");
     }

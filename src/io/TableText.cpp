@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "model/Text.h"
+#include "model/Printable.h"
 
 namespace vorlan {
 

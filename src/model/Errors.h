@@ -1,7 +1,6 @@
 #pragma once
 
 #include <stdexcept>
-#include <string>
 
 namespace vorlan {
 
@@ -9,8 +8,6 @@ namespace vorlan {
 class InvalidArgument : public std::invalid_argument {
   public:
     InvalidArgument() : std::invalid_argument("Encountered an improper argument.") {}
-    /// Where more can be said.
-    explicit InvalidArgument(const std::string& text) : std::invalid_argument(text) {}
 };
 
 }  // namespace vorlan

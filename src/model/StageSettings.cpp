@@ -1,5 +1,6 @@
 #include "model/StageSettings.h"
 
+#include "model/StageLimits.h"
 #include "model/Text.h"
 
 namespace vorlan {

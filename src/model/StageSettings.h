@@ -8,12 +8,6 @@
 
 namespace vorlan {
 
-// Limits of this program: results beyond them would fill hundreds of megabytes.
-inline constexpr int kMaximumBands = 10'000'000;
-inline constexpr int kMaximumGrades = 10'000'000;
-inline constexpr int kMaximumHoleSizes = 1'000'000;
-inline constexpr int kMaximumPatternLag = 1'000'000;  ///< lags to one side of an event
-
 /// Which of a sample's three beam scores is compared with the threshold.
 enum class ScoreStatistic : std::int32_t { Average = 0, Minimum = 1 };
 

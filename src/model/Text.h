@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 namespace vorlan {
 
@@ -10,10 +9,6 @@ namespace vorlan {
 
 /// A text of the model for display, UTF-8: its bytes as they are when they are valid UTF-8, else read as Windows-1252.
 std::string utf8Text(const std::string& bytes);
-
-/// A text as messages and pictures may hold it: every control character (U+0000 to U+001F, U+007F to U+009F) is a
-/// question mark. Line ends, too; other bytes stay as they are.
-std::string printable(std::string_view text);
 
 /// Appends what printf's "%.<digits>f" writes in the C locale, whatever locale is set; much faster in long columns.
 void appendFixed(std::string& text, double value, int digits);

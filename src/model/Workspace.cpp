@@ -11,13 +11,10 @@ Workspace::Workspace() {
 }
 
 void Workspace::Serialize(Archive& archive) {
-    std::string text = kVersionText;
-    archive.value(text);
-    if (archive.isLoading()) {
-        if (text.find_first_of("0123456789.") == std::string::npos) {
-            throw InvalidVersionError();
-        }
-        version = text;
+    std::string version = kVersionText;
+    archive.value(version);
+    if (archive.isLoading() && version.find_first_of("0123456789.") == std::string::npos) {
+        throw InvalidVersionError();
     }
     settings.Serialize(archive);
     dataFiles.Serialize(archive);

@@ -33,8 +33,6 @@ class Workspace : public SObject {
     /// Bytes behind what this program knows are kept and stored again. Load into a new object only.
     void Serialize(Archive& archive) override;
 
-    /// As the file has it that was loaded; a save writes the program's own.
-    std::string version = kVersionText;
     WorkspaceSettings settings;
     SAdvSet dataFiles;
     SBndSet boundaries;

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/Text.h"
+#include "model/Printable.h"
 
 namespace vorlan {
 

@@ -138,7 +138,6 @@ TEST(Version, NeedsACharacterOfANumber) {
     for (const char* version : {"Version 1.59", ".", "release 7", "x.y", "0", "\x01\x7F\n3"}) {
         // Whatever wrote the file, it is saved under the program's own version.
         Workspace workspace = loaded(imageOfVersion(version));
-        EXPECT_EQ(workspace.version, version);
         EXPECT_EQ(stored(workspace), imageOfVersion("Version 1.59")) << version;
     }
     for (const char* version : {"", "Version", "Version one-two,three"}) {

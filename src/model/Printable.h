@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vorlan {
+
+/// A text as messages and pictures may hold it: every control character (U+0000 to U+001F, U+007F to U+009F) is a
+/// question mark. Line ends, too; other bytes stay as they are.
+std::string printable(std::string_view text);
+
+}  // namespace vorlan
