@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/FrameAttributes.h"
-#include "plot/PixelScale.h"
+#include "model/PixelScale.h"
 
 namespace vorlan {
 
