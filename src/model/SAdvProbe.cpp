@@ -93,6 +93,33 @@ void SAdvProbe::Reset() {
     std::fill_n(sampleFlags.begin(), samples, 1);
 }
 
+namespace {
+
+constexpr std::array<std::size_t, 3> kResultParts = {SAdvProbe::kDissipationRate, SAdvProbe::kTimeScales,
+                                                     SAdvProbe::kSpectrumIntegrals};
+
+std::size_t lengthOfPart(std::size_t part) {
+    return part == SAdvProbe::kDissipationRate ? 1 : SAdvProbe::kComponents;
+}
+
+}  // namespace
+
+bool SAdvProbe::HasResults(std::size_t part) const {
+    const auto* first = resultBlock.data() + part;
+    return std::any_of(first, first + lengthOfPart(part), [](double value) { return value != 0.0; });
+}
+
+void SAdvProbe::SetResults(std::size_t part, std::span<const double> values) {
+    std::copy(values.begin(), values.end(), resultBlock.data() + part);
+    resultsAreOld[part] = false;
+}
+
+void SAdvProbe::AgeResults() {
+    for (const std::size_t part : kResultParts) {
+        resultsAreOld[part] = resultsAreOld[part] || HasResults(part);
+    }
+}
+
 STimeSeries& SAdvProbe::Series(int kind) {
     switch (kind) {
         case 0:

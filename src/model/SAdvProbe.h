@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "model/FrameAttributes.h"
@@ -147,6 +148,15 @@ class SAdvProbe : public SObject {
     Moments StressMoments(int pair) const { return MomentsAt(statistics.data() + kStressMoments, pair); }
     void SetStressMoments(int pair, const Moments& m) { PutMoments(statistics.data() + kStressMoments, pair, m); }
 
+    /// Whether something was accepted into a part of resultBlock: kDissipationRate, kTimeScales or kSpectrumIntegrals.
+    bool HasResults(std::size_t part) const;
+    /// True when it was, and the working record has changed since then.
+    bool ResultsAreOld(std::size_t part) const { return resultsAreOld[part]; }
+    /// Accepts values into a part of resultBlock.
+    void SetResults(std::size_t part, std::span<const double> values);
+    /// The working record has changed: what was read before stays, and is known to be old.
+    void AgeResults();
+
     std::uint32_t probeNumber = 1;
     std::array<SMultiArray, 6> sampledTables;
     SIntArray sampleFlags;
@@ -186,6 +196,8 @@ class SAdvProbe : public SObject {
     std::array<std::uint32_t, 6> stageDone{};
     std::uint32_t useAllSamples = 1;
     std::array<double, 7> resultBlock{};
+    /// By the first index of each part of resultBlock. Not stored: known while the workspace is open.
+    std::array<bool, 7> resultsAreOld{};
 
     friend bool operator==(const SAdvProbe&, const SAdvProbe&) = default;
 

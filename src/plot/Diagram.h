@@ -38,6 +38,15 @@ struct SPlot {
     bool hasPoints() const;
 };
 
+/// A right triangle whose sloping side follows the power law y (x / from)^exponent between two limits of x.
+struct SlopeTriangle {
+    double from = 0.0;
+    double to = 0.0;
+    double y = 0.0;  ///< at from
+    double exponent = 0.0;
+    std::string name;  ///< of the slope, as "-5/3"
+};
+
 /// A complete diagram: the stored frame attributes and the data.
 struct Diagram {
     FrameAttributesType frame;
@@ -55,6 +64,8 @@ struct Diagram {
         std::string text;
     };
     std::vector<PointLabel> labels;
+    /// Drawn over the series; they move no limits and have no entry in the legend.
+    std::vector<SlopeTriangle> triangles;
 };
 
 /// What a pane says in the place of a diagram without a value.
@@ -65,12 +76,14 @@ struct TableContent {
     struct Row {
         std::string title;
         std::vector<double> values;
+        std::vector<std::size_t> empty = {};  ///< indexes of values that nothing has given: their cells stay empty
     };
     std::string title;
     std::vector<std::string> headers;
     std::vector<Row> rows;
     std::string numberFormat = "%.2f";
     FontDescription font;
+    std::string note = {};  ///< a line below the rows
 };
 
 /// Lines of text, top to bottom.

@@ -8,6 +8,7 @@
 #include "plot/SPlotFrame.h"
 #include "plot/STable.h"
 #include "plot/SeriesShapes.h"
+#include "plot/SlopeTriangle.h"
 
 namespace vorlan {
 
@@ -82,6 +83,11 @@ class PanePainter {
         for (const PlotSeries& series : diagram.plot.series) {
             paintSeries(painter_, series, layout.geometry, options_.lengthScale);
         }
+        for (const SlopeTriangle& triangle : diagram.triangles) {
+            drawTriangle(
+                slopeTriangleShape(triangle, layout.geometry, diagram.frame.labelFont, measure_, options_.lengthScale),
+                layout.geometry);
+        }
         painter_.setPen(Qt::black);
         drawTexts(painter_, pointTexts(diagram, layout.geometry, measure_, options_.lengthScale), measure_,
                   options_.fontScale);
@@ -98,6 +104,14 @@ class PanePainter {
         const std::vector<QLine> strokes = qtLines(lines);
         painter_.drawLines(strokes.data(), static_cast<int>(strokes.size()));
         painter_.setPen(Qt::black);
+    }
+
+    void drawTriangle(const SlopeTriangleShape& shape, const CScreenUtils& geometry) {
+        painter_.setPen(linePen(0, 1, 0, options_.lengthScale));
+        const CScreenUtils& g = geometry;
+        const Box plotArea{g.originX, g.originY - g.height, g.originX + g.width, g.originY};
+        strokePolylines(painter_, clipped({{shape.slope, shape.legs}}, plotArea));
+        drawTexts(painter_, shape.texts, measure_, options_.fontScale);
     }
 
     void drawLegend(const SLegend& legend) {

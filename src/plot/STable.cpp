@@ -59,10 +59,12 @@ STable::STable(const TableContent& content)
     : title(content.title),
       headers(content.headers),
       formats(content.headers.empty() ? 0 : content.headers.size() - 1, content.numberFormat),
+      note(content.note),
       font(content.font) {
     for (const TableContent::Row& row : content.rows) {
         rowTitles.push_back(row.title);
         rows.push_back(row.values);
+        emptyCells.push_back(row.empty);
     }
 }
 
@@ -92,6 +94,14 @@ const std::string& STable::rowTitle(int row) const {
     return element(rowTitles, row);
 }
 
+bool STable::isEmptyCell(int row, std::size_t index) const {
+    if (static_cast<std::size_t>(row) >= emptyCells.size()) {
+        return false;
+    }
+    const std::vector<std::size_t>& empty = emptyCells[static_cast<std::size_t>(row)];
+    return std::find(empty.begin(), empty.end(), index) != empty.end();
+}
+
 std::string STable::cell(int row, int column) const {
     if (row < 0 || static_cast<std::size_t>(row) >= rows.size() || column < 0 ||
         static_cast<std::size_t>(column) + 1 >= std::max<std::size_t>(headers.size(), 1)) {
@@ -99,7 +109,7 @@ std::string STable::cell(int row, int column) const {
     }
     const std::size_t index = static_cast<std::size_t>(column);
     const std::vector<double>& values = rows[static_cast<std::size_t>(row)];
-    if (index >= values.size()) {
+    if (index >= values.size() || isEmptyCell(row, index)) {
         return {};
     }
     const bool usable = index < formats.size() && formatsOneNumber(formats[index]);
@@ -129,7 +139,7 @@ void STable::fitInto(const Box& box, const TextMeasure& measure) {
 }
 
 double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
-    const int lines = 3 + 2 * static_cast<int>(rows.size());
+    const int lines = 3 + 2 * static_cast<int>(rows.size()) + (note.empty() ? 0 : 2);
     const auto needed = [&](double share) { return lines * measure.height(font, share); };
     if (needed(1.0) <= box.height()) {
         return 1.0;
@@ -179,6 +189,10 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         }
         y += rowHeight;
         result.rules.push_back({{left, y}, {left + tableWidth, y}});
+    }
+    if (!note.empty()) {
+        add(note, left, tableWidth, y + rowHeight / 2);
+        y += 2 * rowHeight;
     }
     result.complete = result.complete && y <= box.bottom;
     return result;

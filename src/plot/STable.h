@@ -27,6 +27,8 @@ class STable : public SObject {
     std::vector<std::string> rowTitles;
     std::vector<std::string> formats;  ///< of the values, per column; "%.2f" where there is none
     std::vector<std::vector<double>> rows;
+    std::vector<std::vector<std::size_t>> emptyCells;  ///< by row, see TableContent::Row::empty; not stored
+    std::string note;                                  ///< below the rows; not stored
     std::int32_t left = 0;
     std::int32_t top = 0;
     std::int32_t tableWidth = 0;
@@ -42,7 +44,7 @@ class STable : public SObject {
 
     const std::string& header(int column) const;
     const std::string& rowTitle(int row) const;
-    /// Text of one value; column counts the values, not the row titles. Empty beyond the values that the row has.
+    /// Text of one value; column counts the values, not the row titles. Empty where the row has no value.
     std::string cell(int row, int column) const;
 
     /// Fills the geometry members for a box: columns as wide as it allows, rows as high as the text.
@@ -54,6 +56,7 @@ class STable : public SObject {
     TableShapes shapes(const Box& box, const TextMeasure& measure) const;
 
   private:
+    bool isEmptyCell(int row, std::size_t index) const;
     int firstColumnWidth(const TextMeasure& measure, double share) const;
 };
 

@@ -3,6 +3,7 @@
 #include "analysis/SpectralScale.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
+#include "stages/TurbulenceReadOut.h"
 
 namespace vorlan {
 
@@ -56,12 +57,22 @@ TableContent scalesTable(const SAdvProbe& probe) {
     // Dissipation rates well below one are common.
     table.numberFormat = "%.4f";
     constexpr std::array<const char*, 3> titles = {"u", "v", "w"};
+    const std::array<std::size_t, 3> parts = {SAdvProbe::kTimeScales, SAdvProbe::kSpectrumIntegrals,
+                                              SAdvProbe::kDissipationRate};
     for (std::size_t c = 0; c < titles.size(); ++c) {
         table.rows.push_back(
             {titles[c],
              {probe.resultBlock[SAdvProbe::kTimeScales + c], probe.resultBlock[SAdvProbe::kSpectrumIntegrals + c]}});
     }
     table.rows.front().values.push_back(probe.resultBlock[SAdvProbe::kDissipationRate]);
+    for (TableContent::Row& row : table.rows) {
+        for (std::size_t column = 0; column < row.values.size(); ++column) {
+            if (!probe.HasResults(parts[column])) {
+                row.empty.push_back(column);
+            }
+        }
+    }
+    table.note = oldResultsText(probe);
     return table;
 }
 

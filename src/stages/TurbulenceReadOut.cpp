@@ -1,0 +1,110 @@
+#include "stages/TurbulenceReadOut.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "analysis/PowerLawFit.h"
+#include "model/Text.h"
+
+namespace vorlan {
+
+namespace {
+
+/// Exponent of the series' points between two positions, whichever is the larger.
+std::optional<double> fittedSlope(const PlotSeries& series, double from, double to) {
+    const auto [lowest, highest] = std::minmax(from, to);
+    std::vector<double> x;
+    std::vector<double> y;
+    for (std::size_t i = 0; i < series.y.size(); ++i) {
+        const double at = series.x.at(i);
+        if (at >= lowest && at <= highest) {
+            x.push_back(at);
+            y.push_back(series.y[i]);
+        }
+    }
+    return powerLawExponent(x, y);
+}
+
+template <class Text>
+std::string slopes(const Diagram& diagram, double from, double to, Text text) {
+    std::string joined = "Slope ";
+    for (const PlotSeries& series : diagram.plot.series) {
+        joined += &series == &diagram.plot.series.front() ? "" : ", ";
+        const std::optional<double> slope = fittedSlope(series, from, to);
+        joined += series.attributes.legendText + " " + (slope ? text(*slope) : std::string("-"));
+    }
+    return joined;
+}
+
+}  // namespace
+
+std::optional<DissipationSource> dissipationSourceOf(Stage stage, Pane pane) {
+    if (stage != Stage::Spectral || (pane != Pane::LeftBottom && pane != Pane::RightTop)) {
+        return std::nullopt;
+    }
+    return pane == Pane::LeftBottom ? DissipationSource::Spectrum : DissipationSource::Structure;
+}
+
+std::optional<ScalesSource> scalesSourceOf(Stage stage, Pane pane) {
+    if (stage != Stage::Spectral || (pane != Pane::LeftTop && pane != Pane::LeftBottom)) {
+        return std::nullopt;
+    }
+    return pane == Pane::LeftTop ? ScalesSource::Correlation : ScalesSource::Spectrum;
+}
+
+std::string dissipationReadOut(const DissipationReading& reading, double rate) {
+    return reading.source == DissipationSource::Spectrum
+               ? formatted("Frequency = %f  Spectral dencity = %f  Dissipation rate %f", reading.x, reading.y, rate)
+               : formatted("Lag time = %f  Structure = %f  Dissipation rate %f", reading.x, reading.y, rate);
+}
+
+std::string rangeReadOut(const ScalesReading& reading) {
+    return reading.source == ScalesSource::Spectrum
+               ? formatted("Frequency: left = %f  right = %f", reading.from, reading.to)
+               : formatted("Lag time: left = %f  right = %f", reading.from, reading.to);
+}
+
+double inertialExponent(DissipationSource source) {
+    return source == DissipationSource::Spectrum ? -5.0 / 3.0 : 2.0 / 3.0;
+}
+
+const char* inertialExponentText(DissipationSource source) {
+    return source == DissipationSource::Spectrum ? "-5/3" : "2/3";
+}
+
+std::string slopesText(const Diagram& diagram, double from, double to) {
+    return slopes(diagram, from, to, [](double slope) { return formatted("%.2f", slope); });
+}
+
+std::string slopeDistancesText(const Diagram& diagram, double from, double to, DissipationSource source) {
+    return slopes(diagram, from, to, [source](double slope) {
+        return formatted("%.2f (%+.2f from %s)", slope, slope - inertialExponent(source), inertialExponentText(source));
+    });
+}
+
+std::string oldResultsText(const SAdvProbe& probe) {
+    struct Part {
+        std::size_t index;
+        const char* name;
+    };
+    constexpr Part parts[] = {{SAdvProbe::kDissipationRate, "dissipation rate"},
+                              {SAdvProbe::kTimeScales, "time scales"},
+                              {SAdvProbe::kSpectrumIntegrals, "integrals of spectra"}};
+    std::string text;
+    for (const Part& part : parts) {
+        if (probe.ResultsAreOld(part.index)) {
+            text += (text.empty() ? "" : ", ") + std::string(part.name);
+        }
+    }
+    if (text.empty()) {
+        return text;
+    }
+    text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    return text + ": read before the last change of the record";
+}
+
+SlopeTriangle slopeTriangle(const DissipationReading& begin, double to) {
+    return {begin.x, to, begin.y, inertialExponent(begin.source), inertialExponentText(begin.source)};
+}
+
+}  // namespace vorlan
