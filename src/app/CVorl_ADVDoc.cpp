@@ -1,7 +1,5 @@
 #include "app/CVorl_ADVDoc.h"
 
-#include <cmath>
-
 #include "app/RecomputeChain.h"
 #include "io/WorkspaceFile.h"
 #include "model/DefaultFrames.h"
@@ -182,10 +180,8 @@ std::optional<double> CVorl_ADVDoc::AveragedVelocity() const {
     if (!HasProbe()) {
         return std::nullopt;
     }
-    const double u = Probe().seriesU.moments.mean;
-    const double v = Probe().seriesV.moments.mean;
-    const double w = Probe().seriesW.moments.mean;
-    return std::sqrt(u * u + v * v + w * w);
+    const double velocity = averagedVelocity(Probe());
+    return velocity == 0.0 && Probe().seriesU.values.IsEmpty() ? std::nullopt : std::optional(velocity);
 }
 
 }  // namespace vorlan

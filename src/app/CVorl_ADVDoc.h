@@ -7,10 +7,12 @@
 #include <optional>
 #include <string>
 
+#include "analysis/DissipationRate.h"
 #include "analysis/Editing.h"
 #include "analysis/RotationSettings.h"
 #include "analysis/Simulation.h"
 #include "analysis/SpectralSettings.h"
+#include "analysis/TurbulenceScales.h"
 #include "app/DocumentPort.h"
 #include "app/WorkspacePatch.h"
 #include "export/ExportKind.h"
@@ -129,6 +131,15 @@ class CVorl_ADVDoc {
     Outcome CrossSpectralAnalysis();
     Outcome QuadrantsAnalysis(const QuadrantSettings& settings);
 
+    // What is read off the diagrams of the spectral stage. Each asks with the values, and on OK forms them again on the
+    // copy of the probe that it stores.
+
+    /// The rate at a point of a spectrum or a structure function, into result 0.
+    Outcome ExtractDissipationRate(const DissipationReading& reading);
+    /// The integrals over a range, into results 1..3 (correlation functions) or 4..6 (spectra). Refused when the limits
+    /// leave nothing to integrate: with a message on spectra, without one on correlation functions.
+    Outcome ExtractScales(const ScalesReading& reading);
+
     // Tools and attributes.
 
     Outcome SetMeanVelocity(const MeanVelocitySettings& chosen);
@@ -142,7 +153,7 @@ class CVorl_ADVDoc {
     /// kind needs; InvalidArgument without a probe and for columns of a damaged workspace that should be of one length.
     void Export(std::ostream& stream, ExportKind kind, ExportOptions options, bool all) const;
 
-    /// Mean velocity magnitude of the active probe's series, cm/s; nothing without a probe.
+    /// Mean velocity magnitude of the active probe's series, cm/s; nothing without a probe or before it has series.
     std::optional<double> AveragedVelocity() const;
 
   private:

@@ -60,6 +60,11 @@ std::string diagramInView(const CVorl_ADVDoc& document, const ShownPanes& shown)
     return hasDiagram && shown.diagramInActivePane ? "" : "the active view shows no diagram";
 }
 
+template <Pane... panes>
+std::string activeView(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return ((document.ActivePane() == panes) || ...) ? "" : "the active view shows another diagram";
+}
+
 std::string notYetOffered(const CVorl_ADVDoc&, const ShownPanes&) {
     return "this version does not offer it";
 }
@@ -82,6 +87,8 @@ struct CommandRow {
 // A need may take for granted what stands before it. The exports need what their own table says.
 const std::vector<CommandRow>& commandTable() {
     constexpr Need preProcessing = selected<Stage::PreProcessing>;
+    constexpr Need spectralStage = selected<Stage::Spectral>;
+    constexpr Need spectraDone = done<DoneMark::Spectral>;
     static const std::vector<CommandRow> rows = {
         {Command::NewWorkspace, {}},
         {Command::OpenWorkspace, {}},
@@ -107,13 +114,15 @@ const std::vector<CommandRow>& commandTable() {
         {Command::StationarityAnalysis, {probe, allSamples}},
         {Command::Histograms, {probe}},
         {Command::SpectralAnalysis, {probe, allSamples}},
-        {Command::CrossSpectralAnalysis, {probe, allSamples, done<DoneMark::Spectral>}},
+        {Command::CrossSpectralAnalysis, {probe, allSamples, spectraDone}},
         {Command::QuadrantsAnalysis, {probe, allSamples}},
         {Command::MeanVelocityVectors, {notYetOffered}},
-        {Command::ExtractDissipationRate, {notYetOffered}},
-        {Command::ExtractScales, {notYetOffered}},
-        {Command::TriangleSpectrum, {notYetOffered}},
-        {Command::TriangleStructure, {notYetOffered}},
+        {Command::ExtractDissipationRate,
+         {probe, spectralStage, spectraDone, activeView<Pane::LeftBottom, Pane::RightTop>, diagramInView}},
+        {Command::ExtractScales,
+         {probe, spectralStage, spectraDone, activeView<Pane::LeftTop, Pane::LeftBottom>, diagramInView}},
+        {Command::TriangleSpectrum, {probe, spectralStage, spectraDone, activeView<Pane::LeftBottom>, diagramInView}},
+        {Command::TriangleStructure, {probe, spectralStage, spectraDone, activeView<Pane::RightTop>, diagramInView}},
         {Command::MeanVelocity, {}},
         {Command::GridEditor, {notYetOffered}},
         {Command::SimulateTimeSeries, {}},

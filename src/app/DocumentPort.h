@@ -37,6 +37,8 @@ class DocumentPort : public Progress {
   public:
     /// True for OK.
     virtual bool confirm(Question question) = 0;
+    /// The user is asked whether to keep values that the document has worked out; true for OK.
+    virtual bool accept(const std::string& question) = 0;
     /// The command is refused: a stop sign with OK.
     virtual void refuse(const std::string& text) = 0;
 
@@ -49,6 +51,7 @@ class DocumentPort : public Progress {
 class SilentPort : public DocumentPort {
   public:
     bool confirm(Question) override { return true; }
+    bool accept(const std::string&) override { return true; }
     void refuse(const std::string&) override {}
     void beginRun(Calculation) override {}
     void endRun() override {}

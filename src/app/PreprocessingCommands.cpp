@@ -10,6 +10,7 @@ Outcome CVorl_ADVDoc::ChangeSeries(const ProbeCommand& command, const ProbeOpera
     const Outcome outcome = RunOnProbe(command, [&](SAdvProbe& copy, Progress& progress) {
         const Outcome changed = change(copy, progress);
         if (changed == Outcome::Done) {
+            copy.AgeResults();
             ApplyChangeRule(copy, progress);
         }
         return changed;

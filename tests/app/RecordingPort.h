@@ -14,6 +14,10 @@ class RecordingPort : public DocumentPort {
         questions.emplace_back(textOf(question));
         return answer;
     }
+    bool accept(const std::string& question) override {
+        questions.push_back(question);
+        return answer;
+    }
     void refuse(const std::string& text) override { refusals.push_back(text); }
     void beginRun(Calculation calculation) override { runs.push_back(calculation); }
     void endRun() override { ++ends; }
