@@ -10,15 +10,24 @@ bool ConsolePort::takeRefused() {
     return said;
 }
 
+void ConsolePort::tell(const std::string& text) {
+    clearLine();
+    console_.complain(context_ + ": " + text);
+}
+
+bool ConsolePort::accept(const std::string& question) {
+    tell(question + (accepts_ ? " OK" : " Cancel"));
+    return accepts_;
+}
+
 bool ConsolePort::confirm(Question question) {
     // The one question whose answer an option decides; all others ask whether the user means what the recipe says.
     return question == Question::RepeatStages ? options_.repeatStages : true;
 }
 
 void ConsolePort::refuse(const std::string& text) {
-    clearLine();
     refused_ = true;
-    console_.complain(context_ + ": " + text);
+    tell(text);
 }
 
 void ConsolePort::beginRun(Calculation) {

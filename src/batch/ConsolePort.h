@@ -20,10 +20,15 @@ class ConsolePort : public DocumentPort {
     /// What the following calls are about: the input, then where in it ("in.avp: data file 1, probe 2").
     void setContext(std::string context) { context_ = std::move(context); }
     const std::string& context() const { return context_; }
+    /// Whether values that the document works out are kept. The question is told with them in any case.
+    void setAccepts(bool accepts) { accepts_ = accepts; }
+    /// A line about what the calls are about.
+    void tell(const std::string& text);
     /// Whether a refusal was said since the last call of this function.
     bool takeRefused();
 
     bool confirm(Question question) override;
+    bool accept(const std::string& question) override;
     void refuse(const std::string& text) override;
     void beginRun(Calculation calculation) override;
     void endRun() override;
@@ -42,6 +47,7 @@ class ConsolePort : public DocumentPort {
     int percent_ = -1;
     bool lineShown_ = false;
     bool refused_ = false;
+    bool accepts_ = true;
 };
 
 }  // namespace vorlan

@@ -26,17 +26,32 @@ std::string faultOfExport(const StepValues& values) {
     return faultOf(exportRequestOf(values));
 }
 
-Outcome runRender(StepContext& context, const StepValues& values) {
+RenderRequest renderRequestOf(const StepValues& values) {
     RenderRequest request;
     request.stage = static_cast<Stage>(values.choice("stage"));
     if (values.has("pane")) {
         request.pane = static_cast<Pane>(values.choice("pane"));
     }
+    if (values.has("triangle")) {
+        request.triangles.push_back(values.triple("triangle"));
+    }
     request.value = static_cast<PhysicalValue>(values.choice("values"));
     request.size = parsePictureSize(values.text("size")).value();
+    return request;
+}
+
+Outcome runRender(StepContext& context, const StepValues& values) {
+    RenderRequest request = renderRequestOf(values);
     request.path = outputOf(values)->expand(context.workspace, context.place);
     context.outputs.add(request.path, context.renderer.render(context.document, request));
+    for (const std::string& text : triangleReadOuts(context.document, request)) {
+        context.port.tell(text);
+    }
     return Outcome::Done;
+}
+
+std::string faultOfRender(const StepValues& values) {
+    return faultOfTriangles(renderRequestOf(values));
 }
 
 std::string faultOfPicturePattern(const std::string& text) {
@@ -61,8 +76,9 @@ std::vector<StepKind> outputSteps() {
         {.name = "render",
          .keys = {required(choiceKey("stage", stageNames())), choiceKey("pane", paneNames()),
                   choiceKey("values", physicalValueNames(), "velocities"), textKey("size", "1200x900", faultOfSize),
-                  required(textKey("out", {}, faultOfPicturePattern))},
-         .run = runRender},
+                  tripleKey("triangle"), required(textKey("out", {}, faultOfPicturePattern))},
+         .run = runRender,
+         .faultOfValues = faultOfRender},
     };
 }
 

@@ -9,7 +9,8 @@ namespace vorlan {
 const std::vector<StepKind>& stepTable() {
     static const std::vector<StepKind> table = [] {
         std::vector<StepKind> rows;
-        for (const std::vector<StepKind>& part : {preProcessingSteps(), analysisSteps(), outputSteps()}) {
+        for (const std::vector<StepKind>& part :
+             {preProcessingSteps(), analysisSteps(), turbulenceSteps(), outputSteps()}) {
             rows.insert(rows.end(), part.begin(), part.end());
         }
         return rows;

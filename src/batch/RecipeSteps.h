@@ -49,6 +49,7 @@ struct StepKind {
 /// The rows by subject.
 std::vector<StepKind> preProcessingSteps();
 std::vector<StepKind> analysisSteps();
+std::vector<StepKind> turbulenceSteps();
 std::vector<StepKind> outputSteps();
 
 /// All steps, in the order of the manual.

@@ -1,3 +1,4 @@
+#include "batch/BatchError.h"
 #include "batch/Options.h"
 #include "batch/Outputs.h"
 #include "batch/RecipeKeys.h"
@@ -24,6 +25,9 @@ void runRender(RenderArguments& arguments, Console& console) {
     if (arguments.pane >= 0) {
         request.pane = static_cast<Pane>(arguments.pane);
     }
+    if (const std::string fault = faultOfTriangles(request); !fault.empty()) {
+        throw usageError("--triangle: " + fault);
+    }
     requireOtherThanInput(request.path, arguments.input);
     requireOtherThanWorkspace(request.path);
     SilentPort port;
@@ -34,6 +38,9 @@ void runRender(RenderArguments& arguments, Console& console) {
     try {
         selectPlace(document, arguments.place);
         bytes = renderer.render(document, request);
+        for (const std::string& text : triangleReadOuts(document, request)) {
+            console.complain(arguments.input + ": " + text);
+        }
     } catch (const BatchError& error) {
         throw BatchError(error.status(), arguments.input + ": " + error.what());
     }
@@ -78,6 +85,23 @@ Subcommand addRenderCommand(CLI::App& program) {
            "Width and height, pixels (of 1/96 inch in .svg and .pdf)")
         ->type_name("WxH")
         ->default_str("1200x900");
+    app->add_option_function<std::vector<std::string>>(
+           "--triangle",
+           [arguments](const std::vector<std::string>& texts) {
+               for (const std::string& text : texts) {
+                   const std::optional<std::vector<double>> numbers = parseReals(text, 3);
+                   if (!numbers) {
+                       throw CLI::ValidationError("--triangle",
+                                                  "\"" + text + "\" must be three numbers, as in 1,4,0.5");
+                   }
+                   arguments->request.triangles.push_back({(*numbers)[0], (*numbers)[1], (*numbers)[2]});
+               }
+           },
+           "A triangle of the slope -5/3 (left-bottom of spectral) or 2/3\n(right-top) from X1 to X2, at X1 as high as "
+           "Y; may be given again")
+        ->type_name("X1,X2,Y")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->expected(1);
     addPlace(*app, arguments->place);
     needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");
     return {app, [arguments](Console& console) {

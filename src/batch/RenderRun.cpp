@@ -12,6 +12,7 @@
 #include "model/StageTable.h"
 #include "plot/RenderFile.h"
 #include "stages/PaneDescription.h"
+#include "stages/TurbulenceReadOut.h"
 
 namespace vorlan {
 
@@ -67,6 +68,37 @@ std::string faultOfPicturePath(const std::string& path) {
     return formatOf(path) ? "" : "must end in .png, .svg or .pdf";
 }
 
+std::string faultOfTriangles(const RenderRequest& request) {
+    const bool drawn = request.pane && dissipationSourceOf(request.stage, *request.pane);
+    return request.triangles.empty() || drawn
+               ? ""
+               : "a triangle needs the pane left-bottom or right-top of the stage spectral";
+}
+
+std::vector<std::string> triangleReadOuts(const CVorl_ADVDoc& document, const RenderRequest& request) {
+    std::vector<std::string> texts;
+    for (const auto& [from, to, y] : request.triangles) {
+        const DissipationReading begin{dissipationSourceOf(request.stage, *request.pane).value(), from, y};
+        texts.push_back(dissipationReadOut(begin, dissipationRate(begin, document.Probe(), document.Settings())));
+    }
+    return texts;
+}
+
+namespace {
+
+void addTriangles(PaneContent& content, const RenderRequest& request) {
+    auto* diagram = std::get_if<Diagram>(&content);
+    if (diagram == nullptr) {
+        return;
+    }
+    for (const auto& [from, to, y] : request.triangles) {
+        diagram->triangles.push_back(
+            slopeTriangle({dissipationSourceOf(request.stage, *request.pane).value(), from, y}, to));
+    }
+}
+
+}  // namespace
+
 /// The application object that fonts and painting need. A program that has one keeps it.
 class Renderer::Toolkit {
   public:
@@ -116,6 +148,9 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
                 describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(), request.stage,
                               static_cast<Pane>(pane), request.value, !selected || document.ShowsTable()}));
         }
+    }
+    for (PaneContent& pane : panes) {
+        addTriangles(pane, request);
     }
     if (!toolkit_) {
         toolkit_ = std::make_unique<Toolkit>();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,11 +24,18 @@ struct RenderRequest {
     std::optional<Pane> pane;  ///< all four without one
     PhysicalValue value = PhysicalValue::Velocities;
     PictureSize size;
-    std::string path;  ///< its extension decides the format
+    std::vector<std::array<double, 3>> triangles;  ///< slope triangles: from, to, y at from
+    std::string path;                              ///< its extension decides the format
 };
 
 /// Why no picture can be written to the path; empty when one can.
 std::string faultOfPicturePath(const std::string& path);
+
+/// Why the request's triangles cannot be drawn; empty when they can, or when there is none.
+std::string faultOfTriangles(const RenderRequest& request);
+
+/// What the tool of the window would tell about the points where the request's triangles begin.
+std::vector<std::string> triangleReadOuts(const CVorl_ADVDoc& document, const RenderRequest& request);
 
 /// Draws what the window's panes show. Holds the toolkit, which is started with the first picture: processes that
 /// work on several workspaces are started before.
