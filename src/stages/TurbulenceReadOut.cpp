@@ -82,6 +82,19 @@ std::string slopeDistancesText(const Diagram& diagram, double from, double to, D
     });
 }
 
+std::string acceptedRateText(const SAdvProbe& probe) {
+    return formatted("Dissipation rate %f cm^2/s^3 accepted.", probe.resultBlock[SAdvProbe::kDissipationRate]);
+}
+
+std::string acceptedScalesText(ScalesSource source, const SAdvProbe& probe) {
+    if (source == ScalesSource::Correlation) {
+        const double* t = &probe.resultBlock[SAdvProbe::kTimeScales];
+        return formatted("Time scales %f, %f, %f s accepted.", t[0], t[1], t[2]);
+    }
+    const double* s = &probe.resultBlock[SAdvProbe::kSpectrumIntegrals];
+    return formatted("Integrals of spectra %f, %f, %f (cm/s)^2 accepted.", s[0], s[1], s[2]);
+}
+
 std::string oldResultsText(const SAdvProbe& probe) {
     struct Part {
         std::size_t index;

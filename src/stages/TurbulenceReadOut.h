@@ -33,6 +33,10 @@ std::string slopesText(const Diagram& diagram, double from, double to);
 /// The same as distances from the exponent of the inertial range: "Slope Ux -1.62 (+0.05 from -5/3), ...".
 std::string slopeDistancesText(const Diagram& diagram, double from, double to, DissipationSource source);
 
+/// Status bar texts when the rate or scales have been accepted.
+std::string acceptedRateText(const SAdvProbe& probe);
+std::string acceptedScalesText(ScalesSource source, const SAdvProbe& probe);
+
 /// Which results were "read before the last change of the record"; empty when none is known to be.
 std::string oldResultsText(const SAdvProbe& probe);
 

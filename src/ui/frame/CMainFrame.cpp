@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "stages/PaneDescription.h"
+#include "stages/TurbulenceReadOut.h"
 #include "ui/frame/MenuTable.h"
 
 namespace vorlan {
@@ -48,7 +49,11 @@ CMainFrame::CMainFrame(QWidget* parent)
       panes_(new PaneGrid(this)),
       statusPane_(new StatusPane(this)),
       waiting_(new QLabel(this)),
-      commands_(document_, files_, *panes_, *this) {
+      hint_(new QLabel(this)),
+      tools_(
+          document_, *panes_, [this](const QString& text) { statusPane_->setText(text); },
+          [this](const QString& text) { showHint(text); }),
+      commands_(document_, files_, *panes_, tools_, *this) {
     setAcceptDrops(true);
     auto* centre = new QWidget(this);
     auto* layout = new QVBoxLayout(centre);
@@ -86,6 +91,9 @@ void CMainFrame::buildBars() {
     statusBar()->addPermanentWidget(waiting_);
     waiting_->setTextFormat(Qt::PlainText);
     waiting_->hide();
+    statusBar()->addPermanentWidget(hint_);
+    hint_->setTextFormat(Qt::PlainText);
+    hint_->hide();
     port_.setStatusPane(statusPane_);
 
     const auto bindSwitch = [this](Command command, QWidget* bar) {
@@ -174,6 +182,15 @@ void CMainFrame::documentChanged(Change change) {
                               document_.CurrentStage() == Stage::PreProcessing);
     refreshCommands();
     refreshTitle();
+    tellOldResults();
+}
+
+void CMainFrame::tellOldResults() {
+    std::string text = document_.HasProbe() ? oldResultsText(document_.Probe()) : std::string();
+    if (!text.empty() && text != oldResults_) {
+        statusPane_->setText(QString::fromStdString(text));
+    }
+    oldResults_ = std::move(text);
 }
 
 void CMainFrame::refreshCommands() {
@@ -221,6 +238,11 @@ void CMainFrame::runStateChanged(bool running) {
 void CMainFrame::showWaiting(const QString& text) {
     waiting_->setText(text);
     waiting_->show();
+}
+
+void CMainFrame::showHint(const QString& text) {
+    hint_->setText(text);
+    hint_->setVisible(!text.isEmpty());
 }
 
 void CMainFrame::showCursorValues(Pane pane, QPoint position) {

@@ -11,6 +11,7 @@
 #include "ui/frame/SelectionBar.h"
 #include "ui/frame/StageTabs.h"
 #include "ui/frame/StatusPane.h"
+#include "ui/frame/TurbulenceTools.h"
 #include "ui/frame/UserBoxes.h"
 #include "ui/frame/UserCommands.h"
 #include "ui/frame/WindowPort.h"
@@ -49,9 +50,11 @@ class CMainFrame : public QMainWindow {
     void documentChanged(Change change);
     void runStateChanged(bool running);
     void showWaiting(const QString& text);
+    void showHint(const QString& text);
     void refreshCommands();
     ShownPanes shownPanes() const;
     void refreshTitle();
+    void tellOldResults();
     void showCursorValues(Pane pane, QPoint position);
     void showDraggedInterval(Pane pane, int fromX, int toX);
     void clipToInterval(Pane pane, int fromX, int toX);
@@ -69,8 +72,11 @@ class CMainFrame : public QMainWindow {
     PaneGrid* panes_;
     StatusPane* statusPane_;
     QLabel* waiting_;  ///< what follows the run
+    QLabel* hint_;     ///< what a tool waits for
+    TurbulenceTools tools_;
     UserCommands commands_;
     QPointer<QWidget> focusBeforeRun_;
+    std::string oldResults_;  ///< what the status bar has said of results older than the record
     bool closeWhenDone_ = false;
     QString dropWhenDone_;
 };

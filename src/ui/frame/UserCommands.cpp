@@ -105,6 +105,11 @@ void UserCommands::dispatch(Command command) {
         case Command::QuadrantsAnalysis:
             ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, usable(settings.quadrants));
             return;
+        case Command::ExtractDissipationRate:
+        case Command::ExtractScales:
+        case Command::TriangleSpectrum:
+        case Command::TriangleStructure:
+            return tools_.begin(command);
         case Command::MeanVelocity:
             ask<CMeanVelDlg>(&CVorl_ADVDoc::SetMeanVelocity, document_.GetMeanVelocity(), document_.AveragedVelocity());
             return;

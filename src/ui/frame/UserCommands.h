@@ -6,6 +6,7 @@
 
 #include "app/CommandState.h"
 #include "ui/frame/PaneGrid.h"
+#include "ui/frame/TurbulenceTools.h"
 #include "ui/frame/UserBoxes.h"
 #include "ui/frame/WorkspaceFiles.h"
 
@@ -14,8 +15,9 @@ namespace vorlan {
 /// From a menu command to the document: opens the command's dialog, hands over what the user accepted.
 class UserCommands {
   public:
-    UserCommands(CVorl_ADVDoc& document, WorkspaceFiles& files, PaneGrid& panes, QWidget& window)
-        : document_(document), files_(files), panes_(panes), window_(window) {}
+    UserCommands(CVorl_ADVDoc& document, WorkspaceFiles& files, PaneGrid& panes, TurbulenceTools& tools,
+                 QWidget& window)
+        : document_(document), files_(files), panes_(panes), tools_(tools), window_(window) {}
 
     void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
     /// Seed of the generator; the calendar time unless replaced.
@@ -41,6 +43,7 @@ class UserCommands {
     CVorl_ADVDoc& document_;
     WorkspaceFiles& files_;
     PaneGrid& panes_;
+    TurbulenceTools& tools_;
     QWidget& window_;
     UserBoxes* boxes_ = nullptr;
     std::function<std::uint64_t()> seed_;

@@ -37,6 +37,11 @@ bool WindowPort::confirm(Question question) {
     return boxes_->confirm(&window_, QString::fromUtf8(textOf(question)));
 }
 
+bool WindowPort::accept(const std::string& question) {
+    const ArrowScope arrow;
+    return boxes_->confirm(&window_, QString::fromStdString(question));
+}
+
 void WindowPort::refuse(const std::string& text) {
     const ArrowScope arrow;
     boxes_->refuse(&window_, QString::fromStdString(text));

@@ -28,6 +28,7 @@ class WindowPort : public QObject, public DocumentPort {
     void setRunListener(std::function<void(bool)> listener) { runListener_ = std::move(listener); }
 
     bool confirm(Question question) override;
+    bool accept(const std::string& question) override;
     void refuse(const std::string& text) override;
     void beginRun(Calculation calculation) override;
     void endRun() override;

@@ -6,8 +6,10 @@
 #include <QRubberBand>
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "plot/PaintPane.h"
+#include "ui/views/tools/PaneTool.h"
 
 namespace vorlan {
 
@@ -24,7 +26,10 @@ CVorl_ADVView::CVorl_ADVView(Pane pane, QWidget* parent) : QWidget(parent), pane
     setAccessibleName(QString::fromUtf8(kPaneTexts[static_cast<std::size_t>(pane)]));
 }
 
+CVorl_ADVView::~CVorl_ADVView() = default;
+
 void CVorl_ADVView::setContent(PaneContent content) {
+    endTool();
     content_ = std::move(content);
     geometry_.reset();
     update();
@@ -33,6 +38,41 @@ void CVorl_ADVView::setContent(PaneContent content) {
 void CVorl_ADVView::setActive(bool active) {
     if (active_ != active) {
         active_ = active;
+        update();
+    }
+    if (!active) {
+        endTool();
+    }
+}
+
+void CVorl_ADVView::beginTool(std::unique_ptr<PaneTool> tool) {
+    endTool();
+    endDrag();
+    if (!geometry_) {
+        repaint();  // tools need to know where the diagram stands
+    }
+    tool_ = std::move(tool);
+    setFocus();
+    setCursor(Qt::CrossCursor);
+    tool_->begin();
+}
+
+void CVorl_ADVView::endTool() {
+    if (!tool_) {
+        return;
+    }
+    tool_.reset();
+    unsetCursor();
+    if (auto* diagram = std::get_if<Diagram>(&content_)) {
+        diagram->triangles.clear();
+    }
+    update();
+    Q_EMIT toolEnded(pane_);
+}
+
+void CVorl_ADVView::showTriangle(const SlopeTriangle& triangle) {
+    if (auto* diagram = std::get_if<Diagram>(&content_)) {
+        diagram->triangles = {triangle};
         update();
     }
 }
@@ -56,8 +96,14 @@ void CVorl_ADVView::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), active_ ? palette().highlight() : palette().mid());
     painter.save();
     painter.setClipRect(pageArea());
-    geometry_ = paintPane(painter, pageArea(), content_);
+    if (!tool_ || !tool_->paint(painter)) {
+        geometry_ = paintContent(painter);
+    }
     painter.restore();
+}
+
+std::optional<CScreenUtils> CVorl_ADVView::paintContent(QPainter& painter) const {
+    return paintPane(painter, pageArea(), content_);
 }
 
 void CVorl_ADVView::setIntervalSelection(bool on) {
@@ -90,6 +136,11 @@ void CVorl_ADVView::endDrag() {
 
 void CVorl_ADVView::mousePressEvent(QMouseEvent* event) {
     Q_EMIT activated(pane_);
+    menuSpent_ = tool_ && event->button() == Qt::RightButton;
+    if (tool_) {
+        tool_->mousePress(*event);
+        return;
+    }
     const QPoint position = event->position().toPoint();
     if (intervalSelection_ && event->button() == Qt::LeftButton && geometry_.has_value() &&
         geometry_->contains(position.x(), position.y())) {
@@ -101,6 +152,9 @@ void CVorl_ADVView::mousePressEvent(QMouseEvent* event) {
 
 void CVorl_ADVView::mouseMoveEvent(QMouseEvent* event) {
     cursor_ = event->position().toPoint();
+    if (tool_ && tool_->mouseMove(*event)) {
+        return;
+    }
     if (dragFrom_.has_value() && geometry_.has_value()) {
         const int to = withinPlot(cursor_.x());
         showBand(to);
@@ -111,6 +165,10 @@ void CVorl_ADVView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
+    if (tool_) {
+        tool_->mouseRelease(*event);
+        return;
+    }
     if (event->button() == Qt::LeftButton && dragFrom_.has_value()) {
         const int from = *dragFrom_;
         const int to = withinPlot(event->position().toPoint().x());
@@ -123,6 +181,9 @@ void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CVorl_ADVView::keyPressEvent(QKeyEvent* event) {
+    if (tool_ && tool_->keyPress(*event)) {
+        return;
+    }
     if (event->key() == Qt::Key_Escape && dragFrom_.has_value()) {
         endDrag();
         // The interval is forgotten: what is read is under the cursor again, or nothing.
@@ -137,7 +198,10 @@ void CVorl_ADVView::keyPressEvent(QKeyEvent* event) {
 }
 
 void CVorl_ADVView::leaveEvent(QEvent* event) {
-    Q_EMIT cursorLeft(pane_);
+    // A tool's values stay: they are not those under the mouse.
+    if (!tool_) {
+        Q_EMIT cursorLeft(pane_);
+    }
     QWidget::leaveEvent(event);
 }
 
@@ -149,7 +213,22 @@ void CVorl_ADVView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
 }
 
+void CVorl_ADVView::focusOutEvent(QFocusEvent* event) {
+    if (tool_) {
+        tool_->giveUpDrag();
+    }
+    QWidget::focusOutEvent(event);
+}
+
+void CVorl_ADVView::resizeEvent(QResizeEvent* event) {
+    endTool();
+    QWidget::resizeEvent(event);
+}
+
 void CVorl_ADVView::contextMenuEvent(QContextMenuEvent* event) {
+    if (tool_ || std::exchange(menuSpent_, false)) {
+        return;
+    }
     Q_EMIT activated(pane_);
     Q_EMIT menuRequested(pane_, event->globalPos());
 }

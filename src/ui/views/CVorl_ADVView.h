@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QWidget>
+#include <memory>
 #include <optional>
 
 #include "model/Stages.h"
@@ -13,12 +14,15 @@ class QRubberBand;
 
 namespace vorlan {
 
+class PaneTool;
+
 /// One of the four panes: paints what it was given and reports the mouse. It knows no document and computes nothing.
 class CVorl_ADVView : public QWidget {
     Q_OBJECT
 
   public:
     CVorl_ADVView(Pane pane, QWidget* parent);
+    ~CVorl_ADVView() override;
 
     Pane pane() const { return pane_; }
     void setContent(PaneContent content);
@@ -34,6 +38,17 @@ class CVorl_ADVView : public QWidget {
     const std::optional<CScreenUtils>& geometry() const { return geometry_; }
     /// The pane as a picture of its size on a white page.
     QImage bitmap() const;
+    /// Paints the content where it stands in the pane; geometry of its diagram.
+    std::optional<CScreenUtils> paintContent(QPainter& painter) const;
+
+    /// Gives the mouse and the keys of the pane to a tool. Other content, another size, another active view and
+    /// endTool() end it.
+    void beginTool(std::unique_ptr<PaneTool> tool);
+    void endTool();
+    /// The tool that is at work, or null.
+    PaneTool* tool() const { return tool_.get(); }
+    /// Draws a slope triangle over the diagram until the tool ends.
+    void showTriangle(const SlopeTriangle& triangle);
 
     QSize sizeHint() const override { return {480, 300}; }
     QSize minimumSizeHint() const override { return {40, 30}; }
@@ -47,6 +62,7 @@ class CVorl_ADVView : public QWidget {
     void intervalDragged(vorlan::Pane pane, int fromX, int toX);
     void intervalChosen(vorlan::Pane pane, int fromX, int toX);
     void menuRequested(vorlan::Pane pane, QPoint globalPosition);
+    void toolEnded(vorlan::Pane pane);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -56,6 +72,8 @@ class CVorl_ADVView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
@@ -73,6 +91,8 @@ class CVorl_ADVView : public QWidget {
     std::optional<int> dragFrom_;
     QPoint cursor_;  ///< where the mouse was last
     QRubberBand* band_ = nullptr;
+    std::unique_ptr<PaneTool> tool_;
+    bool menuSpent_ = false;  ///< the right button was the tool's: it opens no menu
 };
 
 /// Left top: records over time, means, correlation functions.
