@@ -33,9 +33,8 @@ FrameAttributesType frameInSlot(const SAdvSet& set, const SAdvProbe* probe, cons
 /// The probe that file and probe name, null when they name none.
 const SAdvProbe* probeAt(const SAdvSet& set, int file, int probe);
 
-/// Status bar text for a cursor at pixel (px, py) of a drawn diagram: the values under it in time series and
-/// correlation functions, the position on the axis ("Time: %.2fs", "Lag: %.2fs") in other diagrams over time and lag
-/// and beside the plot area; empty elsewhere.
+/// Status bar text for a cursor at pixel (px, py) of a drawn diagram: the values under it, only the position on the
+/// axis ("Time: %.2fs", "Lag: %.2fs") in other diagrams over time and lag and beside the plot area; empty for plans.
 std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUtils& geometry, int px, int py);
 
 /// Status bar text while a time interval is dragged between two pixel columns, in either direction; empty for

@@ -16,6 +16,16 @@ std::string axisText(Quantity quantity, double x) {
         case Quantity::Correlation:
         case Quantity::Lag:
             return formatted("Lag: %.2fs", x);
+        case Quantity::Spectrum:
+        case Quantity::CrossSpectrum:
+        case Quantity::Coherence:
+        case Quantity::Phase:
+            return formatted("Frequency: %.3f", x);
+        case Quantity::Density:
+            return formatted("Velocity: %.2f cm/s", x);
+        case Quantity::ContributionRate:
+        case Quantity::TimeRate:
+            return formatted("Hole size: %.2f", x);
         case Quantity::Nothing:
             break;
     }
@@ -40,6 +50,19 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
                                                     : formatted("Time: %.2f s   Velocity: %.2f cm/s", x, y);
         case Quantity::Correlation:
             return formatted("Lag Time: %.2f s   Correlation : %.2f", x, y);
+        case Quantity::Spectrum:
+        case Quantity::CrossSpectrum:
+            return formatted("Frequency: %.3f   Spectral density: %.4g", x, y);
+        case Quantity::Coherence:
+            return formatted("Frequency: %.3f   Coherence: %.2f", x, y);
+        case Quantity::Phase:
+            return formatted("Frequency: %.3f   Phase: %.1f deg", x, y);
+        case Quantity::Density:
+            return formatted("Velocity: %.2f cm/s   Density: %.4f", x, y);
+        case Quantity::ContributionRate:
+            return formatted("Hole size: %.2f   Contribution rate: %.2f", x, y);
+        case Quantity::TimeRate:
+            return formatted("Hole size: %.2f   Fractional time: %.2f", x, y);
         default:
             return axisText(quantity, x);
     }

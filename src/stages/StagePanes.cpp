@@ -9,11 +9,11 @@ using enum Quantity;
 constexpr std::array<StageView, kStageCount> kViews = {{
     {describePreProcessing, {Record, Time, Time, Time}},
     {describeStationarity, {Time, Time, Time, Time}},
-    {describeHistograms, {Nothing, Nothing, Nothing, Nothing}},
-    {describeSpectra, {Correlation, Nothing, Lag, Nothing}},
+    {describeHistograms, {Density, Density, Density, Density}},
+    {describeSpectra, {Correlation, Spectrum, Lag, Nothing}},
     {describeVectors, {Nothing, Nothing, Nothing, Nothing}},
-    {describeQuadrants, {Nothing, Time, Nothing, Time}},
-    {describeCrossSpectra, {Correlation, Nothing, Nothing, Nothing}},
+    {describeQuadrants, {ContributionRate, Time, TimeRate, Time}},
+    {describeCrossSpectra, {Correlation, CrossSpectrum, Coherence, Phase}},
 }};
 
 }  // namespace

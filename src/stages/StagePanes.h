@@ -23,6 +23,13 @@ enum class Quantity {
     Correlation,
     Time,
     Lag,
+    Spectrum,
+    CrossSpectrum,
+    Coherence,
+    Phase,
+    Density,  ///< of a distribution
+    ContributionRate,
+    TimeRate,
     Nothing,
 };
 
