@@ -5,7 +5,9 @@
 #include <nlohmann/json.hpp>
 #include <span>
 
+#include "analysis/DissipationRate.h"
 #include "analysis/EditingAssessment.h"
+#include "analysis/MicroScales.h"
 #include "analysis/RotationSettings.h"
 #include "model/Printable.h"
 #include "model/ProbeInformation.h"
@@ -27,14 +29,23 @@ Json momentsAsJson(const Moments& m) {
     return {{"mean", m.mean}, {"variance", m.variance}, {"skewness", m.skewness}, {"kurtosis", m.kurtosis}};
 }
 
-Json resultsAsJson(const SAdvProbe& probe) {
+Json resultsAsJson(const SAdvProbe& probe, const WorkspaceSettings& settings) {
     const std::span<const double> block = probe.resultBlock;
-    return {{"dissipation", block[SAdvProbe::kDissipationRate]},
-            {"timeScales", block.subspan(SAdvProbe::kTimeScales, 3)},
-            {"spectrumIntegrals", block.subspan(SAdvProbe::kSpectrumIntegrals, 3)}};
+    const double rate = block[SAdvProbe::kDissipationRate];
+    Json json = {{"dissipation", rate},
+                 {"timeScales", block.subspan(SAdvProbe::kTimeScales, 3)},
+                 {"spectrumIntegrals", block.subspan(SAdvProbe::kSpectrumIntegrals, 3)},
+                 {"convectiveVelocity", convectiveVelocity(probe, settings)},
+                 {"kolmogorov", nullptr},
+                 {"acceleration", nullptr}};
+    if (rate > 0.0) {
+        json["kolmogorov"] = kolmogorovMicroScale(rate);
+        json["acceleration"] = turbulentAcceleration(rate);
+    }
+    return json;
 }
 
-Json probeAsJson(const SAdvProbe& probe) {
+Json probeAsJson(const SAdvProbe& probe, const WorkspaceSettings& settings) {
     Json json;
     json["number"] = probe.probeNumber;
     json["samples"] = SAdvProbe::ColumnLength(probe.SampledVelocities());
@@ -53,7 +64,7 @@ Json probeAsJson(const SAdvProbe& probe) {
         json["stressMoments"].push_back(momentsAsJson(probe.StressMoments(i)));
     }
     json["spectral"] = {{"lags", probe.spectralLags}, {"window", probe.spectralWindow}, {"unit", probe.spectralUnit}};
-    json["results"] = resultsAsJson(probe);
+    json["results"] = resultsAsJson(probe, settings);
     return json;
 }
 
@@ -107,17 +118,21 @@ std::string momentsRow(const char* name, const Moments& m) {
 
 std::string resultsText(const SAdvProbe& probe) {
     const double* block = probe.resultBlock.data();
-    const auto given = [](double v) { return v != 0.0; };
+    const double rate = block[SAdvProbe::kDissipationRate];
     std::string text;
-    if (given(block[SAdvProbe::kDissipationRate])) {
-        text += formatted("    Dissipation rate %g cm^2/s^3\n", block[SAdvProbe::kDissipationRate]);
+    if (probe.HasResults(SAdvProbe::kDissipationRate)) {
+        text += formatted("    Dissipation rate %g cm^2/s^3\n", rate);
+    }
+    if (rate > 0.0) {
+        text += formatted("    Kolmogorov's micro-scale %g cm, mean turbulent acceleration %g g\n",
+                          kolmogorovMicroScale(rate), turbulentAcceleration(rate));
     }
     const double* scales = block + SAdvProbe::kTimeScales;
-    if (std::any_of(scales, scales + 3, given)) {
+    if (probe.HasResults(SAdvProbe::kTimeScales)) {
         text += formatted("    Time scales %g, %g, %g s\n", scales[0], scales[1], scales[2]);
     }
     const double* integrals = block + SAdvProbe::kSpectrumIntegrals;
-    if (std::any_of(integrals, integrals + 3, given)) {
+    if (probe.HasResults(SAdvProbe::kSpectrumIntegrals)) {
         text += formatted("    Integrals of spectra %g, %g, %g (cm/s)^2\n", integrals[0], integrals[1], integrals[2]);
     }
     return text;
@@ -174,7 +189,7 @@ std::string summaryAsJson(const Workspace& workspace, const std::string& version
     for (const SAdvFile& file : workspace.dataFiles.files) {
         Json probes = Json::array();
         for (const SAdvProbe& probe : file.probes) {
-            probes.push_back(probeAsJson(probe));
+            probes.push_back(probeAsJson(probe, workspace.settings));
         }
         json["files"].push_back({{"name", utf8Text(file.fileName)}, {"probes", std::move(probes)}});
     }
