@@ -8,6 +8,7 @@
 #include "plot/DataExtent.h"
 #include "plot/FixedMeasure.h"
 #include "plot/PolylineEnvelope.h"
+#include "plot/SlopeTriangle.h"
 
 using namespace vorlan;
 
@@ -163,4 +164,30 @@ TEST(SeriesShapes, NamesOfPointsAvoidEachOtherAndArrows) {
     for (const PlacedText& text : texts) {
         EXPECT_FALSE(clippedLine({{60, 60}, {100, 60}}, text.box)) << text.text;
     }
+}
+
+TEST(SeriesShapes, SlopeTrianglesFollowTheirPowerLaw) {
+    CScreenUtils g = unitGeometry();
+    g.xMin = g.yMin = 1.0;
+    g.xScale = g.yScale = 40.0;
+    g.scaleType = ScaleType::Logarithmic;
+    const FixedMeasure measure;
+    const SlopeTriangle triangle{2.0, 20.0, 64.0, -1.5, "-3/2"};
+    const SlopeTriangleShape logarithmic = slopeTriangleShape(triangle, g, {}, measure, 1.0);
+    const Spot begin{g.xPixel(2.0), g.yPixel(64.0)};
+    const Spot end{g.xPixel(20.0), g.yPixel(64.0 * std::pow(10.0, -1.5))};
+    EXPECT_EQ(logarithmic.slope, (std::vector<Spot>{begin, end}));
+    EXPECT_EQ(logarithmic.legs, (std::vector<Spot>{begin, {end.x, begin.y}, end}));
+    ASSERT_EQ(logarithmic.texts.size(), 1U);
+    EXPECT_GT(logarithmic.texts[0].box.left, end.x);
+
+    g.xMin = g.yMin = 0.0;
+    g.xScale = g.yScale = 1.0;
+    g.scaleType = ScaleType::Linear;
+    const SlopeTriangleShape linear = slopeTriangleShape(triangle, g, {}, measure, 1.0);
+    ASSERT_EQ(linear.slope.size(), 19U);
+    for (const Spot& spot : linear.slope) {
+        EXPECT_EQ(spot.y, 110 - static_cast<int>(64.0 * std::pow((spot.x - 10) / 2.0, -1.5)));
+    }
+    EXPECT_TRUE(slopeTriangleShape({0.0, 20.0, 64.0, -1.5, ""}, g, {}, measure, 1.0).slope.empty());
 }

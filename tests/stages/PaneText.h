@@ -89,12 +89,13 @@ inline std::string tableText(const TableContent& table) {
     text += "\n";
     for (const TableContent::Row& row : table.rows) {
         text += "  " + row.title;
-        for (const double value : row.values) {
-            text += formatted(" | %.6g", value);
+        for (std::size_t i = 0; i < row.values.size(); ++i) {
+            const bool empty = std::find(row.empty.begin(), row.empty.end(), i) != row.empty.end();
+            text += empty ? " |" : formatted(" | %.6g", row.values[i]);
         }
         text += "\n";
     }
-    return text;
+    return text + (table.note.empty() ? "" : "  " + table.note + "\n");
 }
 
 inline std::string paneText(const PaneContent& content) {
