@@ -77,6 +77,7 @@ if [ -n "$record" ]; then
     "$batch" run --recipe clip.toml --out clipped.avp tidal.avp
     "$batch" render --stage vectors --pane right-top --size 420x150 --out direction.png clipped.avp
     keep direction.png walk-direction
+    "$pictures/tools.sh" "$build" "$record"
     "$batch" run --recipe "$docs/walk-quadrants.toml" tidal.avp
     keep tidal-quadrants.png walk-quadrants-shorter
     "$batch" import --out coarse.avp --interval 0.03125 --resolution 0.1 "$record"
