@@ -16,7 +16,7 @@ namespace vorlan {
 namespace {
 constexpr int kFrameWidth = 2;
 // A drag below this many pixels is a click.
-constexpr int kSmallestDrag = 3;
+constexpr int kSmallestDrag = 8;
 }  // namespace
 
 CVorl_ADVView::CVorl_ADVView(Pane pane, QWidget* parent) : QWidget(parent), pane_(pane) {
@@ -107,10 +107,11 @@ std::optional<CScreenUtils> CVorl_ADVView::paintContent(QPainter& painter) const
 }
 
 void CVorl_ADVView::setIntervalSelection(bool on) {
-    intervalSelection_ = on;
-    if (!on) {
+    if (intervalSelection_ && !on) {
         endDrag();
+        unsetCursor();
     }
+    intervalSelection_ = on;
 }
 
 void CVorl_ADVView::showBand(int toX) {
@@ -154,6 +155,13 @@ void CVorl_ADVView::mouseMoveEvent(QMouseEvent* event) {
     cursor_ = event->position().toPoint();
     if (tool_ && tool_->mouseMove(*event)) {
         return;
+    }
+    if (dragFrom_.has_value() && !event->buttons().testFlag(Qt::LeftButton)) {
+        // Released where this window did not see it.
+        endDrag();
+    }
+    if (intervalSelection_ && geometry_.has_value()) {
+        setCursor(geometry_->contains(cursor_.x(), cursor_.y()) ? Qt::CrossCursor : Qt::ArrowCursor);
     }
     if (dragFrom_.has_value() && geometry_.has_value()) {
         const int to = withinPlot(cursor_.x());
@@ -214,6 +222,7 @@ void CVorl_ADVView::focusInEvent(QFocusEvent* event) {
 }
 
 void CVorl_ADVView::focusOutEvent(QFocusEvent* event) {
+    endDrag();
     if (tool_) {
         tool_->giveUpDrag();
     }
