@@ -39,9 +39,27 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
 bool isFolder(std::FILE* file) {
     struct stat status {};
     return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+void readNodes(SBndFile& boundary, std::FILE* file) {
+    const CNumbers numbers;
+    // The end mark is set only by a read that meets it: without this look ahead an empty file would be a bad line.
+    std::ungetc(std::getc(file), file);
+    for (int node = 0; std::feof(file) == 0; ++node) {
+        float x = 0.0F;
+        float y = 0.0F;
+        float z = 0.0F;
+        // The blank behind the numbers skips all white space, so that the end is met after the last line.
+        if (std::fscanf(file, "%f %f %f\n", &x, &y, &z) < 3) {
+            throw BoundaryFormatError(boundary.path);
+        }
+        boundary.SetNode(node, x, y, z);
+    }
 }
 
 }  // namespace
@@ -53,26 +71,25 @@ BoundaryFormatError::BoundaryFormatError(const std::string& path)
     : FileError(Kind::Format, path, "Format of the file " + path + " is invalid !") {}
 
 void readBoundary(SBndFile& boundary) {
-    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(boundary.path.c_str(), "rb"));
+    const File file(std::fopen(boundary.path.c_str(), "rb"));
     if (file == nullptr || isFolder(file.get())) {
         throw BoundaryOpenError(boundary.path);
     }
-    const CNumbers numbers;
-    // The end mark is set only by a read that meets it: without this look ahead an empty file would be a bad line.
-    std::ungetc(std::getc(file.get()), file.get());
-    for (int node = 0; std::feof(file.get()) == 0; ++node) {
-        float x = 0.0F;
-        float y = 0.0F;
-        float z = 0.0F;
-        // The blank behind the numbers skips all white space, so that the end is met after the last line.
-        if (std::fscanf(file.get(), "%f %f %f\n", &x, &y, &z) < 3) {
-            throw BoundaryFormatError(boundary.path);
-        }
-        boundary.SetNode(node, x, y, z);
-    }
+    readNodes(boundary, file.get());
 }
 
-void writeBoundary(const SBndFile& boundary) {
+void readBoundary(SBndFile& boundary, std::string_view text) {
+    if (text.empty()) {
+        return;
+    }
+    const File file(::fmemopen(const_cast<char*>(text.data()), text.size(), "rb"));
+    if (file == nullptr) {
+        throw std::bad_alloc();
+    }
+    readNodes(boundary, file.get());
+}
+
+std::string boundaryText(const SBndFile& boundary) {
     std::string text;
     for (int i = 0; i < boundary.NodeCount(); ++i) {
         appendFixed(text, boundary.x.GetValue(i), 6);
@@ -82,11 +99,19 @@ void writeBoundary(const SBndFile& boundary) {
         appendFixed(text, boundary.z.GetValue(i), 6);
         text += '\n';
     }
+    return text;
+}
+
+void writeBoundary(const SBndFile& boundary) {
+    writeBoundary(boundary.path, boundaryText(boundary));
+}
+
+void writeBoundary(const std::string& path, std::string_view text) {
     std::unique_ptr<AtomicFile> file;
     try {
-        file = std::make_unique<AtomicFile>(boundary.path);
+        file = std::make_unique<AtomicFile>(path);
     } catch (const FileError&) {
-        throw BoundaryOpenError(boundary.path);
+        throw BoundaryOpenError(path);
     }
     file->write(text);
     file->commit();

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "io/FileError.h"
 #include "model/SBndSet.h"
 
@@ -22,8 +25,16 @@ class BoundaryFormatError : public FileError {
 /// nodes. BoundaryOpenError changes nothing; after BoundaryFormatError the nodes before the bad line stay.
 void readBoundary(SBndFile& boundary);
 
-/// Writes the nodes to boundary.path, one line "%f %f %f\n" each. BoundaryOpenError when the file cannot be written;
+/// The same from a text that stands for the file at boundary.path.
+void readBoundary(SBndFile& boundary, std::string_view text);
+
+/// The nodes as such a file holds them, one line "%f %f %f\n" each.
+std::string boundaryText(const SBndFile& boundary);
+
+/// Writes the nodes to boundary.path. BoundaryOpenError when the file cannot be written;
 /// FileError when the disk fails on the way; the old file stays in both cases.
 void writeBoundary(const SBndFile& boundary);
+/// The same for a text that was made before.
+void writeBoundary(const std::string& path, std::string_view text);
 
 }  // namespace vorlan
