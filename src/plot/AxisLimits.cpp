@@ -13,6 +13,8 @@ namespace {
 constexpr double kIntervalTolerance = 1e-9;
 constexpr double kLargestLimit = 1e300;
 constexpr int kMostMarks = 1000000;
+constexpr double kLabelTolerance = 0.02;
+constexpr int kMostDigits = 9;
 // Ends that differ by less than their rounding errors count as equal.
 constexpr double kSmallestRelativeRange = 1e-12;
 constexpr double kSmallestRange = 1e-290;
@@ -118,6 +120,22 @@ int fittedMarks(int n, int room, bool vertical) {
         n /= 2;
     }
     return vertical && n == 3 ? 2 : std::max(n, 1);
+}
+
+int labelDigits(const AxisLimits& limits, int least) {
+    const double tolerance = std::fabs(limits.step) * kLabelTolerance;
+    for (int digits = std::max(least, 0); digits < kMostDigits; ++digits) {
+        const double power = std::pow(10.0, digits);
+        bool exact = true;
+        for (int i = 0; i <= limits.marks && exact; ++i) {
+            const double label = limits.lower + i * limits.step;
+            exact = std::fabs(std::round(label * power) / power - label) <= tolerance;
+        }
+        if (exact) {
+            return digits;
+        }
+    }
+    return kMostDigits;
 }
 
 AxisLimits withMarks(const AxisLimits& limits, int n) {

@@ -53,6 +53,9 @@ AxisLimits logarithmicLimits(const AxisRule& rule, const DataInterval& data, int
 /// room is how many labels fit beside each other. On a vertical axis 3 becomes 2.
 int fittedMarks(int n, int room, bool vertical);
 
+/// Fewest digits, from least to 9, with which no label of the axis is off by more than 2 % of a step.
+int labelDigits(const AxisLimits& limits, int least);
+
 /// limits with n intervals: step = (upper - lower) / n.
 AxisLimits withMarks(const AxisLimits& limits, int n);
 

@@ -62,10 +62,14 @@ struct Diagram {
         double x;
         double y;
         std::string text;
+        std::string detail = {};  ///< what a read-out tells of the point
     };
     std::vector<PointLabel> labels;
     /// Drawn over the series; they move no limits and have no entry in the legend.
     std::vector<SlopeTriangle> triangles;
+    /// Of a plan: its automatic limits enclose the markers, arrows and names at its points, points on one spot get this
+    /// room around them, and its labels have the digits that they need. Data units.
+    std::optional<double> planRoom;
 };
 
 /// What a pane says in the place of a diagram without a value.

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "plot/PaintSeries.h"
+#include "plot/PointNames.h"
 #include "plot/QtText.h"
 #include "plot/SPlotFrame.h"
 #include "plot/STable.h"
@@ -81,7 +82,7 @@ class PanePainter {
         const SAxis& axis = layout.axes.front();
         drawLines(layout.grid, linePen(axis.gridColour, axis.gridPenWidth, axis.gridPenStyle, options_.lengthScale));
         for (const PlotSeries& series : diagram.plot.series) {
-            paintSeries(painter_, series, layout.geometry, options_.lengthScale);
+            paintSeries(painter_, series, layout.geometry, {options_.lengthScale, options_.background, paneBox()});
         }
         for (const SlopeTriangle& triangle : diagram.triangles) {
             drawTriangle(
@@ -98,6 +99,12 @@ class PanePainter {
   private:
     int scaled(int pixels) const { return static_cast<int>(std::lround(pixels * options_.lengthScale)); }
     Box paneBox() const { return {area_.left(), area_.top(), area_.right() + 1, area_.bottom() + 1}; }
+
+    QColor translucentBackground() const {
+        QColor colour = options_.background;
+        colour.setAlpha(kLegendOpacity);
+        return colour;
+    }
 
     void drawLines(const std::vector<Line>& lines, const QPen& pen) {
         painter_.setPen(pen);
@@ -120,12 +127,11 @@ class PanePainter {
         }
         if (legend.inPlotArea) {
             const Box& box = legend.box;
-            painter_.fillRect(QRect(box.left, box.top, box.width(), box.height()),
-                              QColor(255, 255, 255, kLegendOpacity));
+            painter_.fillRect(QRect(box.left, box.top, box.width(), box.height()), translucentBackground());
         }
         drawTexts(painter_, legend.title, measure_, options_.fontScale);
         for (const SLegend::Entry& entry : legend.entries) {
-            paintLegendSample(painter_, entry, entry.text.box.height(), options_.lengthScale);
+            paintLegendSample(painter_, entry, entry.text.box.height(), options_.lengthScale, options_.background);
             painter_.setPen(Qt::black);
             drawTexts(painter_, std::span(&entry.text, 1), measure_, options_.fontScale);
         }
@@ -148,7 +154,7 @@ std::optional<CScreenUtils> paintPane(QPainter& painter, const QRect& area, cons
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setRenderHint(QPainter::TextAntialiasing, true);
     painter.setClipRect(area, Qt::IntersectClip);
-    painter.fillRect(area, Qt::white);
+    painter.fillRect(area, options.background);
     painter.setPen(Qt::black);
     painter.setBrush(Qt::NoBrush);
     const std::optional<CScreenUtils> geometry = std::visit(PanePainter(painter, area, options), content);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QPainter>
 #include <QRect>
 
@@ -14,9 +15,10 @@ struct RenderOptions {
     double fontScale = 1.0;
     /// Device pixels per logical pixel of ticks, gaps, pens and markers.
     double lengthScale = 1.0;
+    QColor background = Qt::white;
 };
 
-/// Paints content into area (white page included) and returns the geometry of its diagram for read-outs; an empty
+/// Paints content into area (the page included) and returns the geometry of its diagram for read-outs; an empty
 /// optional when no diagram was drawn ("Increase Size to View Data", tables, messages).
 std::optional<CScreenUtils> paintPane(QPainter& painter, const QRect& area, const PaneContent& content,
                                       const RenderOptions& options = {});

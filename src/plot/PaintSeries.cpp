@@ -63,11 +63,11 @@ void paintMarker(QPainter& painter, MarkerKind kind, const Spot& spot, int size,
 }
 
 void paintMarkers(QPainter& painter, const SeriesAtrType& attributes, const std::vector<Spot>& spots,
-                  double lengthScale) {
-    // Markers are small: a thin pen keeps their shapes apart, a white inside keeps lines out of them.
+                  double lengthScale, const QColor& background) {
+    // Markers are small: a thin pen keeps their shapes apart, an empty inside keeps lines out of them.
     const QPen pen = linePen(attributes.colour, 1, 0, lengthScale);
     painter.setPen(pen);
-    painter.setBrush(Qt::white);
+    painter.setBrush(background);
     const int size = scaledSize(attributes.markerSize, kLargestMarker, lengthScale);
     for (const Spot& spot : spots) {
         paintMarker(painter, attributes.markerKind, spot, size, pen);
@@ -89,10 +89,18 @@ void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box
     }
 }
 
-void paintArrow(QPainter& painter, const Arrow& arrow) {
-    drawLine(painter, arrow.shaft);
-    for (const Line& stroke : arrow.head) {
-        drawLine(painter, stroke);
+// The painter's pen draws the shafts; heads are too small for dashes.
+void paintArrows(QPainter& painter, const std::vector<Arrow>& arrows) {
+    for (const Arrow& arrow : arrows) {
+        drawLine(painter, arrow.shaft);
+    }
+    QPen solid = painter.pen();
+    solid.setStyle(Qt::SolidLine);
+    painter.setPen(solid);
+    for (const Arrow& arrow : arrows) {
+        for (const Line& stroke : arrow.head) {
+            drawLine(painter, stroke);
+        }
     }
 }
 
@@ -192,12 +200,16 @@ void fillColumnRuns(QPainter& painter, const ColumnRuns& runs, const QPen& pen) 
     }
 }
 
-void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
-    painter.save();
-    painter.setClipRect(
-        QRect(geometry.originX, geometry.originY - geometry.height, geometry.width + 1, geometry.height + 1),
-        Qt::IntersectClip);
+void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry,
+                 const SeriesOptions& options) {
+    const double lengthScale = options.lengthScale;
     const SeriesAtrType& attributes = series.attributes;
+    painter.save();
+    if (attributes.style != SeriesStyle::Arrows) {
+        painter.setClipRect(
+            QRect(geometry.originX, geometry.originY - geometry.height, geometry.width + 1, geometry.height + 1),
+            Qt::IntersectClip);
+    }
     switch (attributes.style) {
         case SeriesStyle::Line:
             paintLine(painter, series, geometry, lengthScale);
@@ -206,24 +218,28 @@ void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils
             paintLine(painter, series, geometry, lengthScale);
             [[fallthrough]];
         case SeriesStyle::Markers:
-            paintMarkers(painter, attributes, markerSpots(series, geometry), lengthScale);
+            paintMarkers(painter, attributes, markerSpots(series, geometry), lengthScale, options.background);
             break;
         case SeriesStyle::Bars:
             for (const Box& box : barBoxes(series, geometry)) {
                 paintBar(painter, attributes, box.common(plotArea(geometry)), lengthScale);
             }
             break;
-        case SeriesStyle::Arrows:
-            painter.setPen(seriesPen(attributes, attributes.penStyle, lengthScale));
+        case SeriesStyle::Arrows: {
+            std::vector<Arrow> visible;
             for (const Arrow& arrow : arrows(series, geometry, lengthScale)) {
-                paintArrow(painter, clipsByItself(painter) ? arrow : clipped(arrow, plotArea(geometry)));
+                visible.push_back(clipped(arrow, options.pane));
             }
+            painter.setPen(seriesPen(attributes, attributes.penStyle, lengthScale));
+            paintArrows(painter, visible);
             break;
+        }
     }
     painter.restore();
 }
 
-void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale) {
+void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale,
+                       const QColor& background) {
     const SeriesAtrType& attributes = entry.attributes;
     const Spot& start = entry.sampleStart;
     const Spot end{start.x + entry.sampleLength, start.y};
@@ -236,8 +252,8 @@ void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineH
             break;
         }
         case SeriesStyle::Arrows:
-            paintArrow(painter,
-                       arrowShape(start, end, attributes.arrowHeadLength * lengthScale, attributes.arrowHeadAngle));
+            paintArrows(painter,
+                        {arrowShape(start, end, attributes.arrowHeadLength * lengthScale, attributes.arrowHeadAngle)});
             break;
         case SeriesStyle::Line:
             drawLine(painter, {start, end});
@@ -246,7 +262,7 @@ void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineH
             drawLine(painter, {start, end});
             [[fallthrough]];
         case SeriesStyle::Markers:
-            paintMarkers(painter, attributes, {middle}, lengthScale);
+            paintMarkers(painter, attributes, {middle}, lengthScale, background);
             break;
     }
 }

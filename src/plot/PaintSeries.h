@@ -23,10 +23,19 @@ void strokePolylines(QPainter& painter, const Polylines& lines);
 /// time.
 void fillColumnRuns(QPainter& painter, const ColumnRuns& runs, const QPen& pen);
 
-/// Draws one series, clipped to the plot area.
-void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale);
+/// What the painting of a series depends on besides its own attributes.
+struct SeriesOptions {
+    double lengthScale = 1.0;
+    QColor background = Qt::white;  ///< the inside of markers
+    Box pane = {};                  ///< where arrows end that are too long
+};
+
+/// Draws one series, clipped to the plot area; arrows from points on the plot area are clipped to the pane.
+void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry,
+                 const SeriesOptions& options);
 
 /// Draws the sample of a legend entry as its series is drawn.
-void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale);
+void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale,
+                       const QColor& background);
 
 }  // namespace vorlan

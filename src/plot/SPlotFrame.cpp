@@ -5,6 +5,7 @@
 
 #include "model/Text.h"
 #include "plot/DataExtent.h"
+#include "plot/PlanExtent.h"
 
 namespace vorlan {
 
@@ -17,6 +18,7 @@ constexpr int kLongestStroke = 200;
 constexpr int kMostTicks = 100;
 constexpr double kLargestLegend = 0.25;  // share of the plot area that a legend may cover
 constexpr int kSmallestDecade = 4;       // pixels
+constexpr int kMostPlanLayouts = 8;
 
 bool blank(const std::string& text) {
     return text.find_first_not_of(' ') == std::string::npos;
@@ -25,21 +27,18 @@ bool blank(const std::string& text) {
 // One layout in the making.
 class Composer {
   public:
-    Composer(const Diagram& diagram, const TextMeasure& measure, double scale, const Box& pane)
-        : diagram_(diagram), frame_(diagram.frame), measure_(measure), scale_(scale), pane_(pane) {
+    Composer(const Diagram& diagram, const TextMeasure& measure, double scale, const Box& pane,
+             const DataExtent& extent)
+        : diagram_(diagram), frame_(diagram.frame), measure_(measure), scale_(scale), pane_(pane), extent_(extent) {
         out_.geometry.scaleType = SPlotFrame::effectiveScale(diagram);
         logX_ = out_.geometry.logX();
         logY_ = out_.geometry.logY();
     }
 
     FrameLayout compose() {
-        const std::optional<DataExtent> extent = dataExtent(diagram_.plot, logX_, logY_);
-        if (!extent) {
-            return std::move(out_);
-        }
         out_.state = FrameLayout::State::TooSmall;
         prepareAxes();
-        chooseLimits(*extent);
+        chooseLimits();
         if (!placeVertically() || !fitY() || !placeHorizontally() || !fitX()) {
             return std::move(out_);
         }
@@ -83,15 +82,15 @@ class Composer {
         labelHeight_ = x_.markLength == 0 ? 0 : measure_.height(frame_.labelFont);
     }
 
-    void chooseLimits(const DataExtent& extent) {
-        DataInterval times = extent.x;
+    void chooseLimits() {
+        DataInterval times = extent_.x;
         if (diagram_.duration && frame_.xMinMode != 0) {
             times.highest = frame_.xMin + *diagram_.duration;
         }
         const AxisRule xRule = xAxisRule(diagram_);
         const AxisRule yRule = yAxisRule(frame_);
         if (logX_) {
-            xLimits_ = logarithmicLimits(xRule, extent.x, (pane_.width()) / scaled(kSmallestDecade));
+            xLimits_ = logarithmicLimits(xRule, extent_.x, (pane_.width()) / scaled(kSmallestDecade));
             xAutomatic_ = false;
         } else {
             const LinearLimits chosen = linearLimits(xRule, times, kXManner);
@@ -99,12 +98,20 @@ class Composer {
             xAutomatic_ = chosen.automaticStep;
         }
         if (logY_) {
-            yLimits_ = logarithmicLimits(yRule, extent.y, (pane_.height() / 2) / scaled(kSmallestDecade));
+            yLimits_ = logarithmicLimits(yRule, extent_.y, (pane_.height() / 2) / scaled(kSmallestDecade));
             yAutomatic_ = false;
         } else {
-            const LinearLimits chosen = linearLimits(yRule, extent.y, kYManner);
+            const LinearLimits chosen = linearLimits(yRule, extent_.y, kYManner);
             yLimits_ = chosen.limits;
             yAutomatic_ = chosen.automaticStep;
+        }
+        chooseDigits(x_, xLimits_, frame_.xStepMode, frame_.xDigits);
+    }
+
+    // Digits that the user has chosen, or that go with his step, stay.
+    void chooseDigits(SAxis& axis, const AxisLimits& limits, int stepMode, int stored) const {
+        if (diagram_.planRoom && stepMode == 0 && stored == FrameAttributesType().xDigits) {
+            axis.decimalDigits = labelDigits(limits, stored);
         }
     }
 
@@ -174,7 +181,11 @@ class Composer {
         return room >= 1 && axis.pixelsPerMark >= 1;
     }
 
-    bool fitY() { return fit(y_, yLimits_, yAutomatic_, out_.geometry.height, labelHeight_); }
+    bool fitY() {
+        const bool fits = fit(y_, yLimits_, yAutomatic_, out_.geometry.height, labelHeight_);
+        chooseDigits(y_, limitsOf(y_), frame_.yStepMode, frame_.yDigits);
+        return fits;
+    }
 
     bool placeHorizontally() {
         const int xLabel = endLabelWidth(x_, xLimits_, logX_);
@@ -194,7 +205,24 @@ class Composer {
         return out_.geometry.width >= scaled(kSmallestWidth);
     }
 
-    bool fitX() { return fit(x_, xLimits_, xAutomatic_, out_.geometry.width, xLabelWidth_); }
+    bool fitX() {
+        for (;;) {
+            const int measured = x_.decimalDigits;
+            const bool fits = fit(x_, xLimits_, xAutomatic_, out_.geometry.width, xLabelWidth_);
+            chooseDigits(x_, limitsOf(x_), frame_.xStepMode, frame_.xDigits);
+            if (!fits || x_.decimalDigits <= measured) {
+                return fits;
+            }
+            // A step that was thinned may need longer labels than there was room for.
+            if (!placeHorizontally()) {
+                return false;
+            }
+        }
+    }
+
+    static AxisLimits limitsOf(const SAxis& axis) {
+        return {axis.minimum, axis.maximum, axis.markStep, axis.markCount};
+    }
 
     void finishAxes() {
         CScreenUtils& g = out_.geometry;
@@ -313,6 +341,7 @@ class Composer {
     const TextMeasure& measure_;
     double scale_;
     Box pane_;
+    const DataExtent& extent_;
     FrameLayout out_;
     bool logX_ = false;
     bool logY_ = false;
@@ -360,7 +389,23 @@ SPlotFrame::SPlotFrame(const Diagram& diagram, const TextMeasure& measure, doubl
     : diagram_(diagram), measure_(measure), scale_(lengthScale) {}
 
 FrameLayout SPlotFrame::layout(const Box& pane) const {
-    return Composer(diagram_, measure_, scale_, pane).compose();
+    const ScaleType scale = effectiveScale(diagram_);
+    const bool logX = scale == ScaleType::Logarithmic || scale == ScaleType::LogXLinearY;
+    const bool logY = scale == ScaleType::Logarithmic || scale == ScaleType::LinearXLogY;
+    const std::optional<DataExtent> points = dataExtent(diagram_.plot, logX, logY);
+    if (!points) {
+        return {};
+    }
+    if (!diagram_.planRoom) {
+        return Composer(diagram_, measure_, scale_, pane, *points).compose();
+    }
+    PlanExtent plan(diagram_, measure_, scale_, *points);
+    FrameLayout layout = Composer(diagram_, measure_, scale_, pane, plan.extent()).compose();
+    for (int i = 0; i < kMostPlanLayouts && layout.state == FrameLayout::State::Drawn && plan.grow(layout.geometry);
+         ++i) {
+        layout = Composer(diagram_, measure_, scale_, pane, plan.extent()).compose();
+    }
+    return layout;
 }
 
 ScaleType SPlotFrame::effectiveScale(const Diagram& diagram) {

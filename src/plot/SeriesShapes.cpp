@@ -12,7 +12,6 @@ namespace vorlan {
 namespace {
 
 constexpr double kSmallestHeadedShaft = 2.0;
-constexpr int kTextDistance = 6;
 
 bool placed(const PlotSeries& series, std::size_t i, const CScreenUtils& geometry, Spot& spot) {
     const double x = series.x.at(i);
@@ -120,49 +119,6 @@ std::vector<Arrow> arrows(const PlotSeries& series, const CScreenUtils& geometry
                                     attributes.arrowHeadLength * lengthScale, attributes.arrowHeadAngle));
     }
     return result;
-}
-
-std::vector<PlacedText> pointTexts(const Diagram& diagram, const CScreenUtils& geometry, const TextMeasure& measure,
-                                   double lengthScale) {
-    std::vector<PlacedText> texts;
-    const FontDescription& font = diagram.frame.labelFont;
-    const int distance = rounded(kTextDistance * lengthScale);
-    const int height = measure.height(font);
-    const Box plotArea{geometry.originX, geometry.originY - geometry.height, geometry.originX + geometry.width,
-                       geometry.originY};
-    std::vector<Line> shafts;
-    for (const PlotSeries& series : diagram.plot.series) {
-        if (series.attributes.style == SeriesStyle::Arrows && !diagram.labels.empty()) {
-            for (const Arrow& arrow : arrows(series, geometry, lengthScale)) {
-                shafts.push_back(arrow.shaft);
-            }
-        }
-    }
-    for (const Diagram::PointLabel& label : diagram.labels) {
-        if (!geometry.xPixels().places(label.x) || !geometry.yPixels().places(label.y)) {
-            continue;
-        }
-        const int x = geometry.xPixel(label.x);
-        const int y = geometry.yPixel(label.y);
-        if (!geometry.contains(x, y)) {
-            continue;
-        }
-        const int width = measure.width(label.text, font);
-        const Box atPoint{x, y - height / 2, x + width, y - height / 2 + height};
-        const int aside = height / 2 + distance;
-        const Box sides[] = {atPoint.moved(distance, 0),        atPoint.moved(-distance - width, 0),
-                             atPoint.moved(-width / 2, -aside), atPoint.moved(-width / 2, aside),
-                             atPoint.moved(distance, -aside),   atPoint.moved(distance, aside)};
-        const auto free = [&](const Box& box) {
-            const auto covered = [&](const PlacedText& text) { return text.box.overlaps(box); };
-            const auto crossed = [&](const Line& shaft) { return clippedLine(shaft, box).has_value(); };
-            return plotArea.encloses(box) && std::none_of(texts.begin(), texts.end(), covered) &&
-                   std::none_of(shafts.begin(), shafts.end(), crossed);
-        };
-        const auto* chosen = std::find_if(std::begin(sides), std::end(sides), free);
-        texts.push_back({label.text, chosen == std::end(sides) ? sides[0] : *chosen, font});
-    }
-    return texts;
 }
 
 }  // namespace vorlan

@@ -5,7 +5,6 @@
 #include "plot/CScreenUtils.h"
 #include "plot/Diagram.h"
 #include "plot/Shapes.h"
-#include "plot/TextMeasure.h"
 
 namespace vorlan {
 
@@ -33,10 +32,5 @@ Arrow arrowShape(const Spot& start, const Spot& end, double headLength, double h
 
 /// One arrow per point on the plot area, arrowScale * lengthScale pixels per unit of the vector.
 std::vector<Arrow> arrows(const PlotSeries& series, const CScreenUtils& geometry, double lengthScale);
-
-/// Texts beside points of the data, right of them where there is room and neither a text nor an arrow, else on
-/// another side.
-std::vector<PlacedText> pointTexts(const Diagram& diagram, const CScreenUtils& geometry, const TextMeasure& measure,
-                                   double lengthScale);
 
 }  // namespace vorlan

@@ -150,7 +150,7 @@ class PaintingTest : public QObject {
             });
             PlotSeries red = series;
             red.attributes.colour = 255;
-            const QImage filled = drawnIn(area, [&](QPainter& painter) { paintSeries(painter, red, g, 1.0); });
+            const QImage filled = drawnIn(area, [&](QPainter& painter) { paintSeries(painter, red, g, {}); });
             QVERIFY(polylineEnvelope(series, g).dense);
             const qint64 differences = differing(full, filled);
             QVERIFY2(differences * 10000 <= inked(full), qPrintable(QString::number(differences)));

@@ -7,6 +7,7 @@
 
 #include "plot/DataExtent.h"
 #include "plot/FixedMeasure.h"
+#include "plot/PointNames.h"
 #include "plot/PolylineEnvelope.h"
 #include "plot/SlopeTriangle.h"
 
