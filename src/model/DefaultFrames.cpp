@@ -98,6 +98,27 @@ FrameAttributesType defaultPlanFrame(int record) {
     return frame;
 }
 
+FrameAttributesType defaultPreviewFrame(int plane) {
+    FrameAttributesType frame;
+    frame.plotTitle = "Flow Bounds and Sampling Grid";
+    frame.xTitle = plane == 2 ? "Y" : "X";
+    frame.yTitle = plane == 0 ? "Y" : "Z";
+    frame.xMinMode = frame.xMaxMode = frame.yMinMode = frame.yMaxMode = 1;
+    frame.xMin = 0.0;
+    frame.xMax = 16.0;
+    frame.yMin = 0.0;
+    frame.yMax = 1.0;
+    frame.xStepMode = frame.yStepMode = 1;
+    frame.xStep = 2.0;
+    frame.yStep = 0.2;
+    frame.plotTitleFont = FontDescription("ARIAL", 12, 400);
+    frame.axisTitleFont = FontDescription("ARIAL", 14, 600, true);
+    frame.labelFont = FontDescription("ARIAL", 14, 600);
+    frame.legendFont = FontDescription("ARIAL", 14, 400);
+    frame.legendTitle = " ";
+    return frame;
+}
+
 void createDefaultFrames(SAdvProbe& probe) {
     for (int group = 0; group < static_cast<int>(probe.frameAttributes.size()); ++group) {
         SFrameAtrArray& frames = probe.frameAttributes[static_cast<std::size_t>(group)];

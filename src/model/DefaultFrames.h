@@ -15,6 +15,9 @@ FrameAttributesType defaultFrame(int group, int record);
 /// Default attributes of the plans that span the whole set: record 0 the means, 1 minima and maxima.
 FrameAttributesType defaultPlanFrame(int record);
 
+/// Default attributes of the grid editor's preview in a coordinate plane (0 XY, 1 XZ, 2 YZ).
+FrameAttributesType defaultPreviewFrame(int plane);
+
 /// Number of diagrams that a group has.
 int defaultFrameCount(int group);
 

@@ -11,6 +11,19 @@ namespace vorlan {
 /// Mean U, V, W (cm/s) of the working record over the samples that count; not finite without any.
 std::array<double, 3> meanVelocities(const SAdvProbe& probe);
 
+/// The same; not numbers for a record whose columns do not belong together.
+std::array<double, 3> meanFlow(const SAdvProbe& probe);
+
+/// False for a record whose columns do not belong together.
+bool hasWholeRecord(const SAdvProbe& probe);
+
+/// Lowest and highest U, V, W (cm/s) of the working samples that count; not numbers where there are none.
+struct VelocityExtremes {
+    std::array<double, 3> lowest;
+    std::array<double, 3> highest;
+};
+VelocityExtremes velocityExtremes(const SAdvProbe& probe);
+
 /// Directions of the mean flow, degrees: atan2(V, U), atan2(W, U), atan2(W, V).
 struct FlowDirections {
     double heading = 0.0;

@@ -17,6 +17,9 @@ class SBndFile : public SObject {
     void Serialize(Archive& archive) override;
 
     int NodeCount() const { return x.GetSize(); }
+    /// Coordinate 0, 1 or 2 (x, y, z) of the nodes.
+    SArray& Axis(std::size_t axis) { return axis == 0 ? x : axis == 1 ? y : z; }
+    const SArray& Axis(std::size_t axis) const { return axis == 0 ? x : axis == 1 ? y : z; }
     void SetNode(int index, double nodeX, double nodeY, double nodeZ);
     /// Nodes from index on move up by one. InvalidArgument beyond the end.
     void InsertNode(int index, double nodeX, double nodeY, double nodeZ);

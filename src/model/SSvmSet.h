@@ -10,6 +10,9 @@ namespace vorlan {
 
 /// Sampling volumes of one data file: one entry per probe, in thousandths of a metre.
 struct SSvmFile {
+    /// Coordinate 0, 1 or 2 (x, y, z) of the probes.
+    const SArray& Axis(std::size_t axis) const { return axis == 0 ? x : axis == 1 ? y : z; }
+
     std::string name;
     SArray x{kCoordinateScale};
     SArray y{kCoordinateScale};

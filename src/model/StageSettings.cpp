@@ -72,4 +72,17 @@ Refusal refusalOf(const QuadrantSettings& settings) {
     return {};
 }
 
+Refusal refusalOf(const VectorSettings& settings) {
+    if (!(settings.pixels > 0)) {
+        return {"The number of pixels should be greater than 0!", "pixels"};
+    }
+    if (!(settings.speed > 0.0)) {
+        return {"The velocity of the scale should be greater than 0!", "speed"};
+    }
+    if (!(settings.smaller > 0.0)) {
+        return {"The scale of Min and Max Velocities should be greater than 0!", "smaller"};
+    }
+    return {};
+}
+
 }  // namespace vorlan

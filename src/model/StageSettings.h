@@ -146,6 +146,25 @@ struct QuadrantSettings {
     friend bool operator==(const QuadrantSettings&, const QuadrantSettings&) = default;
 };
 
+/// What the dialog "Vectors of Mean Velocities | View Parameters" edits.
+struct VectorSettings {
+    std::int32_t plane = 2;    ///< 0 XY, 1 XZ, 2 YZ
+    std::int32_t pixels = 50;  ///< an arrow of speed is this long
+    double speed = 10.0;       ///< cm/s
+    double smaller = 5.0;      ///< arrows of minima and maxima are this much smaller
+
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        constexpr double kInfinity = std::numeric_limits<double>::infinity();
+        constexpr Range kAboveZero{std::numeric_limits<double>::denorm_min(), kInfinity};
+        visit(SettingField{"plane", {}, {{"xy", 0}, {"xz", 1}, {"yz", 2}}}, self.plane);
+        visit(SettingField{"pixels", {1, kInfinity}}, self.pixels);
+        visit(SettingField{"speed", kAboveZero}, self.speed);
+        visit(SettingField{"smaller", kAboveZero}, self.smaller);
+    }
+    friend bool operator==(const VectorSettings&, const VectorSettings&) = default;
+};
+
 // Why a dialog may not be accepted; empty when it may.
 
 /// Only values equal to 0 are refused.
@@ -155,5 +174,6 @@ Refusal refusalOf(const HistogramSettings& settings);
 Refusal refusalOf(const SpectralSettings& settings);
 /// The texts promise more than the checks: thresholds of 0, a maximum of 2, a lag of 2 and a negative increment pass.
 Refusal refusalOf(const QuadrantSettings& settings);
+Refusal refusalOf(const VectorSettings& settings);
 
 }  // namespace vorlan

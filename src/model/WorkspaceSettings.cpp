@@ -74,7 +74,8 @@ void WorkspaceSettings::Serialize(Archive& archive) {
     }
     serializeAll(archive, quadrants.increment, quadrants.maximum, quadrants.ejectionThreshold, quadrants.sweepThreshold,
                  quadrants.maximumLag, quadrants.stressType);
-    serializeAll(archive, planPlane, planPixels, planSpeed, planSmaller, userMeanVelocity, meanVelocityMode);
+    serializeAll(archive, vectors.plane, vectors.pixels, vectors.speed, vectors.smaller, userMeanVelocity,
+                 meanVelocityMode);
 }
 
 }  // namespace vorlan

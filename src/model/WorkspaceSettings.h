@@ -35,12 +35,10 @@ struct WorkspaceSettings {
     int lastWindowCode = 0;      ///< choiceC: 0 rectangle, 1 Tukey, 2 Bartlett, 3 Parzen
     bool lastUnitIsRad = false;  ///< switchD
     QuadrantSettings quadrants;
-    std::int32_t planPlane = 2;    ///< 0 XY, 1 XZ, 2 YZ
-    std::int32_t planPixels = 50;  ///< an arrow of planSpeed cm/s is this long
-    double planSpeed = 10.0;
-    double planSmaller = 5.0;           ///< minimum and maximum arrows are this much smaller
+    VectorSettings vectors;
     double userMeanVelocity = 10.0;     ///< cm/s
     std::int32_t meanVelocityMode = 0;  ///< 0 averaged, 1 the user's
+    bool planChosen = false;            ///< not stored: the plane of the plans was chosen since the workspace was read
 
     /// 56 fields in their stored order. Coded fields out of range keep the value they have.
     void Serialize(Archive& archive);

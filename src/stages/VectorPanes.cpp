@@ -3,9 +3,8 @@
 #include <limits>
 
 #include "model/ProbeInformation.h"
-#include "model/SSvmSet.h"
 #include "model/Text.h"
-#include "stages/DiagramParts.h"
+#include "stages/PlanParts.h"
 #include "stages/StagePanes.h"
 
 namespace vorlan {
@@ -15,81 +14,26 @@ namespace {
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr std::int32_t kRed = 255;
 constexpr std::int32_t kBlue = 65536 * 255;
-constexpr int kBoundaryColour = 4;
-
-/// The two axes of a plan: 0 X, 1 Y, 2 Z.
-struct Plane {
-    std::size_t first;
-    std::size_t second;
-};
-constexpr std::array<Plane, 3> kPlanes = {{{0, 1}, {0, 2}, {1, 2}}};
 constexpr std::array<const char*, 3> kAxisTitles = {"X, m", "Y, m", "Z, m"};
-constexpr std::array<SArray SBndFile::*, 3> kBoundaryAxes = {&SBndFile::x, &SBndFile::y, &SBndFile::z};
-constexpr std::array<SArray SSvmFile::*, 3> kVolumeAxes = {&SSvmFile::x, &SSvmFile::y, &SSvmFile::z};
-
-Plane planeOf(const WorkspaceSettings& settings) {
-    const bool known = settings.planPlane >= 0 && settings.planPlane < static_cast<int>(kPlanes.size());
-    return kPlanes[known ? static_cast<std::size_t>(settings.planPlane) : kPlanes.size() - 1];
-}
-
-/// False for a record whose columns do not belong together: it has no mean flow.
-bool hasWholeRecord(const SAdvProbe& probe) {
-    const SMultiArray& table = probe.Velocities();
-    return table.GetSize() >= SAdvProbe::kComponents &&
-           std::all_of(table.begin(), table.end(),
-                       [&](const SArray& column) { return column.GetSize() >= probe.WorkingSamples(); });
-}
-
-std::array<double, 3> meansOf(const SAdvProbe& probe) {
-    return hasWholeRecord(probe) ? meanVelocities(probe) : std::array{kNaN, kNaN, kNaN};
-}
-
-struct VelocityExtremes {
-    std::array<double, 3> lowest{kNaN, kNaN, kNaN};
-    std::array<double, 3> highest{kNaN, kNaN, kNaN};
-};
-
-VelocityExtremes velocityExtremes(const SAdvProbe& probe) {
-    VelocityExtremes extremes;
-    if (!hasWholeRecord(probe)) {
-        return extremes;
-    }
-    const int samples = probe.WorkingSamples();
-    for (std::size_t c = 0; c < extremes.lowest.size(); ++c) {
-        const SArray& column = probe.Velocities().GetAt(static_cast<int>(c));
-        const auto units = column.view();
-        std::int32_t lowest = std::numeric_limits<std::int32_t>::max();
-        std::int32_t highest = std::numeric_limits<std::int32_t>::min();
-        for (int i = 0; i < samples; ++i) {
-            if (probe.Counts(i)) {
-                lowest = std::min(lowest, units[static_cast<std::size_t>(i)]);
-                highest = std::max(highest, units[static_cast<std::size_t>(i)]);
-            }
-        }
-        if (lowest <= highest) {
-            extremes.lowest[c] = lowest * column.GetScale();
-            extremes.highest[c] = highest * column.GetScale();
-        }
-    }
-    return extremes;
-}
+// What a damaged workspace holds must not carry an arrow beyond what can be painted.
+constexpr int kLongestScale = 10000;
+constexpr int kDashed = 1;
 
 /// All boundaries as one line, broken between them.
 PlotSeries boundaryLine(const SBndSet& boundaries, Plane plane) {
-    PlotSeries line = recordLine({}, {}, kBoundaryColour, "flow boundaries");
-    line.attributes.penWidth = 2;
+    PlotSeries line;
     for (const SBndFile& boundary : boundaries) {
+        const PlotSeries points = boundaryPoints(boundary, plane);
+        line.attributes.colour = points.attributes.colour;
         if (!line.y.empty()) {
             line.x.values.push_back(0.0);
             line.y.push_back(kNaN);
         }
-        const SArray& first = boundary.*kBoundaryAxes[plane.first];
-        const SArray& second = boundary.*kBoundaryAxes[plane.second];
-        for (int node = 0; node < std::min(first.GetSize(), second.GetSize()); ++node) {
-            line.x.values.push_back(first.GetValue(node));
-            line.y.push_back(second.GetValue(node));
-        }
+        line.x.values.insert(line.x.values.end(), points.x.values.begin(), points.x.values.end());
+        line.y.insert(line.y.end(), points.y.begin(), points.y.end());
     }
+    line.attributes.legendText = "flow boundaries";
+    line.attributes.penWidth = 2;
     return line;
 }
 
@@ -115,6 +59,7 @@ void addArrow(PlotSeries& series, double x, double y, const std::array<double, 3
 /// The plan without arrows.
 Diagram newPlan(const PaneRequest& request, Plane plane) {
     Diagram diagram = newDiagram(request, nullptr);
+    diagram.planRoom = kPlanRoom;
     const auto nameAxis = [](std::string& title, std::size_t axis) {
         if (title.empty()) {
             title = kAxisTitles[axis];
@@ -129,50 +74,55 @@ Diagram newPlan(const PaneRequest& request, Plane plane) {
     return diagram;
 }
 
-/// Calls action with every probe and its place in the plan, and labels the place.
+/// Calls action with every probe and its place in the plan, and marks and names the place.
 template <class Action>
 void forEachProbe(const SAdvSet& set, Plane plane, Diagram& diagram, Action action) {
-    SSvmSet volumes;
-    volumes.Build(set);
-    for (int f = 0; f < set.files.GetSize(); ++f) {
-        const SSvmFile& places = volumes.files().at(static_cast<std::size_t>(f));
-        const SAdvProbesArray& probes = set.files.GetAt(f).probes;
-        for (int p = 0; p < probes.GetSize(); ++p) {
-            const double x = (places.*kVolumeAxes[plane.first]).GetValue(p);
-            const double y = (places.*kVolumeAxes[plane.second]).GetValue(p);
-            action(probes.GetAt(p), x, y);
-            diagram.labels.push_back({x, y, probeListText(probes.GetAt(p))});
-        }
-    }
+    PlotSeries places;
+    places.attributes.style = SeriesStyle::Markers;
+    places.attributes.colour = seriesColour(0);
+    forEachPlace(set, [&](const SAdvProbe& probe, const std::array<double, 3>& place, const std::string& detail) {
+        const double x = place[plane.first];
+        const double y = place[plane.second];
+        places.x.values.push_back(x);
+        places.y.push_back(y);
+        action(probe, x, y);
+        diagram.labels.push_back({x, y, probeListText(probe), detail});
+    });
+    diagram.plot.series.push_back(std::move(places));
+}
+
+double scalePixels(const WorkspaceSettings& settings) {
+    return std::clamp(settings.vectors.pixels, 0, kLongestScale);
 }
 
 PaneContent meanPlan(const PaneRequest& request) {
     const WorkspaceSettings& settings = request.workspace.settings;
-    const Plane plane = planeOf(settings);
+    const Plane plane = planeOf(shownPlane(request.workspace));
     Diagram diagram = newPlan(request, plane);
-    PlotSeries means =
-        arrows(seriesColour(0), settings.planPixels, settings.planSpeed, formatted("%.1f cm/s", settings.planSpeed));
+    PlotSeries means = arrows(seriesColour(0), scalePixels(settings), settings.vectors.speed,
+                              formatted("%.1f cm/s", settings.vectors.speed));
     forEachProbe(request.workspace.dataFiles, plane, diagram,
-                 [&](const SAdvProbe& probe, double x, double y) { addArrow(means, x, y, meansOf(probe), plane); });
-    diagram.plot.series.push_back(std::move(means));
+                 [&](const SAdvProbe& probe, double x, double y) { addArrow(means, x, y, meanFlow(probe), plane); });
+    // The arrows before the markers, which stand on their ends.
+    diagram.plot.series.insert(diagram.plot.series.end() - 1, std::move(means));
     return diagramOrMessage(std::move(diagram));
 }
 
 PaneContent extremesPlan(const PaneRequest& request) {
     const WorkspaceSettings& settings = request.workspace.settings;
-    const Plane plane = planeOf(settings);
+    const Plane plane = planeOf(shownPlane(request.workspace));
     Diagram diagram = newPlan(request, plane);
-    const double speed = settings.planSpeed * settings.planSmaller;
-    PlotSeries maxima = arrows(kRed, settings.planPixels, speed,
+    const double speed = settings.vectors.speed * settings.vectors.smaller;
+    PlotSeries maxima = arrows(kRed, scalePixels(settings), speed,
                                formatted("%.0f cm/s [red arrows are maximum and blue are minimum values]", speed));
-    PlotSeries minima = arrows(kBlue, settings.planPixels, speed, {});
+    PlotSeries minima = arrows(kBlue, scalePixels(settings), speed, {});
+    minima.attributes.penStyle = kDashed;
     forEachProbe(request.workspace.dataFiles, plane, diagram, [&](const SAdvProbe& probe, double x, double y) {
         const VelocityExtremes extremes = velocityExtremes(probe);
         addArrow(maxima, x, y, extremes.highest, plane);
         addArrow(minima, x, y, extremes.lowest, plane);
     });
-    diagram.plot.series.push_back(std::move(maxima));
-    diagram.plot.series.push_back(std::move(minima));
+    diagram.plot.series.insert(diagram.plot.series.end() - 1, {std::move(maxima), std::move(minima)});
     return diagramOrMessage(std::move(diagram));
 }
 
@@ -182,7 +132,7 @@ TableContent directionsTable(const SAdvSet& set) {
     table.headers = {"File, Probe", "Heading", "Roll", "Pitch"};
     for (const SAdvFile& file : set.files) {
         for (const SAdvProbe& probe : file.probes) {
-            const FlowDirections d = meanFlowDirections(meansOf(probe));
+            const FlowDirections d = meanFlowDirections(meanFlow(probe));
             table.rows.push_back({formatted("%s, probe %d", file.fileName.c_str(), static_cast<int>(probe.probeNumber)),
                                   {d.heading, d.roll, d.pitch}});
         }

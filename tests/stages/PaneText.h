@@ -78,6 +78,9 @@ inline std::string diagramText(const Diagram& diagram) {
     for (const Diagram::PointLabel& label : diagram.labels) {
         text += formatted("  label at %g, %g: ", label.x, label.y) + label.text + "\n";
     }
+    if (diagram.planRoom) {
+        text += formatted("  plan with room %g\n", *diagram.planRoom);
+    }
     return text;
 }
 

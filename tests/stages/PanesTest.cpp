@@ -207,9 +207,9 @@ TEST(Panes, ShowWhatWasChanged) {
         {"no frames", [](Workspace&, SAdvProbe& p) { p.frameAttributes = {}; }},
         {"the plan of X and Z, boundaries, a probe without a record",
          [](Workspace& w, SAdvProbe&) {
-             w.settings.planPlane = 1;
-             w.settings.planPixels = 60;
-             w.settings.planSpeed = 20.0;
+             w.settings.vectors.plane = 1;
+             w.settings.vectors.pixels = 60;
+             w.settings.vectors.speed = 20.0;
              for (const double x : {3.0, 2.0}) {
                  SBndFile boundary;
                  boundary.SetNode(0, 0.0, 1.0, 0.0);
@@ -223,11 +223,11 @@ TEST(Panes, ShowWhatWasChanged) {
          }},
         {"the plan of Y and Z, no speed",
          [](Workspace& w, SAdvProbe&) {
-             w.settings.planPlane = 2;
-             w.settings.planSpeed = 0.0;
+             w.settings.vectors.plane = 2;
+             w.settings.vectors.speed = 0.0;
          }},
-        {"a plan that does not exist", [](Workspace& w, SAdvProbe&) { w.settings.planPlane = -1; }},
-        {"the first plan", [](Workspace& w, SAdvProbe&) { w.settings.planPlane = 0; }},
+        {"a plan that does not exist", [](Workspace& w, SAdvProbe&) { w.settings.vectors.plane = -1; }},
+        {"the first plan", [](Workspace& w, SAdvProbe&) { w.settings.vectors.plane = 0; }},
     };
     const PaneTexts usual = paneTexts(analysed());
     std::string all;
