@@ -49,6 +49,7 @@ void CVorl_ADVDoc::NewWorkspace() {
     workspace_ = Workspace();
     path_.clear();
     stamp_.reset();
+    written_.restart(workspace_.boundaries);
     modified_ = false;
     Tell(Change::Content);
 }
@@ -60,6 +61,7 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
     workspace_ = std::move(fresh);
     path_ = path;
     stamp_ = stamp;
+    written_.restart(workspace_.boundaries);
     modified_ = false;
     Tell(Change::Content);
 }

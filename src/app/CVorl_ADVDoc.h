@@ -13,13 +13,20 @@
 #include "analysis/Simulation.h"
 #include "analysis/SpectralSettings.h"
 #include "analysis/TurbulenceScales.h"
+#include "app/BoundaryStorage.h"
 #include "app/DocumentPort.h"
 #include "app/WorkspacePatch.h"
+#include "app/WrittenBoundaries.h"
 #include "export/ExportKind.h"
 #include "io/FileStamp.h"
 #include "model/Workspace.h"
 
 namespace vorlan {
+
+/// X, Y, Z in metres.
+using Position = std::array<double, 3>;
+/// The coordinates that change; the others stay to the last bit.
+using PositionChange = std::array<std::optional<double>, 3>;
 
 /// How a command ended. Refused: it said why through the port. Cancelled: the user did not want it. In both cases the
 /// probe is bit for bit what it was.
@@ -140,6 +147,34 @@ class CVorl_ADVDoc {
     /// leave nothing to integrate: with a message on spectra, without one on correlation functions.
     Outcome ExtractScales(const ScalesReading& reading);
 
+    /// Plans of the mean velocities over all files; they need no probe.
+    Outcome VectorsOfMeanVelocities(const VectorSettings& vectors);
+
+    // The measuring grid. Boundaries are kept in the workspace and in text files of their own; a file that cannot be
+    // opened is tried again while the user says so. An index that is not there is refused.
+
+    /// Replaces the disk; the storage must outlive the document.
+    void SetBoundaryStorage(BoundaryStorage& storage) { boundaryStorage_ = &storage; }
+    /// Index of the boundary whose file is at path, -1 for none.
+    int BoundaryOfPath(const std::filesystem::path& path) const;
+    /// False for a boundary that was changed and not written to its file.
+    bool IsBoundaryWritten(int boundary) const;
+    /// Writes an empty file and appends its boundary.
+    Outcome NewBoundary(const std::filesystem::path& path);
+    /// Reads the file into the boundary that has its path, whose further nodes stay, or appends a boundary. Of a faulty
+    /// file the nodes in front of the fault are read, and no boundary is appended.
+    Outcome OpenBoundary(const std::filesystem::path& path);
+    /// Writes the file; path and name of the boundary are then those of the file.
+    Outcome SaveBoundary(int boundary, const std::filesystem::path& path);
+    /// Takes a boundary out of the workspace, after a question when its file does not hold it.
+    Outcome CloseBoundary(int boundary);
+    /// The nodes from index node on move up by one; the number of nodes is an index, too.
+    Outcome InsertNode(int boundary, int node, const Position& position);
+    Outcome SetNode(int boundary, int node, const PositionChange& position);
+    Outcome RemoveNode(int boundary, int node);
+    /// Moves the sampling volume of a probe.
+    Outcome PlaceProbe(int file, int probe, const PositionChange& position);
+
     // Tools and attributes.
 
     Outcome SetMeanVelocity(const MeanVelocitySettings& chosen);
@@ -192,6 +227,11 @@ class CVorl_ADVDoc {
     static void EnterStage(Stage stage, SAdvProbe& probe, WorkspaceSettings& settings);
     /// What is selected becomes what was selected before.
     static void TakeOverSelection(WorkspaceSettings& settings);
+    /// Runs a change of the measuring grid; an index that is not there is refused.
+    Outcome ChangeGrid(const std::function<Outcome()>& change);
+    Outcome AccessBoundaryFile(const std::function<void()>& access);
+    Outcome WriteBoundaryFile(const SBndFile& boundary);
+    void WriteBoundaries(const char* command, SBndSet boundaries);
     void Tell(Change change) const;
 
     DocumentPort* port_;
@@ -202,6 +242,9 @@ class CVorl_ADVDoc {
     bool modified_ = false;
     bool running_ = false;
     EditingResult lastEditing_;
+    BoundaryStorage disk_;
+    BoundaryStorage* boundaryStorage_ = &disk_;
+    WrittenBoundaries written_;
 };
 
 }  // namespace vorlan

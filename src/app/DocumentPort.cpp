@@ -8,6 +8,8 @@ const char* textOf(Question question) {
             return "The Time Series was changed. Repeat all previous calculations ?";
         case Question::CloseFile:
             return "Do you want to close the active data file ?";
+        case Question::CloseBoundary:
+            return "The boundary was changed and not written to its file. Close it ?";
     }
     return "";
 }

@@ -7,7 +7,7 @@
 namespace vorlan {
 
 /// What the document asks its user.
-enum class Question { RepeatStages, CloseFile };
+enum class Question { RepeatStages, CloseFile, CloseBoundary };
 
 /// The question in words, to be answered with OK or Cancel.
 const char* textOf(Question question);
@@ -39,6 +39,8 @@ class DocumentPort : public Progress {
     virtual bool confirm(Question question) = 0;
     /// The user is asked whether to keep values that the document has worked out; true for OK.
     virtual bool accept(const std::string& question) = 0;
+    /// Something went wrong that may go right when it is tried again; true for Retry, false for Cancel.
+    virtual bool retry(const std::string& text) = 0;
     /// The command is refused: a stop sign with OK.
     virtual void refuse(const std::string& text) = 0;
 
@@ -52,6 +54,7 @@ class SilentPort : public DocumentPort {
   public:
     bool confirm(Question) override { return true; }
     bool accept(const std::string&) override { return true; }
+    bool retry(const std::string&) override { return false; }
     void refuse(const std::string&) override {}
     void beginRun(Calculation) override {}
     void endRun() override {}

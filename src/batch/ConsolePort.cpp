@@ -25,6 +25,11 @@ bool ConsolePort::confirm(Question question) {
     return question == Question::RepeatStages ? options_.repeatStages : true;
 }
 
+bool ConsolePort::retry(const std::string& text) {
+    refuse(text);
+    return false;
+}
+
 void ConsolePort::refuse(const std::string& text) {
     refused_ = true;
     tell(text);

@@ -29,6 +29,8 @@ class ConsolePort : public DocumentPort {
 
     bool confirm(Question question) override;
     bool accept(const std::string& question) override;
+    /// Nobody is there who could put things right.
+    bool retry(const std::string& text) override;
     void refuse(const std::string& text) override;
     void beginRun(Calculation calculation) override;
     void endRun() override;

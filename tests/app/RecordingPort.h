@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,10 @@ class RecordingPort : public DocumentPort {
         questions.push_back(question);
         return answer;
     }
+    bool retry(const std::string& text) override {
+        retryQuestions.push_back(text);
+        return beforeRetry ? beforeRetry() : false;
+    }
     void refuse(const std::string& text) override { refusals.push_back(text); }
     void beginRun(Calculation calculation) override { runs.push_back(calculation); }
     void endRun() override { ++ends; }
@@ -32,8 +37,10 @@ class RecordingPort : public DocumentPort {
     void clear() { *this = RecordingPort{}; }
 
     bool answer = true;
-    int pumpsLeft = -1;  ///< the run is cancelled after so many; -1 never
+    int pumpsLeft = -1;                 ///< the run is cancelled after so many; -1 never
+    std::function<bool()> beforeRetry;  ///< answers a question whether to try again; without it the answer is no
     std::vector<std::string> questions;
+    std::vector<std::string> retryQuestions;
     std::vector<std::string> refusals;
     std::vector<std::string> statuses;
     std::vector<int> positions;

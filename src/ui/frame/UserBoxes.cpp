@@ -10,6 +10,7 @@ namespace {
 
 const QString kCaption = QStringLiteral("Vorlan");
 const QString kWorkspaceFilter = QStringLiteral("Vorlan Files (*.avp)");
+const QString kBoundaryFilter = QStringLiteral("Boundary Files (*.bnd);;All Files (*.*)");
 
 QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                  QMessageBox::StandardButtons buttons) {
@@ -42,6 +43,10 @@ void UserBoxes::refuse(QWidget* parent, const QString& text) {
     show(parent, QMessageBox::Critical, text, QMessageBox::Ok);
 }
 
+bool UserBoxes::retry(QWidget* parent, const QString& text) {
+    return show(parent, QMessageBox::Warning, text, QMessageBox::Retry | QMessageBox::Cancel) == QMessageBox::Retry;
+}
+
 UserBoxes::SaveAnswer UserBoxes::askToSave(QWidget* parent, const QString& name) {
     switch (show(parent, QMessageBox::Warning, QStringLiteral("Save changes to %1?").arg(name),
                  QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
@@ -66,6 +71,19 @@ QString UserBoxes::chooseExport(QWidget* parent, const QString& proposed) {
     return chooseToSave(parent, QStringLiteral("Export Data"), proposed,
                         QStringLiteral("Export Files (*.dat);;All Files (*.*)"), QStringLiteral("dat"),
                         QFileDialog::DontConfirmOverwrite);
+}
+
+QString UserBoxes::chooseNewBoundary(QWidget* parent, const QString& proposed) {
+    return chooseToSave(parent, QStringLiteral("New Boundary File"), proposed, kBoundaryFilter, QStringLiteral("bnd"),
+                        {});
+}
+
+QString UserBoxes::chooseBoundaryToOpen(QWidget* parent, const QString& folder) {
+    return QFileDialog::getOpenFileName(parent, QStringLiteral("Open"), folder, kBoundaryFilter);
+}
+
+QString UserBoxes::chooseBoundaryToSave(QWidget* parent, const QString& proposed) {
+    return chooseToSave(parent, QStringLiteral("Save"), proposed, kBoundaryFilter, QStringLiteral("bnd"), {});
 }
 
 }  // namespace vorlan

@@ -15,6 +15,8 @@ class UserBoxes {
     virtual bool confirm(QWidget* parent, const QString& text);
     /// Stop icon, OK.
     virtual void refuse(QWidget* parent, const QString& text);
+    /// Warning icon, Retry and Cancel; true for Retry.
+    virtual bool retry(QWidget* parent, const QString& text);
     /// "Save changes to %1?" with Yes, No and Cancel.
     virtual SaveAnswer askToSave(QWidget* parent, const QString& name);
     /// Chosen path, empty when cancelled.
@@ -22,6 +24,9 @@ class UserBoxes {
     virtual QString chooseWorkspaceToSave(QWidget* parent, const QString& proposed);
     /// No prompt before an existing file is overwritten.
     virtual QString chooseExport(QWidget* parent, const QString& proposed);
+    virtual QString chooseNewBoundary(QWidget* parent, const QString& proposed);
+    virtual QString chooseBoundaryToOpen(QWidget* parent, const QString& folder);
+    virtual QString chooseBoundaryToSave(QWidget* parent, const QString& proposed);
 };
 
 }  // namespace vorlan

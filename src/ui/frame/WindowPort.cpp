@@ -32,9 +32,19 @@ std::optional<int> barOffsetOf(Calculation calculation) {
 
 }  // namespace
 
+QWidget* WindowPort::front() const {
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog != nullptr ? dialog : &window_;
+}
+
 bool WindowPort::confirm(Question question) {
     const ArrowScope arrow;
-    return boxes_->confirm(&window_, QString::fromUtf8(textOf(question)));
+    return boxes_->confirm(front(), QString::fromUtf8(textOf(question)));
+}
+
+bool WindowPort::retry(const std::string& text) {
+    const ArrowScope arrow;
+    return boxes_->retry(front(), QString::fromStdString(text));
 }
 
 bool WindowPort::accept(const std::string& question) {
@@ -44,7 +54,7 @@ bool WindowPort::accept(const std::string& question) {
 
 void WindowPort::refuse(const std::string& text) {
     const ArrowScope arrow;
-    boxes_->refuse(&window_, QString::fromStdString(text));
+    boxes_->refuse(front(), QString::fromStdString(text));
 }
 
 void WindowPort::beginRun(Calculation calculation) {

@@ -29,6 +29,7 @@ class WindowPort : public QObject, public DocumentPort {
 
     bool confirm(Question question) override;
     bool accept(const std::string& question) override;
+    bool retry(const std::string& text) override;
     void refuse(const std::string& text) override;
     void beginRun(Calculation calculation) override;
     void endRun() override;
@@ -40,6 +41,9 @@ class WindowPort : public QObject, public DocumentPort {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// What a box stands in front of: an open dialog, else the window.
+    QWidget* front() const;
+
     QWidget& window_;
     UserBoxes* boxes_;
     QPointer<StatusPane> pane_;
