@@ -65,6 +65,11 @@ std::string activeView(const CVorl_ADVDoc& document, const ShownPanes&) {
     return ((document.ActivePane() == panes) || ...) ? "" : "the active view shows another diagram";
 }
 
+// The plans span all files.
+std::string probeOrPlan(const CVorl_ADVDoc& document, const ShownPanes& shown) {
+    return stageRow(document.CurrentStage()).spansAllFiles() ? dataFile(document, shown) : probe(document, shown);
+}
+
 std::string notYetOffered(const CVorl_ADVDoc&, const ShownPanes&) {
     return "this version does not offer it";
 }
@@ -105,7 +110,7 @@ const std::vector<CommandRow>& commandTable() {
         {Command::SpectralToolbar, {}},
         {Command::StatusBar, {}},
         {Command::ResultsTable, {probe, tableBesideDiagram}, showsTable},
-        {Command::PlotFrameOptions, {probe, diagramInView}},
+        {Command::PlotFrameOptions, {probeOrPlan, diagramInView}},
         {Command::ZoomAndClipping, {probe, preProcessing}, inZoomMode},
         {Command::ResetTimeSeries, {probe, preProcessing}},
         {Command::CoordinateSystem, {probe, preProcessing}},
@@ -116,7 +121,7 @@ const std::vector<CommandRow>& commandTable() {
         {Command::SpectralAnalysis, {probe, allSamples}},
         {Command::CrossSpectralAnalysis, {probe, allSamples, spectraDone}},
         {Command::QuadrantsAnalysis, {probe, allSamples}},
-        {Command::MeanVelocityVectors, {notYetOffered}},
+        {Command::MeanVelocityVectors, {dataFile}},
         {Command::ExtractDissipationRate,
          {probe, spectralStage, spectraDone, activeView<Pane::LeftBottom, Pane::RightTop>, diagramInView}},
         {Command::ExtractScales,
@@ -124,7 +129,7 @@ const std::vector<CommandRow>& commandTable() {
         {Command::TriangleSpectrum, {probe, spectralStage, spectraDone, activeView<Pane::LeftBottom>, diagramInView}},
         {Command::TriangleStructure, {probe, spectralStage, spectraDone, activeView<Pane::RightTop>, diagramInView}},
         {Command::MeanVelocity, {}},
-        {Command::GridEditor, {notYetOffered}},
+        {Command::GridEditor, {}},
         {Command::SimulateTimeSeries, {}},
         {Command::About, {}},
     };

@@ -34,13 +34,29 @@ class ScriptedBoxes : public vorlan::UserBoxes {
         return exportPath;
     }
 
+    bool retry(QWidget*, const QString& text) override {
+        retryQuestions.append(text);
+        return false;
+    }
+    QString chooseNewBoundary(QWidget*, const QString& proposed) override {
+        proposals.append(proposed);
+        return boundaryPath;
+    }
+    QString chooseBoundaryToOpen(QWidget*, const QString&) override { return boundaryPath; }
+    QString chooseBoundaryToSave(QWidget*, const QString& proposed) override {
+        proposals.append(proposed);
+        return boundaryPath;
+    }
+
     bool confirmAnswer = true;
     SaveAnswer saveAnswer = SaveAnswer::Discard;
     QString openPath;
     QString savePath;
     QString exportPath;
+    QString boundaryPath;
     QStringList questions;
     QStringList refusals;
+    QStringList retryQuestions;
     QStringList saveQuestions;
     QStringList proposals;
 };

@@ -19,6 +19,8 @@
 #include "ui/dialogs/CSimulateDlg.h"
 #include "ui/dialogs/CSpAnalDlg.h"
 #include "ui/dialogs/CStatDlg.h"
+#include "ui/dialogs/CVectorsDlg.h"
+#include "ui/dialogs/SAddDlg.h"
 
 using namespace vorlan;
 
@@ -161,6 +163,11 @@ class DialogsHabits : public QObject {
             row("spectral", spectral, SpectralSettings{}),
             row("spectral by lags", spectral, lags),
             row("stationarity", std::function(fieldsOf<CStatDlg>), StationaritySettings{}),
+            row("vectors", std::function(fieldsOf<CVectorsDlg>), VectorSettings{}),
+            row<SAddDlg>("node",
+                         [](const SAddDlg& d) {
+                             return joined({d.values()[0], d.values()[1], d.values()[2]});
+                         }),
         };
     }
 

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "model/FrameLimits.h"
 #include "plot/PaintSeries.h"
@@ -54,6 +55,23 @@ std::int32_t gridModeOf(bool onMarks, bool onTicks) {
 }
 
 }  // namespace
+
+DrawnAxes drawnAxesOf(const std::optional<CScreenUtils>& geometry) {
+    DrawnAxes axes;
+    if (geometry.has_value()) {
+        axes.xMin = geometry->xMin;
+        axes.xMax = geometry->xMax;
+        axes.yMin = geometry->yMin;
+        axes.yMax = geometry->yMax;
+        if (!geometry->logX()) {
+            axes.xStep = std::fabs(geometry->xStep);
+        }
+        if (!geometry->logY()) {
+            axes.yStep = std::fabs(geometry->yStep);
+        }
+    }
+    return axes;
+}
 
 CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales,
                          const DrawnAxes& drawn, QWidget* parent)

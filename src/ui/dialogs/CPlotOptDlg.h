@@ -4,6 +4,7 @@
 #include <span>
 
 #include "model/FrameAttributes.h"
+#include "plot/CScreenUtils.h"
 #include "ui/dialogs/CColorDlg.h"
 #include "ui/dialogs/CFontDlg.h"
 #include "ui/dialogs/CParameterDialog.h"
@@ -31,6 +32,9 @@ struct DrawnAxes {
     std::optional<double> yMax;
     std::optional<double> yStep;
 };
+
+/// Those of a diagram as it was painted.
+DrawnAxes drawnAxesOf(const std::optional<CScreenUtils>& geometry);
 
 /// "Plot Frame Options". Stored words that the dialog cannot show stay as they are until their control is changed. A
 /// value that is left to the diagram shows what is drawn, so that a user who takes it over starts from there.

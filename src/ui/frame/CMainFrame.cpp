@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "stages/PaneDescription.h"
+#include "stages/PlanReadOut.h"
 #include "stages/TurbulenceReadOut.h"
 #include "ui/frame/MenuTable.h"
 
@@ -250,8 +251,11 @@ void CMainFrame::showCursorValues(Pane pane, QPoint position) {
     if (document_.IsRunning() || !view.geometry().has_value()) {
         return;
     }
-    const std::string text =
-        readOut(document_.CurrentStage(), pane, document_.CurrentValue(), *view.geometry(), position.x(), position.y());
+    const auto* diagram = std::get_if<Diagram>(&view.content());
+    const std::string text = document_.CurrentStage() == Stage::MeanVelocityVectors && diagram != nullptr
+                                 ? planReadOut(*diagram, *view.geometry(), position.x(), position.y())
+                                 : readOut(document_.CurrentStage(), pane, document_.CurrentValue(), *view.geometry(),
+                                           position.x(), position.y());
     statusPane_->setText(text.empty() ? QStringLiteral("Ready") : QString::fromStdString(text));
 }
 

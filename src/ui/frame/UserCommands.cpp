@@ -13,12 +13,14 @@
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
 #include "io/WorkspaceFile.h"
+#include "model/VectorPlan.h"
 #include "stages/PaneDescription.h"
 #include "ui/dialogs/CCoordSysDlg.h"
 #include "ui/dialogs/CEditTSDlg.h"
 #include "ui/dialogs/CExportDlg.h"
 #include "ui/dialogs/CExportScopeDlg.h"
 #include "ui/dialogs/CFilterDlg.h"
+#include "ui/dialogs/CGridEdit.h"
 #include "ui/dialogs/CHistDlg.h"
 #include "ui/dialogs/CMeanVelDlg.h"
 #include "ui/dialogs/CPlotOptDlg.h"
@@ -26,30 +28,10 @@
 #include "ui/dialogs/CSimulateDlg.h"
 #include "ui/dialogs/CSpAnalDlg.h"
 #include "ui/dialogs/CStatDlg.h"
+#include "ui/dialogs/CVectorsDlg.h"
 #include "ui/frame/AboutBox.h"
 
 namespace vorlan {
-
-namespace {
-
-DrawnAxes drawnAxes(const std::optional<CScreenUtils>& geometry) {
-    DrawnAxes axes;
-    if (geometry.has_value()) {
-        axes.xMin = geometry->xMin;
-        axes.xMax = geometry->xMax;
-        axes.yMin = geometry->yMin;
-        axes.yMax = geometry->yMax;
-        if (!geometry->logX()) {
-            axes.xStep = std::fabs(geometry->xStep);
-        }
-        if (!geometry->logY()) {
-            axes.yStep = std::fabs(geometry->yStep);
-        }
-    }
-    return axes;
-}
-
-}  // namespace
 
 void UserCommands::run(Command command) {
     try {
@@ -110,9 +92,14 @@ void UserCommands::dispatch(Command command) {
         case Command::TriangleSpectrum:
         case Command::TriangleStructure:
             return tools_.begin(command);
+        case Command::MeanVelocityVectors:
+            ask<CVectorsDlg>(&CVorl_ADVDoc::VectorsOfMeanVelocities, shownVectors(document_.GetWorkspace()));
+            return;
         case Command::MeanVelocity:
             ask<CMeanVelDlg>(&CVorl_ADVDoc::SetMeanVelocity, document_.GetMeanVelocity(), document_.AveragedVelocity());
             return;
+        case Command::GridEditor:
+            return editGrid();
         case Command::SimulateTimeSeries:
             return simulate();
         case Command::About:
@@ -165,6 +152,21 @@ void UserCommands::editTimeSeries() {
     }
 }
 
+void UserCommands::editGrid() {
+    using Choice = QString (UserBoxes::*)(QWidget*, const QString&);
+    const auto inFolder = [this](Choice choose) {
+        return [this, choose](QWidget* parent, const QString& proposed) {
+            return (boxes_->*choose)(parent, QDir(files_.folder()).filePath(proposed));
+        };
+    };
+    CGridEdit dialog(
+        document_,
+        {inFolder(&UserBoxes::chooseNewBoundary), inFolder(&UserBoxes::chooseBoundaryToOpen),
+         inFolder(&UserBoxes::chooseBoundaryToSave), [this](const QString& path) { files_.setFolderOf(path); }},
+        &window_);
+    dialog.exec();
+}
+
 void UserCommands::plotFrameOptions() {
     const Pane pane = document_.ActivePane();
     const std::optional<FrameSlot> slot =
@@ -174,8 +176,9 @@ void UserCommands::plotFrameOptions() {
     if (!slot.has_value() || diagram == nullptr) {
         return;
     }
-    CPlotOptDlg dialog(frameInSlot(document_.GetWorkspace().dataFiles, &document_.Probe(), *slot),
-                       diagram->allowedScales, drawnAxes(view.geometry()), &window_);
+    const SAdvProbe* probe = document_.HasProbe() ? &document_.Probe() : nullptr;
+    CPlotOptDlg dialog(frameInSlot(document_.GetWorkspace().dataFiles, probe, *slot), diagram->allowedScales,
+                       drawnAxesOf(view.geometry()), &window_);
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }

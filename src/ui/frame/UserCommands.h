@@ -36,6 +36,7 @@ class UserCommands {
     template <class Dialog, class Method, class... Arguments>
     Outcome ask(Method command, const Arguments&... arguments);
     void editTimeSeries();
+    void editGrid();
     void plotFrameOptions();
     void copyBitmap();
     void exportData(ExportKind kind);

@@ -1,0 +1,181 @@
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+
+#include "io/TempFolder.h"
+#include "ui/DialogDriver.h"
+#include "ui/FrameDriver.h"
+#include "ui/dialogs/CVectorsDlg.h"
+#include "ui/dialogs/NumberFields.h"
+
+using namespace vorlan;
+
+class DialogsGrid : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void vectorsTakeNumbersAboveZero() {
+        CVectorsDlg dialog({});
+        DialogDriver driver(dialog);
+        QVERIFY(driver.button("&Y&Z   (Front view)")->isChecked());
+        driver.click("X&Z   (Side view)");
+        const QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
+        fields[0]->setText(QStringLiteral("0"));
+        REFUSED(driver, "The number of pixels should be greater than 0!");
+        fields[0]->setText(QStringLiteral("30"));
+        fields[1]->setText(QStringLiteral("-1"));
+        REFUSED(driver, "The velocity of the scale should be greater than 0!");
+        fields[1]->setText(QStringLiteral("2.5"));
+        fields[2]->setText(QStringLiteral("x"));
+        REFUSED(driver, "Please enter a number.");
+        fields[2]->setText(QStringLiteral("4"));
+        QVERIFY(driver.accepted());
+        QCOMPARE(dialog.values().plane, 1);
+        QCOMPARE(dialog.values().pixels, 30);
+        QCOMPARE(dialog.values().speed, 2.5);
+        QCOMPARE(dialog.values().smaller, 4.0);
+    }
+
+    // What a user does by keys alone: a boundary with two nodes, a probe that is placed, the editor left while typing.
+    void editorWorksByKeys() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.boxes.boundaryPath = driver.path("bed.bnd");
+        inEditor(driver, [&](QDialog& editor) {
+            const auto* list = editor.findChild<QComboBox*>();
+            auto* node = editor.findChild<QSpinBox*>();
+            QVERIFY(!list->isEnabled() && !node->isEnabled() && !button(editor, "Close")->isEnabled());
+            press(editor, "New");
+            QCOMPARE(status(editor), QStringLiteral("Total nodes number is 0"));
+            for (const char* x : {"2", "0.5"}) {
+                QTimer::singleShot(0, &editor, [x] {
+                    QWidget* dialog = QApplication::activeModalWidget();
+                    QCOMPARE(dialog->windowTitle(), QStringLiteral("Grid and Boundaries Editor | Add Node"));
+                    QTest::keyClicks(dialog->focusWidget(), QString::fromUtf8(x));
+                    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+                });
+                press(editor, "Add");
+            }
+            QCOMPARE(status(editor), QStringLiteral("Current boundary node 1"));
+            QCOMPARE(list->currentText(), QStringLiteral("bed.bnd *"));
+            QTest::keyClick(node, Qt::Key_Down);
+            QCOMPARE(status(editor), QStringLiteral("Current boundary node 0"));
+            QCOMPARE(positions(editor)[0]->text(), QStringLiteral("0.5"));
+            type(positions(editor)[2], "0.29");
+            press(editor, "Save");
+            QCOMPARE(driver.boxes.proposals.last(), driver.path("bed.bnd"));
+            QCOMPARE(list->currentText(), QStringLiteral("bed.bnd"));
+            auto* plane = editor.findChildren<QRadioButton*>()[2];
+            plane->setFocus();
+            QTest::keyClick(plane, Qt::Key_Left);
+            QVERIFY(editor.findChildren<QRadioButton*>()[1]->isChecked());
+            type(positions(editor)[3], "1.5x");
+            QTimer::singleShot(0, &editor, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+            QTest::keyClick(&editor, Qt::Key_Escape);
+            QVERIFY2(editor.isVisible(), "what is no number keeps the editor open");
+            type(positions(editor)[3], "1.5");
+        });
+        QCOMPARE(QString::fromStdString(test::slurp(driver.path("bed.bnd").toStdString())),
+                 QStringLiteral("0.500000 0.000000 0.290000\n2.000000 0.000000 0.000000\n"));
+        QCOMPARE(driver.document().Probe().samplingVolumeX, 1.5 / 0.001);
+    }
+
+    void editorAsksBeforeItDropsWhatIsNotWritten() {
+        FrameDriver driver;
+        test::spill(driver.path("a.bnd").toStdString(), "1 2 3\n4 5 6\n");
+        test::spill(driver.path("bad.bnd").toStdString(), "1 2\n");
+        inEditor(driver, [&](QDialog& editor) {
+            driver.boxes.boundaryPath = driver.path("bad.bnd");
+            press(editor, "Open");
+            QCOMPARE(driver.boxes.refusals.last(),
+                     QStringLiteral("Format of the file %1 is invalid !").arg(driver.path("bad.bnd")));
+            driver.boxes.boundaryPath.clear();
+            press(editor, "New");
+            driver.boxes.boundaryPath = driver.path("none/a.bnd");
+            press(editor, "New");
+            QCOMPARE(driver.boxes.retryQuestions.size(), 1);
+            QVERIFY(driver.document().GetWorkspace().boundaries.IsEmpty());
+            driver.boxes.boundaryPath = driver.path("a.bnd");
+            press(editor, "Open");
+            press(editor, "Remove");
+            driver.boxes.confirmAnswer = false;
+            press(editor, "Close");
+            QCOMPARE(driver.boxes.questions.size(), 1);
+            QCOMPARE(driver.document().GetWorkspace().boundaries.GetSize(), 1);
+            driver.boxes.confirmAnswer = true;
+            press(editor, "Close");
+            QVERIFY(driver.document().GetWorkspace().boundaries.IsEmpty());
+            QCOMPARE(status(editor), QString());
+        });
+    }
+
+    void plansHaveOptionsAndReadOutsWithoutAProbe() {
+        FrameDriver driver;
+        SimulationParameters parameters;
+        driver.document().SimulateTimeSeries(parameters, 7);
+        QVERIFY(driver.withDialog(Command::MeanVelocityVectors, "Vectors of Mean Velocities | View Parameters"));
+        driver.document().SelectActivePane(Pane::LeftTop);
+        QVERIFY(driver.enabled(Command::PlotFrameOptions));
+        QVERIFY(driver.withDialog(Command::PlotFrameOptions, "Plot Frame Options"));
+        const auto* plan = std::get_if<Diagram>(&driver.content(Pane::LeftTop));
+        QVERIFY(plan != nullptr);
+        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
+        view.grab();
+        const CScreenUtils geometry = view.geometry().value();
+        QTest::mouseMove(&view, {geometry.xPixel(plan->labels[0].x), geometry.yPixel(plan->labels[0].y)});
+        QTRY_COMPARE(driver.status(), QStringLiteral("test, Probe 1   X: 0.000 m   Y: 0.000 m   Z: 0.000 m"));
+    }
+
+  private:
+    static QPushButton* button(QDialog& editor, const char* text) {
+        for (auto* candidate : editor.findChildren<QPushButton*>()) {
+            if (candidate->text() == QString::fromUtf8(text)) {
+                return candidate;
+            }
+        }
+        return nullptr;
+    }
+    static void press(QDialog& editor, const char* text) {
+        button(editor, text)->setFocus();
+        QTest::keyClick(button(editor, text), Qt::Key_Space);
+    }
+    static QString status(QDialog& editor) { return editor.findChild<QLabel*>(QStringLiteral("status"))->text(); }
+    // X, Y, Z of the node, then of the probe.
+    static QList<NumberField*> positions(QDialog& editor) {
+        QList<NumberField*> fields;
+        for (auto* edit : editor.findChildren<QLineEdit*>()) {
+            if (auto* field = dynamic_cast<NumberField*>(edit)) {
+                fields.append(field);
+            }
+        }
+        return fields;
+    }
+    static void type(NumberField* field, const char* text) {
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, QString::fromUtf8(text));
+    }
+    static void inEditor(FrameDriver& driver, const std::function<void(QDialog&)>& work) {
+        bool met = false;
+        QTimer::singleShot(0, driver.frame.get(), [&] {
+            auto* editor = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (editor == nullptr) {
+                return;
+            }
+            met = editor->windowTitle() == QStringLiteral("Vorlan | Grid and Boundary Editor");
+            work(*editor);
+            editor->close();
+            if (editor->isVisible()) {
+                met = false;
+                editor->done(0);
+            }
+        });
+        driver.trigger(Command::GridEditor);
+        QVERIFY(met);
+    }
+};
+
+QTEST_MAIN(DialogsGrid)
+#include "dialogsGrid.moc"
