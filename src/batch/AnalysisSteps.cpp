@@ -90,7 +90,8 @@ std::vector<StepKind> analysisSteps() {
          .keys = {choiceKey("mode", {"averaged", "user"}, "averaged"), realKey("value", 10.0)},
          .run = runMeanVelocity,
          .command = Command::MeanVelocity,
-         .faultOfValues = faultOfMeanVelocity},
+         .faultOfValues = faultOfMeanVelocity,
+         .onWorkspace = true},
     };
 }
 

@@ -6,6 +6,7 @@
 
 #include "batch/BatchError.h"
 #include "io/AtomicFile.h"
+#include "io/BoundaryFile.h"
 #include "io/WorkspaceFile.h"
 
 namespace vorlan {
@@ -87,8 +88,27 @@ void PendingOutputs::add(const std::string& path, std::string bytes) {
     }
 }
 
+void PendingOutputs::addBoundary(const std::string& path, std::string text) {
+    std::erase_if(outputs_, [&](const Output& output) { return output.boundary && output.path == path; });
+    outputs_.push_back({path, std::move(text), true});
+}
+
+const std::string* PendingOutputs::boundaryText(const std::string& path) const {
+    const auto held = std::find_if(outputs_.begin(), outputs_.end(),
+                                   [&](const Output& output) { return output.boundary && output.path == path; });
+    return held == outputs_.end() ? nullptr : &held->bytes;
+}
+
 void PendingOutputs::commit(Console& console) {
     for (const Output& output : outputs_) {
+        if (output.boundary) {
+            try {
+                writeBoundary(output.path, output.bytes);
+            } catch (const FileError& error) {
+                throw unwritable(textOf(error));
+            }
+            continue;
+        }
         writeOutput(output.path, output.bytes, console);
     }
     outputs_.clear();

@@ -31,6 +31,10 @@ class PendingOutputs {
   public:
     /// A later addition of the same path takes the earlier one's place; standard output gets all of them.
     void add(const std::string& path, std::string bytes);
+    /// The text file of a boundary, which is written as the window writes it.
+    void addBoundary(const std::string& path, std::string text);
+    /// The text that was added last for a boundary's file, null without one.
+    const std::string* boundaryText(const std::string& path) const;
     /// Writes them in the order in which they were added; BatchError Unwritable at the first that cannot be.
     void commit(Console& console);
 
@@ -38,6 +42,7 @@ class PendingOutputs {
     struct Output {
         std::string path;
         std::string bytes;
+        bool boundary = false;
     };
     std::vector<Output> outputs_;
 };

@@ -1,10 +1,13 @@
 #include "batch/RecipeRunner.h"
 
+#include <algorithm>
 #include <map>
 #include <numeric>
+#include <optional>
 
 #include "batch/BatchError.h"
 #include "batch/Interrupt.h"
+#include "batch/PendingBoundaries.h"
 #include "io/ReadFile.h"
 #include "model/Printable.h"
 
@@ -66,6 +69,16 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
             requireOtherThanWorkspace(path);
         }
     }
+    for (const RecipeStep& step : recipe.steps) {
+        const std::optional<std::string> path = boundaryOutputOf(*step.kind, step.values);
+        if (!path) {
+            continue;
+        }
+        if (writers.count(identityOf(*path)) != 0 || (!target.empty() && identityOf(*path) == identityOf(target))) {
+            throw usageError(*path + " would be written more than once: a boundary needs another name");
+        }
+        requireOtherThanWorkspace(*path);
+    }
 }
 
 class Runner {
@@ -74,6 +87,7 @@ class Runner {
            Console& console)
         : recipe_(recipe), input_(input), console_(console), port_(console, options), document_(port_) {
         port_.setContext(printable(input.string()));
+        document_.SetBoundaryStorage(boundaries_);
     }
 
     void run(const std::filesystem::path& target) {
@@ -99,9 +113,13 @@ class Runner {
     void applySteps(const std::filesystem::path& target) {
         const std::vector<ProbePlace> places = placesOfRecipe(target);
         const WorkspaceSettings loaded = document_.Settings();
-        for (const ProbePlace& place : places) {
+        grid_.emplace(document_);
+        for (std::size_t p = 0; p < std::max<std::size_t>(places.size(), 1); ++p) {
             for (std::size_t i = 0; i < recipe_.steps.size(); ++i) {
-                apply(recipe_.steps[i], i + 1, place);
+                const RecipeStep& step = recipe_.steps[i];
+                if (step.kind->onWorkspace ? p == 0 : !places.empty()) {
+                    apply(step, i + 1, places.empty() ? std::nullopt : std::optional(places[p]));
+                }
             }
         }
         document_.RestoreSelection(loaded);
@@ -111,7 +129,8 @@ class Runner {
         try {
             const std::vector<ProbePlace> places = selectedPlaces(recipe_, document_.GetWorkspace());
             requireFreeOutputs(recipe_, input_, target, places);
-            if (places.empty() && !recipe_.steps.empty()) {
+            const auto needsProbe = [](const RecipeStep& step) { return !step.kind->onWorkspace; };
+            if (places.empty() && std::any_of(recipe_.steps.begin(), recipe_.steps.end(), needsProbe)) {
                 console_.complain(input_.string() + ": there is no probe to work on");
             }
             return places;
@@ -120,13 +139,16 @@ class Runner {
         }
     }
 
-    void apply(const RecipeStep& step, std::size_t number, const ProbePlace& place) {
-        port_.setContext(printable(input_.string()) + ": " + describe(place) + ", step " + std::to_string(number) +
-                         " (" + step.kind->name + ")");
-        StepContext context{document_, port_, outputs_, renderer_, input_, place};
+    void apply(const RecipeStep& step, std::size_t number, const std::optional<ProbePlace>& place) {
+        const std::string where = place && !step.kind->onWorkspace ? describe(*place) + ", " : "";
+        port_.setContext(printable(input_.string()) + ": " + where + "step " + std::to_string(number) + " (" +
+                         step.kind->name + ")");
+        StepContext context{document_, port_, outputs_, renderer_, input_, place.value_or(ProbePlace{}), grid_.value()};
         Outcome outcome = Outcome::Done;
         try {
-            selectPlace(document_, place);
+            if (place) {
+                selectPlace(document_, *place);
+            }
             outcome = runStep(*step.kind, step.values, context);
         } catch (const BatchError& error) {
             throw BatchError(error.status(), port_.context() + ": " + error.what());
@@ -163,6 +185,8 @@ class Runner {
     CVorl_ADVDoc document_;
     std::optional<WorkspaceUpdate> update_;
     PendingOutputs outputs_;
+    PendingBoundaries boundaries_{outputs_};
+    std::optional<GridEditor> grid_;
     Renderer renderer_;
 };
 

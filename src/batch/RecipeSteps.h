@@ -7,6 +7,7 @@
 
 #include "app/CVorl_ADVDoc.h"
 #include "app/CommandState.h"
+#include "app/GridEditor.h"
 #include "batch/ConsolePort.h"
 #include "batch/Outputs.h"
 #include "batch/RecipeKeys.h"
@@ -22,6 +23,7 @@ struct StepContext {
     Renderer& renderer;
     std::filesystem::path workspace;  ///< the input
     ProbePlace place;
+    GridEditor& grid;  ///< current boundary and node of the run
 
     /// What a dialog does with parameters that it does not accept: says why, and true.
     bool refuses(const Refusal& refusal) {
@@ -44,12 +46,15 @@ struct StepKind {
     std::optional<Stage> stage = std::nullopt;
     /// What is wrong with keys that are right one by one; empty when nothing is.
     std::string (*faultOfValues)(const StepValues& values) = nullptr;
+    /// Acts on the workspace: it is run once, with the first selected probe or without any.
+    bool onWorkspace = false;
 };
 
 /// The rows by subject.
 std::vector<StepKind> preProcessingSteps();
 std::vector<StepKind> analysisSteps();
 std::vector<StepKind> turbulenceSteps();
+std::vector<StepKind> gridSteps();
 std::vector<StepKind> outputSteps();
 
 /// All steps, in the order of the manual.
@@ -59,6 +64,8 @@ const StepKind* stepNamed(const std::string& name);
 
 /// The file that a step of these values writes; empty for steps that write none.
 std::optional<OutputPattern> outputOf(const StepValues& values);
+/// The boundary file that a step of these values writes, as far as the recipe names it.
+std::optional<std::string> boundaryOutputOf(const StepKind& kind, const StepValues& values);
 /// True when the step writes the same file whatever probe it is run for.
 bool writesForAllProbes(const StepValues& values);
 

@@ -88,6 +88,10 @@ void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
                 steps.push_back(output->expandWorkspace(arguments.inputs[i]));
                 owners.claim(steps.back(), i, arguments);
             }
+            if (const std::optional<std::string> path = boundaryOutputOf(*step.kind, step.values)) {
+                steps.push_back(*path);
+                owners.claim(*path, i, arguments);
+            }
         }
     }
     for (const std::string& path : steps) {

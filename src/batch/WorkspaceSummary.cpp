@@ -11,6 +11,7 @@
 #include "analysis/RotationSettings.h"
 #include "model/Printable.h"
 #include "model/ProbeInformation.h"
+#include "model/SSvmSet.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
 
@@ -27,6 +28,47 @@ constexpr const char* kWindowNames[] = {"rectangle", "Tukey", "Bartlett", "Parze
 // The library writes what is not finite as null.
 Json momentsAsJson(const Moments& m) {
     return {{"mean", m.mean}, {"variance", m.variance}, {"skewness", m.skewness}, {"kurtosis", m.kurtosis}};
+}
+
+Json vectorsAsJson(const SAdvProbe& probe) {
+    const std::array<double, 3> mean = meanFlow(probe);
+    const VelocityExtremes extremes = velocityExtremes(probe);
+    const FlowDirections directions = meanFlowDirections(mean);
+    return {{"mean", mean},
+            {"minimum", extremes.lowest},
+            {"maximum", extremes.highest},
+            {"heading", directions.heading},
+            {"roll", directions.roll},
+            {"pitch", directions.pitch}};
+}
+
+template <class Points>
+Json pointsAsJson(const Points& points) {
+    Json list = Json::array();
+    // The columns of a damaged workspace need not be of one length.
+    for (int i = 0; i < std::min({points.x.GetSize(), points.y.GetSize(), points.z.GetSize()}); ++i) {
+        list.push_back({points.x.GetValue(i), points.y.GetValue(i), points.z.GetValue(i)});
+    }
+    return list;
+}
+
+Json boundariesAsJson(const SBndSet& boundaries) {
+    Json list = Json::array();
+    for (const SBndFile& boundary : boundaries) {
+        list.push_back(
+            {{"name", utf8Text(boundary.name)}, {"path", utf8Text(boundary.path)}, {"nodes", pointsAsJson(boundary)}});
+    }
+    return list;
+}
+
+Json samplingVolumesAsJson(const SAdvSet& set) {
+    SSvmSet volumes;
+    volumes.Build(set);
+    Json list = Json::array();
+    for (const SSvmFile& file : volumes.files()) {
+        list.push_back({{"name", utf8Text(file.name)}, {"positions", pointsAsJson(file)}});
+    }
+    return list;
 }
 
 Json resultsAsJson(const SAdvProbe& probe, const WorkspaceSettings& settings) {
@@ -64,6 +106,7 @@ Json probeAsJson(const SAdvProbe& probe, const WorkspaceSettings& settings) {
         json["stressMoments"].push_back(momentsAsJson(probe.StressMoments(i)));
     }
     json["spectral"] = {{"lags", probe.spectralLags}, {"window", probe.spectralWindow}, {"unit", probe.spectralUnit}};
+    json["vectors"] = vectorsAsJson(probe);
     json["results"] = resultsAsJson(probe, settings);
     return json;
 }
@@ -193,6 +236,14 @@ std::string summaryAsJson(const Workspace& workspace, const std::string& version
         }
         json["files"].push_back({{"name", utf8Text(file.fileName)}, {"probes", std::move(probes)}});
     }
+    const WorkspaceSettings& settings = workspace.settings;
+    json["boundaries"] = boundariesAsJson(workspace.boundaries);
+    json["samplingVolumes"] = samplingVolumesAsJson(workspace.dataFiles);
+    json["meanVelocity"] = {{"mode", settings.meanVelocityMode}, {"value", settings.userMeanVelocity}};
+    json["vectors"] = {{"plane", settings.vectors.plane},
+                       {"pixels", settings.vectors.pixels},
+                       {"speed", settings.vectors.speed},
+                       {"smaller", settings.vectors.smaller}};
     return escaped(json.dump(2)) + "\n";
 }
 
@@ -209,6 +260,12 @@ std::string summaryAsText(const Workspace& workspace, const std::string& version
         for (const SAdvProbe& probe : file.probes) {
             text += probeAsText(probe, workspace.settings);
         }
+    }
+    text += workspace.boundaries.IsEmpty() ? "" : "\n";
+    number = 0;
+    for (const SBndFile& boundary : workspace.boundaries) {
+        text += "Boundary " + std::to_string(++number) + ": " + utf8Text(boundary.name) + ", " +
+                plural(boundary.NodeCount(), "node") + ", " + utf8Text(boundary.path) + "\n";
     }
     return text;
 }

@@ -1,0 +1,23 @@
+#include "batch/PendingBoundaries.h"
+
+#include "batch/BatchError.h"
+
+namespace vorlan {
+
+void PendingBoundaries::read(SBndFile& boundary) {
+    if (const std::string* text = outputs_.boundaryText(boundary.path)) {
+        readBoundary(boundary, *text);
+        return;
+    }
+    try {
+        readBoundary(boundary);
+    } catch (const FileError& error) {
+        throw unreadable(textOf(error));
+    }
+}
+
+void PendingBoundaries::write(const SBndFile& boundary) {
+    outputs_.addBoundary(boundary.path, boundaryText(boundary));
+}
+
+}  // namespace vorlan
