@@ -64,6 +64,11 @@ RECIPE
 "$batch" run --recipe pair.toml pair.avp
 keep pair.png cross-known
 
+# The section of vectors.md.
+"$docs/flume-section.sh" "$batch"
+"$batch" render --stage vectors --out vectors.png --size 1200x820 flume.avp
+keep vectors.png vectors
+
 # --- the walk through the measured record ------------------------------------------------------------------------
 
 if [ -n "$record" ]; then
@@ -200,10 +205,21 @@ dialog stationarity alt+a s
 dialog histograms alt+a h
 dialog spectral alt+a p
 dialog quadrants alt+a q
+dialog vectors alt+a v
 dialog mean-velocity alt+t m
 dialog plot ctrl+f
 dialog export alt+f e t
 dialog export-scope alt+f e i
+close_window
+
+# The editor of grid-editor.md on the section of vectors.md, its limits left to the data.
+open_window flume.avp
+keys alt+t g
+# the plane X-Z, then every limit and step of the frame left to the data
+keys alt+p Tab Tab Tab Tab Left Tab Tab space
+keys Tab Tab space Tab space Tab space Tab space Tab space Tab space Return
+shot dialog-grid
+keys Escape
 close_window
 
 # window.md and README.md: the record of ./run at its spectra.
