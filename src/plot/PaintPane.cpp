@@ -36,8 +36,8 @@ class PanePainter {
     std::optional<CScreenUtils> operator()(std::monostate) { return std::nullopt; }
 
     std::optional<CScreenUtils> operator()(const PaneMessage& message) {
-        painter_.setFont(qtFont(FontDescription(), options_.fontScale));
-        painter_.drawText(area_, Qt::AlignCenter | Qt::TextWordWrap, QString::fromStdString(message.text));
+        drawFitted(painter_, area_, QString::fromStdString(message.text),
+                   qtFont(FontDescription(), options_.fontScale));
         return std::nullopt;
     }
 

@@ -10,6 +10,8 @@ namespace vorlan {
 
 namespace {
 
+constexpr int kFitted = Qt::AlignCenter | Qt::TextWordWrap;
+
 // A name from a file can hold characters that no picture file may.
 QString shownText(const std::string& text) {
     return QString::fromStdString(printable(text));
@@ -45,6 +47,27 @@ int QtTextMeasure::height(const FontDescription& font, double share) const {
 
 int QtTextMeasure::ascent(const FontDescription& font, double share) const {
     return metrics(font, share).ascent();
+}
+
+QRect fittedBox(const QString& text, const QRect& room, const QFont& font, const QPaintDevice* device) {
+    return QFontMetrics(font, device).boundingRect(room, kFitted, text);
+}
+
+QFont fittedFont(const QString& text, const QSize& room, QFont font, const QPaintDevice* device) {
+    constexpr double kSmaller = 0.9;
+    const auto fits = [&] {
+        const QSize size = fittedBox(text, QRect(QPoint(0, 0), room), font, device).size();
+        return size.width() <= room.width() && size.height() <= room.height();
+    };
+    while (font.pixelSize() > 1 && !fits()) {
+        font.setPixelSize(static_cast<int>(font.pixelSize() * kSmaller));
+    }
+    return font;
+}
+
+void drawFitted(QPainter& painter, const QRect& room, const QString& text, const QFont& font) {
+    painter.setFont(fittedFont(text, room.size(), font, painter.device()));
+    painter.drawText(room, kFitted, text);
 }
 
 void drawTexts(QPainter& painter, std::span<const PlacedText> texts, const TextMeasure& measure, double fontScale) {

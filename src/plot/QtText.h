@@ -28,6 +28,12 @@ class QtTextMeasure : public TextMeasure {
     double fontScale_;
 };
 
+/// A font for a text in the middle of a room, wrapped at its width: smaller where the text would be cut otherwise.
+QFont fittedFont(const QString& text, const QSize& room, QFont font, const QPaintDevice* device);
+/// The box of such a text.
+QRect fittedBox(const QString& text, const QRect& room, const QFont& font, const QPaintDevice* device);
+void drawFitted(QPainter& painter, const QRect& room, const QString& text, const QFont& font);
+
 void drawTexts(QPainter& painter, std::span<const PlacedText> texts, const TextMeasure& measure, double fontScale);
 
 }  // namespace vorlan
