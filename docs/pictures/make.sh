@@ -208,6 +208,7 @@ dialog quadrants alt+a q
 dialog vectors alt+a v
 dialog mean-velocity alt+t m
 dialog plot ctrl+f
+dialog page alt+f u
 dialog export alt+f e t
 dialog export-scope alt+f e i
 close_window

@@ -1,5 +1,7 @@
-// The document's commands that are no stage of a probe: new records, the convective velocity.
+// The document's commands that are no stage of a probe: new records, the convective velocity, printed pages.
 #include "app/CVorl_ADVDoc.h"
+#include "model/PageLayout.h"
+#include "model/StageTable.h"
 
 namespace vorlan {
 
@@ -19,6 +21,22 @@ void CVorl_ADVDoc::AppendFile(SAdvFile file, const char* command) {
     TakeOverSelection(*patch.settings);
     Write(command, std::move(patch));
     Tell(Change::Content);
+}
+
+Outcome CVorl_ADVDoc::SetPage(Stage stage, const PageAtrType& page) {
+    const Refusal refusal = refusalOf(page);
+    if (!refusal.empty()) {
+        port_->refuse(refusal.text);
+        return Outcome::Refused;
+    }
+    const int record = stageRow(stage).pageRecord;
+    if (page != workspace_.pages.GetAt(record)) {
+        SPageAtrArray pages = workspace_.pages;
+        pages.SetAt(record, page);
+        Write("Page Setup", {.pages = std::move(pages)});
+        Tell(Change::View);
+    }
+    return Outcome::Done;
 }
 
 Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& chosen) {

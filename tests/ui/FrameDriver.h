@@ -47,6 +47,16 @@ class ScriptedBoxes : public vorlan::UserBoxes {
         proposals.append(proposed);
         return boundaryPath;
     }
+    bool choosePrinter(QWidget*, QPrinter& printer, vorlan::PrintChoice& choice) override {
+        printChoice = choice;
+        return printerChosen && printerChosen(printer, choice);
+    }
+    bool choosePaper(QWidget*, QPrinter& printer) override { return paperChosen && paperChosen(printer); }
+    void showPreview(QDialog& preview) override {
+        if (previewShown) {
+            previewShown(preview);
+        }
+    }
 
     bool confirmAnswer = true;
     SaveAnswer saveAnswer = SaveAnswer::Discard;
@@ -54,6 +64,10 @@ class ScriptedBoxes : public vorlan::UserBoxes {
     QString savePath;
     QString exportPath;
     QString boundaryPath;
+    vorlan::PrintChoice printChoice;
+    std::function<bool(QPrinter&, vorlan::PrintChoice&)> printerChosen;
+    std::function<bool(QPrinter&)> paperChosen;
+    std::function<void(QDialog&)> previewShown;
     QStringList questions;
     QStringList refusals;
     QStringList retryQuestions;

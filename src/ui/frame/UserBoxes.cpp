@@ -2,7 +2,15 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGroupBox>
 #include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
 
 namespace vorlan {
 
@@ -84,6 +92,42 @@ QString UserBoxes::chooseBoundaryToOpen(QWidget* parent, const QString& folder) 
 
 QString UserBoxes::chooseBoundaryToSave(QWidget* parent, const QString& proposed) {
     return chooseToSave(parent, QStringLiteral("Save"), proposed, kBoundaryFilter, QStringLiteral("bnd"), {});
+}
+
+bool UserBoxes::choosePrinter(QWidget* parent, QPrinter& printer, PrintChoice& choice) {
+    QPrintDialog dialog(&printer, parent);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                      QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
+    dialog.setMinMax(1, std::max(1, *std::max_element(choice.pages.begin(), choice.pages.end())));
+    auto* box = new QGroupBox(QStringLiteral("What"), &dialog);
+    auto* column = new QVBoxLayout(box);
+    std::vector<QRadioButton*> buttons;
+    for (const QString& text : choice.texts()) {
+        buttons.push_back(new QRadioButton(text, box));
+        column->addWidget(buttons.back());
+    }
+    buttons[static_cast<std::size_t>(choice.scope)]->setChecked(true);
+    // Above the printer; a platform with another dialog shows it among the options.
+    if (auto* layout = qobject_cast<QBoxLayout*>(dialog.layout())) {
+        layout->insertWidget(0, box);
+    } else {
+        box->setWindowTitle(box->title());
+        dialog.setOptionTabs({box});
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    const auto checked = std::find_if(buttons.begin(), buttons.end(), [](auto* button) { return button->isChecked(); });
+    choice.scope = static_cast<PrintScope>(checked - buttons.begin());
+    return true;
+}
+
+bool UserBoxes::choosePaper(QWidget* parent, QPrinter& printer) {
+    return QPageSetupDialog(&printer, parent).exec() == QDialog::Accepted;
+}
+
+void UserBoxes::showPreview(QDialog& preview) {
+    preview.exec();
 }
 
 }  // namespace vorlan

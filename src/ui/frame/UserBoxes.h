@@ -3,6 +3,11 @@
 #include <QString>
 #include <QWidget>
 
+#include "ui/frame/PrintChoice.h"
+
+class QDialog;
+class QPrinter;
+
 namespace vorlan {
 
 /// The boxes that the window asks its user with. Tests put answers in their place.
@@ -27,6 +32,11 @@ class UserBoxes {
     virtual QString chooseNewBoundary(QWidget* parent, const QString& proposed);
     virtual QString chooseBoundaryToOpen(QWidget* parent, const QString& folder);
     virtual QString chooseBoundaryToSave(QWidget* parent, const QString& proposed);
+    /// Printer, range, copies and what is printed; false when cancelled.
+    virtual bool choosePrinter(QWidget* parent, QPrinter& printer, PrintChoice& choice);
+    /// Size and orientation of the paper; false when cancelled.
+    virtual bool choosePaper(QWidget* parent, QPrinter& printer);
+    virtual void showPreview(QDialog& preview);
 };
 
 }  // namespace vorlan

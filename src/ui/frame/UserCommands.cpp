@@ -23,6 +23,7 @@
 #include "ui/dialogs/CGridEdit.h"
 #include "ui/dialogs/CHistDlg.h"
 #include "ui/dialogs/CMeanVelDlg.h"
+#include "ui/dialogs/CPageDlg.h"
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/CQuadrDlg.h"
 #include "ui/dialogs/CSimulateDlg.h"
@@ -53,6 +54,12 @@ void UserCommands::dispatch(Command command) {
     switch (command) {
         case Command::BitmapCopy:
             return copyBitmap();
+        case Command::PageSetup:
+            return pageSetup();
+        case Command::PrintPreview:
+            return printer_.preview();
+        case Command::Print:
+            return print();
         case Command::ResultsTable:
             return document_.ShowTable(!document_.ShowsTable());
         case Command::PlotFrameOptions:
@@ -186,6 +193,24 @@ void UserCommands::plotFrameOptions() {
         document_.SetPlanFrame(slot->record, dialog.values());
     } else {
         document_.SetFrame(slot->group, slot->record, dialog.values());
+    }
+}
+
+void UserCommands::pageSetup() {
+    const Stage stage = document_.CurrentStage();
+    CPageDlg dialog(pageOfStage(document_.GetWorkspace(), stage), printer_.paper(), &window_);
+    dialog.setPaperPicker([this](QWidget* parent) { return printer_.choosePaper(parent); });
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    printer_.takeChosenPaper(accepted);
+    if (accepted) {
+        document_.SetPage(stage, dialog.values());
+    }
+}
+
+void UserCommands::print() {
+    const QString done = printer_.print();
+    if (!done.isEmpty()) {
+        showStatus_(done);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "app/CommandState.h"
+#include "ui/frame/PagePrinter.h"
 #include "ui/frame/PaneGrid.h"
 #include "ui/frame/TurbulenceTools.h"
 #include "ui/frame/UserBoxes.h"
@@ -17,9 +18,17 @@ class UserCommands {
   public:
     UserCommands(CVorl_ADVDoc& document, WorkspaceFiles& files, PaneGrid& panes, TurbulenceTools& tools,
                  QWidget& window)
-        : document_(document), files_(files), panes_(panes), tools_(tools), window_(window) {}
+        : document_(document),
+          files_(files),
+          panes_(panes),
+          tools_(tools),
+          window_(window),
+          printer_(document, window) {}
 
-    void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
+    void setBoxes(UserBoxes& boxes) {
+        boxes_ = &boxes;
+        printer_.setBoxes(boxes);
+    }
     /// Seed of the generator; the calendar time unless replaced.
     void setSeedSource(std::function<std::uint64_t()> source) { seed_ = std::move(source); }
     /// Shows a line in the status bar.
@@ -39,6 +48,8 @@ class UserCommands {
     void editGrid();
     void plotFrameOptions();
     void copyBitmap();
+    void pageSetup();
+    void print();
     void exportData(ExportKind kind);
 
     CVorl_ADVDoc& document_;
@@ -46,6 +57,7 @@ class UserCommands {
     PaneGrid& panes_;
     TurbulenceTools& tools_;
     QWidget& window_;
+    PagePrinter printer_;
     UserBoxes* boxes_ = nullptr;
     std::function<std::uint64_t()> seed_;
     std::function<void(const QString&)> showStatus_;

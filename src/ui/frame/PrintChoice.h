@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QStringList>
+#include <array>
+
+namespace vorlan {
+
+/// What of the workspace is printed.
+enum class PrintScope : int { Stage, Probe, AllProbes };
+
+/// The choice of it, with the number of pages that each takes.
+struct PrintChoice {
+    PrintScope scope = PrintScope::Stage;
+    std::array<int, 3> pages{};
+
+    QStringList texts() const {
+        const auto counted = [](const char* text, int count) {
+            return QStringLiteral("%1 (%2)").arg(
+                QString::fromUtf8(text), count == 1 ? QStringLiteral("1 page") : QStringLiteral("%1 pages").arg(count));
+        };
+        return {counted("This stage", pages[0]), counted("All done stages of this probe", pages[1]),
+                counted("All probes", pages[2])};
+    }
+};
+
+}  // namespace vorlan
