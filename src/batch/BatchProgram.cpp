@@ -29,7 +29,7 @@ std::string versionLine() {
 std::vector<Subcommand> addSubcommands(CLI::App& program) {
     std::vector<Subcommand> commands;
     for (const auto add : {addNewCommand, addSimulateCommand, addImportCommand, addInfoCommand, addRunCommand,
-                           addExportCommand, addRenderCommand}) {
+                           addExportCommand, addRenderCommand, addReportCommand}) {
         commands.push_back(add(program));
         commands.back().options->set_version_flag("--version", versionLine(), kVersionHelp);
         commands.back().options->set_help_flag("-h,--help", kHelpHelp);

@@ -18,7 +18,8 @@ void requireInRange(const std::string& option, double value, const Range& range)
     }
 }
 
-CLI::Option* addNumber(CLI::App& app, const std::string& name, int& target, const std::string& help) {
+CLI::Option* addNumber(CLI::App& app, const std::string& name, int& target, const std::string& help,
+                       const std::string& fallback) {
     return app
         .add_option_function<std::string>(
             name,
@@ -31,7 +32,7 @@ CLI::Option* addNumber(CLI::App& app, const std::string& name, int& target, cons
             },
             help)
         ->type_name("N")
-        ->default_str(std::to_string(target + 1));
+        ->default_str(fallback);
 }
 
 }  // namespace
@@ -124,9 +125,16 @@ std::string choicesHelp(const std::string& what, const std::vector<std::string>&
     return help;
 }
 
-void addPlace(CLI::App& app, ProbePlace& place) {
-    addNumber(app, "--file", place.file, "Data file, counted from 1");
-    addNumber(app, "--probe", place.probe, "Probe in the data file, counted from 1");
+void addPlace(CLI::App& app, ProbePlace& place, const std::string& fallback) {
+    addNumber(app, "--file", place.file, "Data file, counted from 1", fallback);
+    addNumber(app, "--probe", place.probe, "Probe in the data file, counted from 1", fallback);
+}
+
+void addPaper(CLI::App& app, int& paper, bool& landscape) {
+    addChoice(app, "--paper", paper, paperNames(), "Size of a printed page")
+        ->type_name("a3|a4|a5|letter|legal")
+        ->default_str(paperNames()[kUsualPaper]);
+    app.add_flag("--landscape", landscape, "The paper lies on its long side");
 }
 
 }  // namespace vorlan

@@ -36,8 +36,11 @@ CLI::Option* addChoice(CLI::App& app, const std::string& name, int& target, cons
 /// Help of a choice with many names: "The stage: one, two or three", in lines that fit beside the options.
 std::string choicesHelp(const std::string& what, const std::vector<std::string>& choices);
 
-/// "--file N" and "--probe N", numbers from 1.
-void addPlace(CLI::App& app, ProbePlace& place);
+/// "--file N" and "--probe N", numbers from 1; fallback is what the help says of one that is not given.
+void addPlace(CLI::App& app, ProbePlace& place, const std::string& fallback = "1");
+
+/// "--paper" and "--landscape".
+void addPaper(CLI::App& app, int& paper, bool& landscape);
 
 /// Of a sampling volume, m.
 inline constexpr Range kPosition{-1e6, 1e6};

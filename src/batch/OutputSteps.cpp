@@ -36,7 +36,11 @@ RenderRequest renderRequestOf(const StepValues& values) {
         request.triangles.push_back(values.triple("triangle"));
     }
     request.value = static_cast<PhysicalValue>(values.choice("values"));
-    request.size = parsePictureSize(values.text("size")).value();
+    if (values.has("size")) {
+        request.size = parsePictureSize(values.text("size")).value();
+    }
+    request.paper = paperOf(values.has("paper") ? values.choice("paper") : kUsualPaper,
+                            values.has("landscape") && values.boolean("landscape"));
     return request;
 }
 
@@ -50,7 +54,15 @@ Outcome runRender(StepContext& context, const StepValues& values) {
     return Outcome::Done;
 }
 
+/// A page has the size of its paper, a picture lies on none.
 std::string faultOfRender(const StepValues& values) {
+    const bool page = !values.has("pane") && isPage(std::nullopt, values.text("out"));
+    for (const char* name : {"size", "paper", "landscape"}) {
+        const bool ofPicture = std::string(name) == "size";
+        if (values.has(name) && ofPicture == page) {
+            return std::string("\"") + name + "\": " + faultOfSize(page);
+        }
+    }
     return faultOfTriangles(renderRequestOf(values));
 }
 
@@ -59,7 +71,7 @@ std::string faultOfPicturePattern(const std::string& text) {
     return fault.empty() ? faultOfPicturePath(text) : fault;
 }
 
-std::string faultOfSize(const std::string& text) {
+std::string faultOfPictureSize(const std::string& text) {
     return parsePictureSize(text) ? "" : kPictureSizeFault;
 }
 
@@ -75,8 +87,9 @@ std::vector<StepKind> outputSteps() {
          .faultOfValues = faultOfExport},
         {.name = "render",
          .keys = {required(choiceKey("stage", stageNames())), choiceKey("pane", paneNames()),
-                  choiceKey("values", physicalValueNames(), "velocities"), textKey("size", "1200x900", faultOfSize),
-                  tripleKey("triangle"), required(textKey("out", {}, faultOfPicturePattern))},
+                  choiceKey("values", physicalValueNames(), "velocities"), textKey("size", {}, faultOfPictureSize),
+                  choiceKey("paper", paperNames()), booleanKey("landscape", {}), tripleKey("triangle"),
+                  required(textKey("out", {}, faultOfPicturePattern))},
          .run = runRender,
          .faultOfValues = faultOfRender},
     };

@@ -116,20 +116,37 @@ TakenValue takeText(const KeyRule& key, const toml::node& node) {
     return fault.empty() ? TakenValue{text->get(), {}} : wrong(fault);
 }
 
-TakenValue takeTriple(const toml::node& node) {
-    std::array<double, 3> triple{};
+template <std::size_t count>
+TakenValue takeNumbers(const toml::node& node, const std::string& words) {
+    std::array<double, count> numbers{};
     const auto* array = node.as_array();
-    if (array == nullptr || array->size() != triple.size()) {
-        return wrong("must be three numbers in brackets");
+    if (array == nullptr || array->size() != count) {
+        return wrong("must be " + words + " numbers in brackets");
     }
-    for (std::size_t i = 0; i < triple.size(); ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         const std::optional<double> real = realOf((*array)[i]);
         if (!real) {
-            return wrong("must be three finite numbers in brackets");
+            return wrong("must be " + words + " finite numbers in brackets");
         }
-        triple[i] = *real;
+        numbers[i] = *real;
     }
-    return {triple, {}};
+    return {numbers, {}};
+}
+
+TakenValue takeChoices(const KeyRule& key, const toml::node& node) {
+    const auto* array = node.as_array();
+    if (array == nullptr) {
+        return wrong("must be a list in brackets");
+    }
+    std::vector<int> indexes;
+    for (const toml::node& item : *array) {
+        const TakenValue one = takeChoice(key, item);
+        if (!one.value) {
+            return wrong("has an unknown item: each " + one.fault);
+        }
+        indexes.push_back(std::get<int>(*one.value));
+    }
+    return {indexes, {}};
 }
 
 TakenValue takeValue(const KeyRule& key, const toml::node& node) {
@@ -145,7 +162,11 @@ TakenValue takeValue(const KeyRule& key, const toml::node& node) {
         case KeyType::Text:
             return takeText(key, node);
         case KeyType::Triple:
-            return takeTriple(node);
+            return takeNumbers<3>(node, "three");
+        case KeyType::Pair:
+            return takeNumbers<2>(node, "two");
+        case KeyType::Choices:
+            return takeChoices(key, node);
     }
     return wrong("is not known");
 }

@@ -12,8 +12,12 @@ namespace {
 constexpr double kUnbounded = 1e300;
 }  // namespace
 
-KeyRule booleanKey(std::string name, bool fallback) {
-    return {.name = std::move(name), .type = KeyType::Boolean, .fallback = fallback};
+KeyRule booleanKey(std::string name, std::optional<bool> fallback) {
+    KeyRule key{.name = std::move(name), .type = KeyType::Boolean};
+    if (fallback) {
+        key.fallback = *fallback;
+    }
+    return key;
 }
 
 KeyRule integerKey(std::string name, std::optional<int> fallback) {
@@ -53,6 +57,14 @@ KeyRule textKey(std::string name, std::optional<std::string> fallback, std::stri
 
 KeyRule tripleKey(std::string name) {
     return {.name = std::move(name), .type = KeyType::Triple};
+}
+
+KeyRule pairKey(std::string name) {
+    return {.name = std::move(name), .type = KeyType::Pair};
+}
+
+KeyRule choicesKey(std::string name, std::vector<std::string> choices) {
+    return {.name = std::move(name), .type = KeyType::Choices, .choices = std::move(choices)};
 }
 
 KeyRule keyOf(const SettingField& field, const StoredFlag& fallback) {

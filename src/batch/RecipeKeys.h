@@ -12,9 +12,10 @@
 namespace vorlan {
 
 /// What a key of a step may hold; a choice is held as its index.
-using KeyValue = std::variant<bool, int, double, std::string, std::array<double, 3>>;
+using KeyValue =
+    std::variant<bool, int, double, std::string, std::array<double, 3>, std::array<double, 2>, std::vector<int>>;
 
-enum class KeyType { Boolean, Integer, Real, Choice, Text, Triple };
+enum class KeyType { Boolean, Integer, Real, Choice, Text, Triple, Pair, Choices };
 
 /// One key of a step: type, allowed values, and the value that stands for an absent key.
 struct KeyRule {
@@ -41,6 +42,9 @@ class StepValues {
     int choice(const std::string& name) const { return get<int>(name); }
     const std::string& text(const std::string& name) const { return get<std::string>(name); }
     const std::array<double, 3>& triple(const std::string& name) const { return get<std::array<double, 3>>(name); }
+    const std::array<double, 2>& pair(const std::string& name) const { return get<std::array<double, 2>>(name); }
+    /// Indexes in the key's choices.
+    const std::vector<int>& choices(const std::string& name) const { return get<std::vector<int>>(name); }
 
   private:
     template <class T>
@@ -53,7 +57,7 @@ class StepValues {
 
 // Rows of the step table.
 
-KeyRule booleanKey(std::string name, bool fallback);
+KeyRule booleanKey(std::string name, std::optional<bool> fallback);
 KeyRule integerKey(std::string name, std::optional<int> fallback);
 KeyRule realKey(std::string name, std::optional<double> fallback);
 /// fallback is one of the choices, or empty for none.
@@ -61,6 +65,9 @@ KeyRule choiceKey(std::string name, std::vector<std::string> choices, const std:
 KeyRule textKey(std::string name, std::optional<std::string> fallback,
                 std::string (*faultOfText)(const std::string&) = nullptr);
 KeyRule tripleKey(std::string name);
+KeyRule pairKey(std::string name);
+/// A list of the choices, in any order.
+KeyRule choicesKey(std::string name, std::vector<std::string> choices);
 
 // Keys that hold a field of a settings value; the field's value is what an absent key stands for.
 

@@ -10,7 +10,7 @@ const std::vector<StepKind>& stepTable() {
     static const std::vector<StepKind> table = [] {
         std::vector<StepKind> rows;
         for (const std::vector<StepKind>& part :
-             {preProcessingSteps(), analysisSteps(), turbulenceSteps(), gridSteps(), outputSteps()}) {
+             {preProcessingSteps(), analysisSteps(), turbulenceSteps(), gridSteps(), pageSteps(), outputSteps()}) {
             rows.insert(rows.end(), part.begin(), part.end());
         }
         return rows;

@@ -55,6 +55,7 @@ std::vector<StepKind> preProcessingSteps();
 std::vector<StepKind> analysisSteps();
 std::vector<StepKind> turbulenceSteps();
 std::vector<StepKind> gridSteps();
+std::vector<StepKind> pageSteps();
 std::vector<StepKind> outputSteps();
 
 /// All steps, in the order of the manual.

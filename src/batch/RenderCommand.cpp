@@ -16,9 +16,22 @@ struct RenderArguments {
     int stage = 0;
     int pane = -1;
     int value = 0;
+    int paper = kUsualPaper;
+    bool landscape = false;
 };
 
-void runRender(RenderArguments& arguments, Console& console) {
+/// A page has the size of its paper, a picture lies on none.
+void requireFittingSizes(const CLI::App& app, const RenderRequest& request) {
+    const bool page = isPage(request.pane, request.path);
+    for (const char* name : {"--size", "--paper", "--landscape"}) {
+        const bool ofPicture = std::string(name) == "--size";
+        if (app.count(name) > 0 && ofPicture == page) {
+            throw usageError(std::string(name) + ": " + faultOfSize(page));
+        }
+    }
+}
+
+void runRender(RenderArguments& arguments, const CLI::App& app, Console& console) {
     RenderRequest& request = arguments.request;
     request.stage = static_cast<Stage>(arguments.stage);
     request.value = static_cast<PhysicalValue>(arguments.value);
@@ -28,6 +41,8 @@ void runRender(RenderArguments& arguments, Console& console) {
     if (const std::string fault = faultOfTriangles(request); !fault.empty()) {
         throw usageError("--triangle: " + fault);
     }
+    requireFittingSizes(app, request);
+    request.paper = paperOf(arguments.paper, arguments.landscape);
     requireOtherThanInput(request.path, arguments.input);
     requireOtherThanWorkspace(request.path);
     SilentPort port;
@@ -70,7 +85,7 @@ Subcommand addRenderCommand(CLI::App& program) {
                }
                arguments->request.path = text;
            },
-           "The picture to write, .png, .svg or .pdf")
+           "The picture to write, .png, .svg or .pdf; a .pdf of all panes\nis the printed page")
         ->required()
         ->type_name("OUT");
     app->add_option_function<std::string>(
@@ -102,10 +117,11 @@ Subcommand addRenderCommand(CLI::App& program) {
         ->type_name("X1,X2,Y")
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
         ->expected(1);
+    addPaper(*app, arguments->paper, arguments->landscape);
     addPlace(*app, arguments->place);
     needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");
-    return {app, [arguments](Console& console) {
-                runRender(*arguments, console);
+    return {app, [arguments, app](Console& console) {
+                runRender(*arguments, *app, console);
                 return ExitStatus::Done;
             }};
 }

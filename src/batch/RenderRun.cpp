@@ -10,6 +10,8 @@
 #include "batch/Console.h"
 #include "batch/WorkspaceAccess.h"
 #include "model/StageTable.h"
+#include "model/Text.h"
+#include "plot/PdfDocument.h"
 #include "plot/RenderFile.h"
 #include "stages/PaneDescription.h"
 #include "stages/TurbulenceReadOut.h"
@@ -41,6 +43,20 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
     }
 }
 
+void requirePrintable(const std::string& refused) {
+    if (!refused.empty()) {
+        throw refusal(refused);
+    }
+}
+
+std::string renderedPage(const PaneRequest& request, const std::filesystem::path& workspace, const PaperSize& paper) {
+    requirePrintable(refusalOf(pageOfStage(request.workspace, request.stage), paper).text);
+    PdfDocument document(utf8Text(workspace.stem().string()) + ": " + stageRow(request.stage).text, paper);
+    document.add(describePage(request, paper),
+                 placeOf(request.workspace, {request.file, request.probe, request.stage}));
+    return document.finish().toStdString();
+}
+
 }  // namespace
 
 const std::vector<std::string>& stageNames() {
@@ -62,6 +78,14 @@ const std::vector<std::string>& paneNames() {
 const std::vector<std::string>& physicalValueNames() {
     static const std::vector<std::string> names = {"velocities", "stresses"};
     return names;
+}
+
+bool isPage(const std::optional<Pane>& pane, const std::string& path) {
+    return !pane && formatOf(path) == RenderFormat::Pdf;
+}
+
+const char* faultOfSize(bool page) {
+    return page ? "a printed page has the size of its paper" : "only a .pdf of all panes stands on paper";
 }
 
 std::string faultOfPicturePath(const std::string& path) {
@@ -141,19 +165,27 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
     if (!selected && row.mark && !row.spansAllFiles()) {
         throw refusal(std::string("this probe has no stage \"") + row.text + "\" yet");
     }
+    const PaneRequest wanted{document.GetWorkspace(),
+                             document.ActiveFile(),
+                             document.ActiveProbe(),
+                             request.stage,
+                             request.pane.value_or(Pane::LeftTop),
+                             request.value,
+                             !selected || document.ShowsTable()};
+    startToolkit();
+    if (isPage(request.pane, request.path)) {
+        return renderedPage(wanted, document.GetPath(), request.paper);
+    }
     std::vector<PaneContent> panes;
     for (int pane = 0; pane < kPaneCount; ++pane) {
         if (!request.pane || *request.pane == static_cast<Pane>(pane)) {
-            panes.push_back(
-                describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(), request.stage,
-                              static_cast<Pane>(pane), request.value, !selected || document.ShowsTable()}));
+            PaneRequest one = wanted;
+            one.pane = static_cast<Pane>(pane);
+            panes.push_back(describePane(one));
         }
     }
     for (PaneContent& pane : panes) {
         addTriangles(pane, request);
-    }
-    if (!toolkit_) {
-        toolkit_ = std::make_unique<Toolkit>();
     }
     const QByteArray bytes =
         renderPanes(panes, QSize(request.size.width, request.size.height), formatOf(request.path).value());
@@ -161,6 +193,24 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
         throw refusal("a picture of this size cannot be made");
     }
     return bytes.toStdString();
+}
+
+std::string Renderer::report(const Workspace& workspace, const std::string& title, const std::vector<ReportPage>& pages,
+                             const PaperSize& paper, const std::function<void(std::size_t)>& told) {
+    requirePrintable(refusalOf(workspace, pages, paper));
+    startToolkit();
+    PdfDocument document(title, paper);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        told(i);
+        document.add(describePage(requestFor(workspace, pages[i]), paper), placeOf(workspace, pages[i]));
+    }
+    return document.finish().toStdString();
+}
+
+void Renderer::startToolkit() {
+    if (!toolkit_) {
+        toolkit_ = std::make_unique<Toolkit>();
+    }
 }
 
 }  // namespace vorlan

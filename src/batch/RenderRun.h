@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,7 +9,9 @@
 
 #include "app/CVorl_ADVDoc.h"
 #include "batch/TextValues.h"
+#include "model/PageLayout.h"
 #include "model/Stages.h"
+#include "stages/PageDescription.h"
 
 namespace vorlan {
 
@@ -25,8 +28,14 @@ struct RenderRequest {
     PhysicalValue value = PhysicalValue::Velocities;
     PictureSize size;
     std::vector<std::array<double, 3>> triangles;  ///< slope triangles: from, to, y at from
+    PaperSize paper;                               ///< of the page that a PDF of all panes is
     std::string path;                              ///< its extension decides the format
 };
+
+/// True for a path that takes a printed page: a PDF of all panes.
+bool isPage(const std::optional<Pane>& pane, const std::string& path);
+/// Why a page takes no size of a picture, or a picture no paper.
+const char* faultOfSize(bool page);
 
 /// Why no picture can be written to the path; empty when one can.
 std::string faultOfPicturePath(const std::string& path);
@@ -49,9 +58,15 @@ class Renderer {
     /// The bytes of the picture of the selected probe. Selects the stage; BatchError Refused when the probe has not
     /// got it.
     std::string render(CVorl_ADVDoc& document, const RenderRequest& request);
+    /// The bytes of a PDF with these pages, which must be printable on this paper. told is called before each page with
+    /// its number, from 0.
+    std::string report(const Workspace& workspace, const std::string& title, const std::vector<ReportPage>& pages,
+                       const PaperSize& paper, const std::function<void(std::size_t)>& told);
 
   private:
     class Toolkit;
+    void startToolkit();
+
     std::unique_ptr<Toolkit> toolkit_;
 };
 

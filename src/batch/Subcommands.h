@@ -25,5 +25,6 @@ Subcommand addInfoCommand(CLI::App& program);
 Subcommand addRunCommand(CLI::App& program);
 Subcommand addExportCommand(CLI::App& program);
 Subcommand addRenderCommand(CLI::App& program);
+Subcommand addReportCommand(CLI::App& program);
 
 }  // namespace vorlan

@@ -54,6 +54,18 @@ int componentOfLetter(std::string_view letter) {
     return at == std::string_view::npos ? -1 : static_cast<int>(at % 3);
 }
 
+const std::vector<std::string>& paperNames() {
+    static const std::vector<std::string> names = {"a3", "a4", "a5", "letter", "legal"};
+    return names;
+}
+
+PaperSize paperOf(int index, bool landscape) {
+    constexpr std::array<PaperSize, 5> papers = {
+        {{29.7, 42.0}, {21.0, 29.7}, {14.8, 21.0}, {21.59, 27.94}, {21.59, 35.56}}};
+    const PaperSize paper = papers.at(static_cast<std::size_t>(index));
+    return landscape ? PaperSize{paper.height, paper.width} : paper;
+}
+
 std::optional<PictureSize> parsePictureSize(std::string_view text) {
     const std::vector<std::string> sides = splitText(text, 'x');
     if (sides.size() != 2) {

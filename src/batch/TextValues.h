@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "model/PageLayout.h"
+
 namespace vorlan {
 
 /// A whole text as a finite number in C notation, whatever the locale; nothing when it is none.
@@ -20,6 +22,12 @@ std::optional<std::vector<double>> parseReals(std::string_view text, std::size_t
 
 /// Index of a component letter of either case: u 0, v 1, w 2; -1 for any other text.
 int componentOfLetter(std::string_view letter);
+
+/// Names of the sizes of paper.
+const std::vector<std::string>& paperNames();
+inline constexpr int kUsualPaper = 1;  ///< index of a4
+/// The paper of a name's index, upright or turned.
+PaperSize paperOf(int index, bool landscape);
 
 /// Sides of a picture, pixels.
 struct PictureSize {
