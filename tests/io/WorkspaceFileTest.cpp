@@ -86,18 +86,10 @@ TEST_F(WorkspaceFile, EveryKindOfUnusableFileHasItsOwnReason) {
 }
 
 TEST_F(WorkspaceFile, WithoutAVersionHasTheVerbatimText) {
-    // A table of an instrument reads as a version text with digits, of as many bytes as its first letter says.
-    std::string table = "u,v,w\n";
-    while (table.size() < 2000) {
-        table += "12.3,4.5,-0.6\n";
-    }
-    const auto bytes = std::as_bytes(std::span(table));
-    for (const Bytes& file : {Bytes(200, std::byte{'V'}), Bytes(bytes.begin(), bytes.end())}) {
-        const auto error = openError(file);
-        ASSERT_TRUE(error.has_value());
-        EXPECT_EQ(error->kind(), FileError::Kind::Format);
-        EXPECT_STREQ(error->what(), "Invalid Workspace format.");
-    }
+    const auto error = openError(Bytes(200, std::byte{'V'}));
+    ASSERT_TRUE(error.has_value());
+    EXPECT_EQ(error->kind(), FileError::Kind::Format);
+    EXPECT_STREQ(error->what(), "Invalid Workspace format.");
 }
 
 /// One file with one probe at least, pages behind it.

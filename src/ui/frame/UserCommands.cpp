@@ -160,8 +160,8 @@ void UserCommands::editTimeSeries() {
 }
 
 void UserCommands::editGrid() {
-    using Choice = QString (UserBoxes::*)(QWidget*, const QString&);
-    const auto inFolder = [this](Choice choose) {
+    using ChoosePath = QString (UserBoxes::*)(QWidget*, const QString&);
+    const auto inFolder = [this](ChoosePath choose) {
         return [this, choose](QWidget* parent, const QString& proposed) {
             return (boxes_->*choose)(parent, QDir(files_.folder()).filePath(proposed));
         };
