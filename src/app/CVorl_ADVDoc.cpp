@@ -46,11 +46,7 @@ void CVorl_ADVDoc::Tell(Change change) const {
 }
 
 void CVorl_ADVDoc::NewWorkspace() {
-    workspace_ = Workspace();
-    path_.clear();
-    stamp_.reset();
-    written_.restart(workspace_.boundaries);
-    modified_ = false;
+    Replace(Workspace(), {}, std::nullopt);
     Tell(Change::Content);
 }
 
@@ -58,19 +54,24 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
     // Before it is read: what is written meanwhile is a change.
     const std::optional<FileStamp> stamp = fileStampOf(path);
     Workspace fresh = vorlan::openWorkspace(path);
-    workspace_ = std::move(fresh);
-    path_ = path;
+    Replace(std::move(fresh), path, stamp);
+    Tell(Change::Content);
+}
+
+void CVorl_ADVDoc::Replace(Workspace workspace, std::filesystem::path path, std::optional<FileStamp> stamp) {
+    workspace_ = std::move(workspace);
+    path_ = std::move(path);
     stamp_ = stamp;
     written_.restart(workspace_.boundaries);
-    modified_ = false;
-    Tell(Change::Content);
+    history_ = History();
+    savedState_ = history_.State();
 }
 
 void CVorl_ADVDoc::SaveWorkspace(const std::filesystem::path& path) {
     vorlan::saveWorkspace(workspace_, path);
     path_ = path;
     stamp_ = fileStampOf(path);
-    modified_ = false;
+    savedState_ = history_.State();
     Tell(Change::View);
 }
 
@@ -81,10 +82,30 @@ bool CVorl_ADVDoc::IsChangedOnDisk() const {
 
 void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch) {
     patch.Exchange(workspace_);
-    // The patch holds what the command replaced: exchanged again, it takes the command back.
+    // The patch holds what was replaced now.
     if (command != nullptr) {
-        modified_ = true;
+        history_.Record(command, std::move(patch));
+    } else {
+        history_.RecordSelection(std::move(patch));
     }
+}
+
+Outcome CVorl_ADVDoc::Undo() {
+    if (running_ || UndoName() == nullptr) {
+        return Outcome::Refused;
+    }
+    history_.Undo(workspace_);
+    Tell(Change::Content);
+    return Outcome::Done;
+}
+
+Outcome CVorl_ADVDoc::Redo() {
+    if (running_ || RedoName() == nullptr) {
+        return Outcome::Refused;
+    }
+    history_.Redo(workspace_);
+    Tell(Change::Content);
+    return Outcome::Done;
 }
 
 WorkspacePatch CVorl_ADVDoc::PatchOf(SAdvProbe probe) const {

@@ -15,6 +15,7 @@
 #include "analysis/TurbulenceScales.h"
 #include "app/BoundaryStorage.h"
 #include "app/DocumentPort.h"
+#include "app/History.h"
 #include "app/WorkspacePatch.h"
 #include "app/WrittenBoundaries.h"
 #include "export/ExportKind.h"
@@ -64,7 +65,7 @@ class CVorl_ADVDoc {
     const Workspace& GetWorkspace() const { return workspace_; }
     const WorkspaceSettings& Settings() const { return workspace_.settings; }
     const std::filesystem::path& GetPath() const { return path_; }
-    bool IsModified() const { return modified_; }
+    bool IsModified() const { return history_.State() != savedState_; }
     /// True when another program has written the file since it was opened or saved here; false where it is gone.
     bool IsChangedOnDisk() const;
     /// True while a calculation runs: no command may start.
@@ -75,6 +76,14 @@ class CVorl_ADVDoc {
     void OpenWorkspace(const std::filesystem::path& path);
     /// Throws FileError; the file at path is then what it was.
     void SaveWorkspace(const std::filesystem::path& path);
+
+    /// Takes the last command back that wrote something, or does the one again that was taken back last; Refused when
+    /// there is none. What was selected since goes with it.
+    Outcome Undo();
+    Outcome Redo();
+    /// What they would act on, in the words of the menus; null for nothing.
+    const char* UndoName() const { return history_.UndoName(); }
+    const char* RedoName() const { return history_.RedoName(); }
 
     // Selection. An index out of range (after loading) counts as no selection; the stored value stays.
 
@@ -210,6 +219,8 @@ class CVorl_ADVDoc {
     /// The one way in which anything is written into the workspace. command names what the user did; without a name
     /// something was only selected, which does not count as a modification.
     void Write(const char* command, WorkspacePatch patch);
+    /// Another workspace, with nothing to take back.
+    void Replace(Workspace workspace, std::filesystem::path path, std::optional<FileStamp> stamp);
     void Select(WorkspacePatch patch) { Write(nullptr, std::move(patch)); }
     /// Runs operation on a copy of the active probe and writes the copy when it is done. The operation may still edit
     /// the command's settings.
@@ -241,7 +252,8 @@ class CVorl_ADVDoc {
     Workspace workspace_;
     std::filesystem::path path_;
     std::optional<FileStamp> stamp_;  // of the file at path_ when it was opened or saved
-    bool modified_ = false;
+    History history_;
+    std::uint64_t savedState_ = 0;  // of the history when the workspace was opened or saved
     bool running_ = false;
     EditingResult lastEditing_;
     BoundaryStorage disk_;

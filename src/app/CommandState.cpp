@@ -12,6 +12,14 @@ namespace {
 /// What a command may need of the document and the views: why it is not given, empty when it is.
 using Need = std::string (*)(const CVorl_ADVDoc& document, const ShownPanes& shown);
 
+std::string somethingDone(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.UndoName() != nullptr ? "" : "nothing was done since the workspace was opened";
+}
+
+std::string somethingUndone(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.RedoName() != nullptr ? "" : "nothing was taken back";
+}
+
 std::string dataFile(const CVorl_ADVDoc& document, const ShownPanes&) {
     return document.HasFile() ? "" : "no data file is selected";
 }
@@ -105,6 +113,8 @@ const std::vector<CommandRow>& commandTable() {
         {Command::Print, {dataFile}},
         {Command::RecentWorkspace, {}},
         {Command::Exit, {}},
+        {Command::Undo, {somethingDone}},
+        {Command::Redo, {somethingUndone}},
         {Command::BitmapCopy, {dataFile}},
         {Command::SelectionToolbar, {}},
         {Command::SpectralToolbar, {}},

@@ -19,6 +19,8 @@ enum class Command : int {
     Print,
     RecentWorkspace,
     Exit,
+    Undo,
+    Redo,
     BitmapCopy,
     SelectionToolbar,
     SpectralToolbar,

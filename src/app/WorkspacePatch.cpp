@@ -1,5 +1,6 @@
 #include "app/WorkspacePatch.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vorlan {
@@ -23,6 +24,13 @@ void exchangeFile(std::optional<SAdvFile>& file, int index, SAdvFilesArray& file
     }
 }
 
+template <class T>
+void keepOlder(std::optional<T>& older, std::optional<T>& later) {
+    if (!older.has_value()) {
+        older = std::move(later);
+    }
+}
+
 }  // namespace
 
 void WorkspacePatch::Exchange(Workspace& workspace) {
@@ -36,6 +44,21 @@ void WorkspacePatch::Exchange(Workspace& workspace) {
     exchange(planFrames, workspace.dataFiles.frameAttributes);
     exchange(boundaries, workspace.boundaries);
     exchange(pages, workspace.pages);
+}
+
+void WorkspacePatch::Precede(WorkspacePatch later) {
+    keepOlder(settings, later.settings);
+    keepOlder(planFrames, later.planFrames);
+    keepOlder(boundaries, later.boundaries);
+    keepOlder(pages, later.pages);
+    for (ProbePart& part : later.probes) {
+        const bool known = std::any_of(probes.begin(), probes.end(), [&](const ProbePart& older) {
+            return older.file == part.file && older.probe == part.probe;
+        });
+        if (!known) {
+            probes.push_back(std::move(part));
+        }
+    }
 }
 
 }  // namespace vorlan

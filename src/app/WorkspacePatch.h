@@ -31,6 +31,9 @@ struct WorkspacePatch {
     std::optional<SPageAtrArray> pages = std::nullopt;
 
     void Exchange(Workspace& workspace);
+    /// Two exchanged patches as one: this one was exchanged first, so its parts are the older ones and stay. later has
+    /// no file part.
+    void Precede(WorkspacePatch later);
 };
 
 }  // namespace vorlan

@@ -17,6 +17,13 @@ QString plainText(QString text) {
     return text;
 }
 
+// "&Undo Digital Filtration".
+void nameCommand(QAction& action, const char* text, const char* name) {
+    action.setText(QString::fromLatin1(text) +
+                   (name != nullptr ? QLatin1Char(' ') + QString::fromUtf8(name) : QString()));
+    action.setToolTip(plainText(action.text()));
+}
+
 bool isWindowSwitch(Command command) {
     return command == Command::SelectionToolbar || command == Command::SpectralToolbar || command == Command::StatusBar;
 }
@@ -76,6 +83,8 @@ void CommandActions::update(const CVorl_ADVDoc& document, const ShownPanes& show
             action->setChecked(state.checked);
         }
     }
+    nameCommand(*of(Command::Undo), "&Undo", document.UndoName());
+    nameCommand(*of(Command::Redo), "&Redo", document.RedoName());
     for (QAction* action : recent_) {
         action->setEnabled(!document.IsRunning());
     }

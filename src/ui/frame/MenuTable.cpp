@@ -44,7 +44,13 @@ std::vector<Menu> buildMenus() {
              separator(),
              {"E&xit", Command::Exit, "Ctrl+Q", "Leave Vorlan"},
          }},
-        {"&Edit", {{"&Bitmap copy", Command::BitmapCopy, "Ctrl+C", "Copy the active view to the clipboard"}}},
+        {"&Edit",
+         {
+             {"&Undo", Command::Undo, "Ctrl+Z", "Take the last command back"},
+             {"&Redo", Command::Redo, "Ctrl+Shift+Z", "Do again what was taken back"},
+             separator(),
+             {"&Bitmap copy", Command::BitmapCopy, "Ctrl+C", "Copy the active view to the clipboard"},
+         }},
         {"&View",
          {
              checkable("&Data Selection Toolbar", Command::SelectionToolbar, "Show or hide the data selection toolbar"),

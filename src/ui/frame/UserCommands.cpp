@@ -52,6 +52,12 @@ Outcome UserCommands::ask(Method command, const Arguments&... arguments) {
 void UserCommands::dispatch(Command command) {
     const WorkspaceSettings& settings = document_.Settings();
     switch (command) {
+        case Command::Undo:
+            document_.Undo();
+            return;
+        case Command::Redo:
+            document_.Redo();
+            return;
         case Command::BitmapCopy:
             return copyBitmap();
         case Command::PageSetup:

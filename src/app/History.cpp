@@ -1,0 +1,41 @@
+#include "app/History.h"
+
+#include <utility>
+
+namespace vorlan {
+
+void History::Record(const char* command, WorkspacePatch replaced) {
+    steps_.resize(done_ + 1);
+    steps_.push_back({command, ++lastNumber_, std::move(replaced), {}});
+    ++done_;
+    openingTakenBack_ = false;
+}
+
+void History::RecordSelection(WorkspacePatch replaced) {
+    if (std::exchange(openingTakenBack_, false)) {
+        steps_.front().selections = {};
+    }
+    steps_[done_].selections.Precede(std::move(replaced));
+}
+
+void History::Undo(Workspace& workspace) {
+    Step& step = steps_[done_];
+    step.selections.Exchange(workspace);
+    step.replaced.Exchange(workspace);
+    --done_;
+    if (done_ == 0) {
+        steps_.front().selections.Exchange(workspace);
+        openingTakenBack_ = true;
+    }
+}
+
+void History::Redo(Workspace& workspace) {
+    if (std::exchange(openingTakenBack_, false)) {
+        steps_.front().selections.Exchange(workspace);
+    }
+    ++done_;
+    steps_[done_].replaced.Exchange(workspace);
+    steps_[done_].selections.Exchange(workspace);
+}
+
+}  // namespace vorlan

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "app/WorkspacePatch.h"
+
+namespace vorlan {
+
+/// What was done to a workspace since it was made or opened, to be taken back and done again without a limit. A step
+/// holds what its command replaced, and columns are shared: it costs what the command changed.
+///
+/// Selections are no steps of their own. They go back with the command in front of them, those before the first
+/// command with that one, so that the workspace is the opened one when everything is taken back.
+class History {
+  public:
+    /// A command was done. What was taken back before it cannot be done again.
+    void Record(const char* command, WorkspacePatch replaced);
+    /// Something was selected.
+    void RecordSelection(WorkspacePatch replaced);
+
+    /// Name of the command that Undo() takes back or Redo() does again; null when there is none.
+    const char* UndoName() const { return steps_[done_].command; }
+    const char* RedoName() const { return done_ + 1 < steps_.size() ? steps_[done_ + 1].command : nullptr; }
+    /// Need a name.
+    void Undo(Workspace& workspace);
+    void Redo(Workspace& workspace);
+
+    /// Differs between any two states that a command lies between.
+    std::uint64_t State() const { return steps_[done_].number; }
+
+  private:
+    struct Step {
+        const char* command = nullptr;
+        std::uint64_t number = 0;
+        WorkspacePatch replaced = {};
+        WorkspacePatch selections = {};  ///< made between this command and the next
+    };
+
+    std::vector<Step> steps_ = {Step{}};  ///< in front stands what was opened
+    std::size_t done_ = 0;                ///< the last step that is not taken back
+    std::uint64_t lastNumber_ = 0;
+    bool openingTakenBack_ = false;  ///< the selections before the first command are taken back, too
+};
+
+}  // namespace vorlan
