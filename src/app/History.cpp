@@ -5,17 +5,21 @@
 namespace vorlan {
 
 void History::Record(const char* command, WorkspacePatch replaced) {
+    ForgetTakenBackOpening();
     steps_.resize(done_ + 1);
     steps_.push_back({command, ++lastNumber_, std::move(replaced), {}});
     ++done_;
-    openingTakenBack_ = false;
 }
 
 void History::RecordSelection(WorkspacePatch replaced) {
+    ForgetTakenBackOpening();
+    steps_[done_].selections.Precede(std::move(replaced));
+}
+
+void History::ForgetTakenBackOpening() {
     if (std::exchange(openingTakenBack_, false)) {
         steps_.front().selections = {};
     }
-    steps_[done_].selections.Precede(std::move(replaced));
 }
 
 void History::Undo(Workspace& workspace) {

@@ -38,6 +38,9 @@ class History {
         WorkspacePatch selections = {};  ///< made between this command and the next
     };
 
+    /// What happens after everything was taken back begins anew.
+    void ForgetTakenBackOpening();
+
     std::vector<Step> steps_ = {Step{}};  ///< in front stands what was opened
     std::size_t done_ = 0;                ///< the last step that is not taken back
     std::uint64_t lastNumber_ = 0;

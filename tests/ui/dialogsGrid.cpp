@@ -68,6 +68,8 @@ class DialogsGrid : public QObject {
             QCOMPARE(driver.boxes.proposals.last(), driver.path("bed.bnd"));
             QCOMPARE(list->currentText(), QStringLiteral("bed.bnd"));
             auto* plane = editor.findChildren<QRadioButton*>()[2];
+            // The boxes in between took the activation with them.
+            QApplication::setActiveWindow(&editor);
             plane->setFocus();
             QTest::keyClick(plane, Qt::Key_Left);
             QVERIFY(editor.findChildren<QRadioButton*>()[1]->isChecked());

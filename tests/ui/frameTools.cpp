@@ -15,6 +15,9 @@ namespace {
 class SpectralDriver : public FrameDriver {
   public:
     SpectralDriver() {
+        // Larger than the screen when that has two pixels for one.
+        frame->resize(640, 560);
+        QCoreApplication::processEvents();
         simulate();
         SpectralDialogValues settings;
         settings.truncationMode = 1;

@@ -15,6 +15,7 @@ CVectorsDlg::CVectorsDlg(const VectorSettings& settings, QWidget* parent)
     plane_ = radioButtons({QStringLiteral("&XY   (Top view)"), QStringLiteral("X&Z   (Side view)"),
                            QStringLiteral("&Y&Z   (Front view)")},
                           settings.plane, this);
+    auto* scale = new QGroupBox(QStringLiteral("Scale of Mean Velocity :"), this);
     pixels_ = new IntegerField(this);
     pixels_->setInteger(settings.pixels);
     pixels_->setToolTip(QStringLiteral("Length of an arrow of the given velocity, pixels above 0"));
@@ -33,7 +34,6 @@ CVectorsDlg::CVectorsDlg(const VectorSettings& settings, QWidget* parent)
         line->addStretch();
         return line;
     };
-    auto* scale = new QGroupBox(QStringLiteral("Scale of Mean Velocity :"), this);
     scale->setLayout(row(
         {pixels_, new QLabel(QStringLiteral("pixels are"), this), speed_, new QLabel(QStringLiteral("cm/s"), this)}));
     body()->addWidget(radioBox(QStringLiteral("Plane:"), plane_));
