@@ -201,16 +201,5 @@ TEST(Kernels, EverySetGivesTheSameTrigonometricBytes) {
     }
 }
 
-TEST(Kernels, TheEnvironmentForcesOnlyWhatTheProcessorHas) {
-    const std::vector<InstructionSet> sets = availableInstructionSets();
-    for (const InstructionSet set : sets) {
-        EXPECT_EQ(chosenInstructionSet(nameOf(set)), set);
-        EXPECT_EQ(kernelsOf(set).set, set);
-    }
-    EXPECT_EQ(chosenInstructionSet(""), sets.back());
-    EXPECT_EQ(chosenInstructionSet("AVX9"), sets.back());
-    EXPECT_EQ(sets.front(), InstructionSet::Plain);
-}
-
 }  // namespace
 }  // namespace vorlan

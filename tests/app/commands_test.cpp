@@ -75,15 +75,6 @@ TEST_F(Commands, NothingStartsDuringARun) {
     EXPECT_EQ(nosy.inner, Outcome::Refused);
 }
 
-TEST_F(Commands, AChangeAsksOnlyWhenAStageIsDone) {
-    EXPECT_EQ(document.Clip(4.0, 36.0), Outcome::Done);
-    EXPECT_TRUE(port.questions.empty());
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(50)), Outcome::Done);
-    document.SelectStage(0);
-    EXPECT_EQ(document.ResetTimeSeries(), Outcome::Done);
-    EXPECT_EQ(port.questions, std::vector<std::string>{kRepeatQuestion});
-}
-
 TEST_F(Commands, OkRepeatsTheDoneStagesAndCancelKeepsTheirResults) {
     ASSERT_EQ(document.StationarityAnalysis({BandMode::Fixed, 5}), Outcome::Done);
     ASSERT_EQ(document.SpectralAnalysis(lagsOf(50)), Outcome::Done);
@@ -196,41 +187,6 @@ TEST_F(Commands, WhatOthersWroteOnTheFileIsNoticed) {
     // A file that is gone is no change to keep.
     std::filesystem::remove(path);
     EXPECT_FALSE(document.IsChangedOnDisk());
-}
-
-TEST_F(Commands, APatchExchangedTwiceIsTakenBack) {
-    simulateAndSelect(document, 10.0);
-    Workspace workspace = document.GetWorkspace();
-    WorkspacePatch patch;
-    patch.settings.emplace().stationarity.bands = 77;
-    patch.probes.push_back({0, 0, SAdvProbe()});
-    patch.planFrames.emplace();
-    patch.boundaries.emplace().SetSize(2);
-    for (const bool takesOut : {true, false}) {
-        patch.file = {1, takesOut ? std::nullopt : std::optional(workspace.dataFiles.files.GetAt(0))};
-        patch.Exchange(workspace);
-        EXPECT_EQ(workspace.settings.stationarity.bands, 77);
-        EXPECT_EQ(workspace.dataFiles.files.GetSize(), takesOut ? 1 : 3);
-        EXPECT_EQ(workspace.dataFiles.files.GetAt(0).probes.GetAt(0), SAdvProbe());
-        EXPECT_TRUE(workspace.dataFiles.frameAttributes.IsEmpty());
-        EXPECT_EQ(workspace.boundaries.GetSize(), 2);
-        patch.Exchange(workspace);
-        EXPECT_EQ(workspace.settings, document.Settings());
-        EXPECT_EQ(workspace.dataFiles, document.GetWorkspace().dataFiles);
-        EXPECT_EQ(workspace.boundaries, document.GetWorkspace().boundaries);
-    }
-}
-
-TEST_F(Commands, ConvectiveVelocityIsThatOfTheSeries) {
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(10)), Outcome::Done);
-    const SAdvProbe& p = document.Probe();
-    const double u = p.seriesU.moments.mean;
-    const double v = p.seriesV.moments.mean;
-    const double w = p.seriesW.moments.mean;
-    EXPECT_DOUBLE_EQ(document.AveragedVelocity().value(), std::sqrt(u * u + v * v + w * w));
-    document.SetMeanVelocity({1, 25.0});
-    EXPECT_EQ(document.Settings().meanVelocityMode, 1);
-    EXPECT_EQ(document.Settings().userMeanVelocity, 25.0);
 }
 
 }  // namespace

@@ -19,13 +19,6 @@ class WorkspaceMakingTest : public BatchTest {
     }
 };
 
-TEST_F(WorkspaceMakingTest, NewIsTheEmptyWorkspace) {
-    done({"new", path("a.avp")});
-    Workspace empty;
-    saveWorkspace(empty, path("b.avp"));
-    EXPECT_TRUE(sameBytes(read(path("a.avp")), read(path("b.avp"))));
-}
-
 TEST_F(WorkspaceMakingTest, SimulateHandsEveryOptionOver) {
     done({"simulate",   "--out",      path("a.avp"),  "--name",     "wave",
           "--interval", "0.1",        "--length",     "5",          "--correlation",

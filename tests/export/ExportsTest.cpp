@@ -134,16 +134,5 @@ TEST(Exports, OfColumnsThatDoNotFitTogetherAreRefused) {
     }
 }
 
-TEST(ExportKinds, StandAtTheirNumberUnderNamesOfTheirOwn) {
-    std::set<std::string> names;
-    std::set<std::string> files;
-    for (int i = 0; i < kExportKindCount; ++i) {
-        const ExportKindInfo& info = exportKindInfo(static_cast<ExportKind>(i));
-        EXPECT_EQ(info.kind, static_cast<ExportKind>(i));
-        EXPECT_TRUE(names.insert(info.name).second && files.insert(info.defaultFile).second) << info.name;
-        EXPECT_EQ(info.writeAll != nullptr, info.dialog == ExportDialog::Scope) << info.name;
-    }
-}
-
 }  // namespace
 }  // namespace vorlan::test

@@ -180,18 +180,6 @@ TEST(Tabs, TakeTheirTextFromTheStageNumber) {
     EXPECT_EQ(tabTexts({9, 1}), "|Stationarity|");
 }
 
-TEST(Tabs, StandInOrderOfFirstRun) {
-    STabsArray tabs;
-    EXPECT_EQ(tabs.AppendStage(3), 0);
-    EXPECT_EQ(tabs.AppendStage(0), 1);
-    EXPECT_EQ(tabs.AppendStage(3), 0);
-    EXPECT_EQ(tabs.GetSize(), 2);
-    EXPECT_EQ(tabs.IndexOfStage(5), -1);
-    EXPECT_EQ(tabs.GetAt(0).parameter, 3U);
-    EXPECT_THROW(tabs.AppendStage(7), InvalidArgument);
-    EXPECT_THROW(tabs.AppendStage(-1), InvalidArgument);
-}
-
 TEST(FixedText, EqualsPrintfForRandomValuesAndTies) {
     std::mt19937_64 random(3);
     for (int i = 0; i < 200000; ++i) {

@@ -88,19 +88,6 @@ TEST(Probe, SamplesCountByTheirMark) {
     EXPECT_EQ(meanVelocities(probe), (std::array<double, 3>{5.5, 0.5, 1.5}));
 }
 
-TEST(Probe, FlowDirectionsTakeTheirOwnPairs) {
-    const FlowDirections directions = meanFlowDirections({1.0, 1.0, -2.0});
-    EXPECT_NEAR(directions.heading, 45.0, 1e-9);
-    EXPECT_NEAR(directions.roll, -63.434948822922, 1e-9);
-    EXPECT_NEAR(directions.pitch, -63.434948822922, 1e-9);
-    EXPECT_NEAR(meanFlowDirections({-1.0, 0.0, 1.0}).pitch, 90.0, 1e-9);
-    SAdvProbe probe;
-    probe.probeNumber = 12;
-    EXPECT_EQ(probeListText(probe), "Probe 12");
-    probe.isProbe = 0;
-    EXPECT_EQ(probeListText(probe), "Burst 12");
-}
-
 TEST(RotatePair, TurnsFromTheFirstAxisToTheSecond) {
     double x = 1.0;
     double y = 0.0;

@@ -191,13 +191,3 @@ TEST(ScreenUtils, PixelsAreTruncatedAndClamped) {
     EXPECT_EQ(logarithmic.xPixel(-1.0), 50 - 1000000);
     EXPECT_EQ(logarithmic.xPixel(1.0), 250);
 }
-
-TEST(ScreenUtils, KnowsThePlotAreaAndItsXRange) {
-    const CScreenUtils g = geometry(ScaleType::Linear);
-    EXPECT_TRUE(g.contains(50, 280));
-    EXPECT_TRUE(g.contains(450, 40));
-    EXPECT_FALSE(g.contains(49, 100));
-    EXPECT_FALSE(g.contains(100, 281));
-    EXPECT_TRUE(g.overXRange(450));
-    EXPECT_FALSE(g.overXRange(451));
-}

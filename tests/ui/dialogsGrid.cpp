@@ -16,28 +16,6 @@ class DialogsGrid : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void vectorsTakeNumbersAboveZero() {
-        CVectorsDlg dialog({});
-        DialogDriver driver(dialog);
-        QVERIFY(driver.button("&Y&Z   (Front view)")->isChecked());
-        driver.click("X&Z   (Side view)");
-        const QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
-        fields[0]->setText(QStringLiteral("0"));
-        REFUSED(driver, "The number of pixels should be greater than 0!");
-        fields[0]->setText(QStringLiteral("30"));
-        fields[1]->setText(QStringLiteral("-1"));
-        REFUSED(driver, "The velocity of the scale should be greater than 0!");
-        fields[1]->setText(QStringLiteral("2.5"));
-        fields[2]->setText(QStringLiteral("x"));
-        REFUSED(driver, "Please enter a number.");
-        fields[2]->setText(QStringLiteral("4"));
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().plane, 1);
-        QCOMPARE(dialog.values().pixels, 30);
-        QCOMPARE(dialog.values().speed, 2.5);
-        QCOMPARE(dialog.values().smaller, 4.0);
-    }
-
     // What a user does by keys alone: a boundary with two nodes, a probe that is placed, the editor left while typing.
     void editorWorksByKeys() {
         FrameDriver driver;

@@ -111,36 +111,6 @@ class DialogsPlotOptions : public QObject {
         QVERIFY(dialog.values().legendFont == FontDescription());
     }
 
-    void largeFontsAreToldNotShown() {
-        FrameAttributesType frame;
-        CPlotOptDlg usual(frame, kLinear);
-        frame.plotTitleFont = FontDescription("ARIAL", -96, 700, true);
-        frame.axisTitleFont = frame.labelFont = frame.legendFont = frame.plotTitleFont;
-        CPlotOptDlg dialog(frame, kLinear);
-        DialogDriver driver(dialog);
-        QVERIFY2(dialog.sizeHint().height() < usual.sizeHint().height() + 100,
-                 qPrintable(QString::number(dialog.sizeHint().height())));
-        QVERIFY(driver.shows("ARIAL, 96 px, bold italic"));
-        QVERIFY(driver.accepted());
-        QVERIFY(dialog.values() == frame);
-    }
-
-    void storesAPickedColour() {
-        CPlotOptDlg dialog({}, kLinear);
-        DialogDriver driver(dialog);
-        std::int32_t offered = 0;
-        dialog.setColourPicker([&offered](QWidget*, std::int32_t colour) {
-            offered = colour;
-            return std::optional(colourWord(QColor(1, 2, 3)));
-        });
-        driver.click("&Color...");
-        QCOMPARE(offered, FrameAttributesType().gridColour);
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().gridColour, 1 + 256 * 2 + 65536 * 3);
-        CColorDlg colours(200 + 256 * 100);
-        QCOMPARE(colours.values(), 200 + 256 * 100);
-    }
-
     void fontsAreEncodedAgainOnlyWhereTheyChanged() {
         FontDescription stored("ARIAL", 14, 650);
         stored.bytes()[23] = std::byte{0xA1};  // character set

@@ -35,26 +35,6 @@ class DialogsValues : public QObject {
         QCOMPARE(driver.text("&Grades Number:"), QStringLiteral("150"));
     }
 
-    // Angles count whether they are ticked or not; the coordinates of untouched fields stay exact.
-    void ofTheCoordinateSystem() {
-        RotationSettings settings;
-        settings.position = {1234567.0 * 0.001, 0.1 + 0.2, 0.0};
-        CCoordSysDlg dialog(settings, QString());
-        DialogDriver driver(dialog);
-        driver.click("&Rotate coordinates about  the sampling volume location");
-        driver.type("&Heading:", "720.5");
-        driver.type("&Pitch:", "-1e3");
-        driver.click("&Rotate coordinates about  the sampling volume location");
-        driver.type("&Z:", "-0.125");
-        QVERIFY(driver.accepted());
-        QCOMPARE(dialog.values().heading, 720.5);
-        QCOMPARE(dialog.values().pitch, -1000.0);
-        QCOMPARE(dialog.values().roll, 0.0);
-        QVERIFY(dialog.values().position[0] == settings.position[0]);
-        QVERIFY(dialog.values().position[1] == settings.position[1]);
-        QCOMPARE(dialog.values().position[2], -0.125);
-    }
-
     void ofFiltersWhoseWidthIsSteppedInWholeSeconds() {
         FilterSettings settings;
         settings.halfWidth = 2.75;

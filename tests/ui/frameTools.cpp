@@ -1,4 +1,4 @@
-#include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTest>
 #include <cmath>
@@ -15,9 +15,7 @@ namespace {
 class SpectralDriver : public FrameDriver {
   public:
     SpectralDriver() {
-        // Larger than the screen when that has two pixels for one.
-        frame->resize(640, 560);
-        QCoreApplication::processEvents();
+        frame->resize(1200, 800);  // whatever the screen
         simulate();
         SpectralDialogValues settings;
         settings.truncationMode = 1;
@@ -52,6 +50,12 @@ class SpectralDriver : public FrameDriver {
     double result(std::size_t index) { return document().Probe().resultBlock[index]; }
 };
 
+/// Without the cursor itself, which does not leave a small screen.
+void moveMouse(QWidget& widget, QPoint to, Qt::MouseButtons held = {}) {
+    QMouseEvent event(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, held, {});
+    QApplication::sendEvent(&widget, &event);
+}
+
 }  // namespace
 
 class FrameTools : public QObject {
@@ -84,8 +88,8 @@ class FrameTools : public QObject {
 
         // The first move only takes the line up; the second one moves it.
         const QPoint anchor(g.originX + g.width / 3, g.originY - g.height / 2);
-        QTest::mouseMove(&view, QPoint(30, 30));
-        QTest::mouseMove(&view, QPoint(41, 25));
+        moveMouse(view, QPoint(30, 30));
+        moveMouse(view, QPoint(41, 25));
         const QPoint moved = anchor + QPoint(11, -5);
         const DissipationReading reading{spectrum ? DissipationSource::Spectrum : DissipationSource::Structure,
                                          g.xValue(moved.x()), g.yValue(moved.y())};
@@ -205,7 +209,7 @@ class FrameTools : public QObject {
             const QPoint from(g.originX + g.width * 2 / 3, g.originY - 20);
             const QPoint to(g.originX - 15, g.originY - 70);
             QTest::mousePress(&view, Qt::LeftButton, {}, from);
-            QTest::mouseMove(&view, to);
+            moveMouse(view, to, Qt::LeftButton);
             QVERIFY2(driver.status().startsWith(pane == Pane::LeftTop ? QLatin1String("Lag time: left = ")
                                                                       : QLatin1String("Frequency: left = ")),
                      qPrintable(driver.status()));
@@ -246,7 +250,7 @@ class FrameTools : public QObject {
         const CScreenUtils g = view.geometry().value();
         const QPoint from(g.originX + 80, g.originY - 90);
         QTest::mousePress(&view, Qt::LeftButton, {}, from);
-        QTest::mouseMove(&view, from + QPoint(60, 5));
+        moveMouse(view, from + QPoint(60, 5), Qt::LeftButton);
         QTest::mouseRelease(&view, Qt::LeftButton, {}, from + QPoint(60, 5));
         const auto& triangles = std::get<Diagram>(view.content()).triangles;
         QCOMPARE(triangles.size(), std::size_t{1});
