@@ -1,12 +1,14 @@
 #include "plot/RenderFile.h"
 
 #include <QBuffer>
+#include <QHashSeed>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
 #include "plot/PaintPane.h"
+#include "plot/PdfFile.h"
 
 namespace vorlan {
 
@@ -83,8 +85,11 @@ QByteArray renderPanes(std::span<const PaneContent> panes, QSize size, RenderFor
             writeSvg(out, panes, size);
             break;
         case RenderFormat::Pdf:
+            // The platform embeds its fonts in the order of a hash table.
+            QHashSeed::setDeterministicGlobalSeed();
             writePdf(out, panes, size);
-            break;
+            QHashSeed::resetRandomGlobalSeed();
+            return finishedPdf(bytes, {});
     }
     return bytes;
 }
