@@ -3,9 +3,9 @@
 #include <ostream>
 #include <string>
 
-namespace vorlan {
+#include "recipes/ProgramName.h"
 
-inline constexpr const char* kBatchName = "vorlan-batch";
+namespace vorlan {
 
 /// Where a command writes: what was asked for to out, everything else to err.
 struct Console {

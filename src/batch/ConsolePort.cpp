@@ -4,35 +4,13 @@
 
 namespace vorlan {
 
-bool ConsolePort::takeRefused() {
-    const bool said = refused_;
-    refused_ = false;
-    return said;
-}
-
-void ConsolePort::tell(const std::string& text) {
+void ConsolePort::say(const std::string& line) {
     clearLine();
-    console_.complain(context_ + ": " + text);
+    console_.complain(line);
 }
 
-bool ConsolePort::accept(const std::string& question) {
-    tell(question + (accepts_ ? " OK" : " Cancel"));
-    return accepts_;
-}
-
-bool ConsolePort::confirm(Question question) {
-    // The one question whose answer an option decides; all others ask whether the user means what the recipe says.
-    return question == Question::RepeatStages ? options_.repeatStages : true;
-}
-
-bool ConsolePort::retry(const std::string& text) {
-    refuse(text);
-    return false;
-}
-
-void ConsolePort::refuse(const std::string& text) {
-    refused_ = true;
-    tell(text);
+bool ConsolePort::stopped() const {
+    return interrupted();
 }
 
 void ConsolePort::beginRun(Calculation) {
@@ -58,7 +36,7 @@ void ConsolePort::position(int percent) {
 }
 
 void ConsolePort::breathe() {
-    if (interrupted()) {
+    if (stopped()) {
         throw Cancelled();
     }
 }
@@ -68,7 +46,7 @@ void ConsolePort::show() {
         return;
     }
     clearLine();
-    console_.err << context_ << ": " << calculation_;
+    console_.err << context() << ": " << calculation_;
     if (percent_ >= 0) {
         console_.err << ' ' << percent_ << " %";
     }

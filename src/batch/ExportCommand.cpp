@@ -1,7 +1,7 @@
-#include "batch/ExportRun.h"
 #include "batch/Options.h"
-#include "batch/Outputs.h"
 #include "batch/Subcommands.h"
+#include "recipes/ExportRun.h"
+#include "recipes/Outputs.h"
 
 namespace vorlan {
 
@@ -30,10 +30,10 @@ void runExport(const ExportArguments& arguments, Console& console) {
     try {
         selectPlace(document, arguments.place);
         text = exportedText(document, arguments.request);
-    } catch (const BatchError& error) {
-        throw BatchError(error.status(), arguments.input + ": " + error.what());
+    } catch (const RunError& error) {
+        throw RunError(error.status(), arguments.input + ": " + error.what());
     }
-    writeOutput(arguments.out, text, console);
+    writeOutput(arguments.out, text, console.out);
 }
 
 }  // namespace

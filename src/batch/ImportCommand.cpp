@@ -1,12 +1,12 @@
 #include "analysis/ImportedProbe.h"
 #include "batch/Options.h"
-#include "batch/Outputs.h"
-#include "batch/RecipeKeys.h"
 #include "batch/Subcommands.h"
-#include "batch/TextValues.h"
 #include "io/DelimitedTable.h"
 #include "io/TableText.h"
 #include "model/Text.h"
+#include "recipes/Outputs.h"
+#include "recipes/RecipeKeys.h"
+#include "recipes/TextValues.h"
 
 namespace vorlan {
 

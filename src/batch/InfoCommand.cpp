@@ -1,10 +1,10 @@
 #include "batch/Options.h"
-#include "batch/Outputs.h"
 #include "batch/Subcommands.h"
 #include "batch/WorkspaceSummary.h"
 #include "io/ReadFile.h"
 #include "io/WorkspaceFile.h"
 #include "model/Archive.h"
+#include "recipes/Outputs.h"
 
 namespace vorlan {
 
@@ -42,7 +42,7 @@ Subcommand addInfoCommand(CLI::App& program) {
     app->add_flag("--json", arguments->json, "As one JSON object, for other programs");
     needsName(app->add_option("IN.avp", arguments->input, "The workspace to read"))->required()->type_name("");
     return {app, [arguments](Console& console) {
-                writeOutput(kStandardOutput, summaryOf(*arguments), console);
+                writeOutput(kStandardOutput, summaryOf(*arguments), console.out);
                 return ExitStatus::Done;
             }};
 }

@@ -274,7 +274,7 @@ ExitStatus guarded(Console& console, const std::function<void(Console&)>& task) 
     try {
         task(console);
         return ExitStatus::Done;
-    } catch (const BatchError& error) {
+    } catch (const RunError& error) {
         console.complain(error.what());
         return error.status();
     } catch (const std::bad_alloc&) {

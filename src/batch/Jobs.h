@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "batch/BatchError.h"
 #include "batch/Console.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 

@@ -1,6 +1,6 @@
 #include "batch/Options.h"
-#include "batch/Outputs.h"
 #include "batch/Subcommands.h"
+#include "recipes/Outputs.h"
 
 namespace vorlan {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <limits>
 
-#include "batch/Outputs.h"
-#include "batch/RecipeKeys.h"
-#include "batch/TextValues.h"
 #include "model/Text.h"
+#include "recipes/Outputs.h"
+#include "recipes/RecipeKeys.h"
+#include "recipes/TextValues.h"
 
 namespace vorlan {
 

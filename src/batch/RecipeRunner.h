@@ -5,7 +5,7 @@
 
 #include "batch/Console.h"
 #include "batch/ConsolePort.h"
-#include "batch/Recipe.h"
+#include "recipes/Recipe.h"
 
 namespace vorlan {
 
@@ -13,7 +13,7 @@ namespace vorlan {
 /// what it makes: the files of its steps, then the workspace to target, if there is one. Nothing is written unless
 /// every step was done. A recipe without steps writes the input's bytes.
 ///
-/// BatchError for everything that ends the run; refusals have gone to the console then.
+/// RunError for everything that ends the run; refusals have gone to the console then.
 void runRecipe(const Recipe& recipe, const std::filesystem::path& input, const std::filesystem::path& target,
                const ConsolePort::Options& options, Console& console);
 

@@ -1,9 +1,9 @@
-#include "batch/BatchError.h"
 #include "batch/Options.h"
-#include "batch/Outputs.h"
-#include "batch/RecipeKeys.h"
-#include "batch/RenderRun.h"
 #include "batch/Subcommands.h"
+#include "recipes/Outputs.h"
+#include "recipes/RecipeKeys.h"
+#include "recipes/RenderRun.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 
@@ -56,10 +56,10 @@ void runRender(RenderArguments& arguments, const CLI::App& app, Console& console
         for (const std::string& text : triangleReadOuts(document, request)) {
             console.complain(arguments.input + ": " + text);
         }
-    } catch (const BatchError& error) {
-        throw BatchError(error.status(), arguments.input + ": " + error.what());
+    } catch (const RunError& error) {
+        throw RunError(error.status(), arguments.input + ": " + error.what());
     }
-    writeOutput(request.path, bytes, console);
+    writeOutput(request.path, bytes, console.out);
 }
 
 }  // namespace

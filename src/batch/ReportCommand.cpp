@@ -2,11 +2,11 @@
 
 #include "batch/ConsolePort.h"
 #include "batch/Options.h"
-#include "batch/Outputs.h"
-#include "batch/RecipeKeys.h"
-#include "batch/RenderRun.h"
 #include "batch/Subcommands.h"
 #include "model/Text.h"
+#include "recipes/Outputs.h"
+#include "recipes/RecipeKeys.h"
+#include "recipes/RenderRun.h"
 
 namespace vorlan {
 
@@ -78,10 +78,10 @@ void runReport(const ReportArguments& arguments, Console& console) {
                                     port.status(formatted("page %zu of %zu", page + 1, pages.size()));
                                 });
         port.endRun();
-    } catch (const BatchError& error) {
-        throw BatchError(error.status(), arguments.input + ": " + error.what());
+    } catch (const RunError& error) {
+        throw RunError(error.status(), arguments.input + ": " + error.what());
     }
-    writeOutput(arguments.out, bytes, console);
+    writeOutput(arguments.out, bytes, console.out);
 }
 
 }  // namespace

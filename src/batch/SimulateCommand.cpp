@@ -2,7 +2,7 @@
 
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
-#include "batch/TextValues.h"
+#include "recipes/TextValues.h"
 
 namespace vorlan {
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "batch/BatchError.h"
 #include "batch/Console.h"
+#include "recipes/RunError.h"
 
 namespace CLI {
 class App;
@@ -11,7 +11,7 @@ class App;
 
 namespace vorlan {
 
-/// One subcommand: its options, and what it does once they were parsed. run throws BatchError, or returns how the
+/// One subcommand: its options, and what it does once they were parsed. run throws RunError, or returns how the
 /// worst of several inputs ended.
 struct Subcommand {
     CLI::App* options = nullptr;

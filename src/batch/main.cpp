@@ -2,9 +2,9 @@
 #include <iostream>
 
 #include "app/ProcessMemory.h"
-#include "batch/BatchError.h"
 #include "batch/BatchProgram.h"
 #include "batch/Interrupt.h"
+#include "recipes/RunError.h"
 
 int main(int argc, char** argv) {
     vorlan::keepFreedMemory();

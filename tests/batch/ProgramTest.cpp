@@ -3,9 +3,9 @@
 
 #include <csignal>
 
-#include "batch/BatchError.h"
 #include "batch/BatchTest.h"
 #include "batch/WorkspaceAccess.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 
@@ -127,7 +127,7 @@ TEST_F(ProgramTest, RunsThatChangeOneWorkspaceAtTheSameTimeLoseNothing) {
     Console console{messages, messages, false};
     WorkspaceUpdate update(document, path("a.avp"), console);
     write("a.avp", "new");
-    EXPECT_THROW(update.save(), BatchError);
+    EXPECT_THROW(update.save(), RunError);
     EXPECT_EQ(read(path("a.avp")), "new");
 }
 

@@ -12,8 +12,9 @@ declare -A knows=(
     [app]="model io analysis export app"
     [plot]="model plot"
     [stages]="model analysis plot stages"
-    [ui]="model io analysis export app plot stages ui"
-    [batch]="model io analysis export app plot stages batch"
+    [recipes]="model io analysis export app plot stages recipes"
+    [ui]="model io analysis export app plot stages recipes ui"
+    [batch]="model io analysis export app plot stages recipes batch"
 )
 faults=0
 complain() {

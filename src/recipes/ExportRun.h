@@ -24,7 +24,7 @@ struct ExportRequest {
 /// Why the request cannot be meant; empty when it can.
 std::string faultOf(const ExportRequest& request);
 
-/// The file of the selected probe (or of all), as the window would write it. BatchError Refused when it would not.
+/// The file of the selected probe (or of all), as the window would write it. RunError Refused when it would not.
 std::string exportedText(const CVorl_ADVDoc& document, const ExportRequest& request);
 
 }  // namespace vorlan

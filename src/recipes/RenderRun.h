@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "app/CVorl_ADVDoc.h"
-#include "batch/TextValues.h"
 #include "model/PageLayout.h"
 #include "model/Stages.h"
+#include "recipes/TextValues.h"
 #include "stages/PageDescription.h"
 
 namespace vorlan {
@@ -55,7 +55,7 @@ class Renderer {
     Renderer(const Renderer&) = delete;
     Renderer& operator=(const Renderer&) = delete;
 
-    /// The bytes of the picture of the selected probe. Selects the stage; BatchError Refused when the probe has not
+    /// The bytes of the picture of the selected probe. Selects the stage; RunError Refused when the probe has not
     /// got it.
     std::string render(CVorl_ADVDoc& document, const RenderRequest& request);
     /// The bytes of a PDF with these pages, which must be printable on this paper. told is called before each page with

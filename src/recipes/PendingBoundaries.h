@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/BoundaryStorage.h"
-#include "batch/Outputs.h"
+#include "recipes/Outputs.h"
 
 namespace vorlan {
 
 /// Boundary files of a run: what its steps write is held back with its other outputs, and read from there.
-/// BatchError Unreadable for a file that cannot be read.
+/// RunError Unreadable for a file that cannot be read.
 class PendingBoundaries : public BoundaryStorage {
   public:
     explicit PendingBoundaries(PendingOutputs& outputs) : outputs_(outputs) {}

@@ -3,9 +3,11 @@
 #include <stdexcept>
 #include <string>
 
+#include "io/FileError.h"
+
 namespace vorlan {
 
-/// How the program ends.
+/// How a run ends; the batch tool's exit status.
 enum class ExitStatus : int {
     Done = 0,
     Refused = 1,       ///< the document said no
@@ -15,27 +17,30 @@ enum class ExitStatus : int {
     Interrupted = 130  ///< the user stopped it; nothing was written
 };
 
-/// The end of a command that did not do what was asked. The text says what was wrong, one line per fault.
-class BatchError : public std::runtime_error {
+/// The end of a run that did not do what was asked. The text says what was wrong, one line per fault.
+class RunError : public std::runtime_error {
   public:
-    BatchError(ExitStatus status, const std::string& text) : std::runtime_error(text), status_(status) {}
+    RunError(ExitStatus status, const std::string& text) : std::runtime_error(text), status_(status) {}
     ExitStatus status() const { return status_; }
 
   private:
     ExitStatus status_;
 };
 
-inline BatchError usageError(const std::string& text) {
+inline RunError usageError(const std::string& text) {
     return {ExitStatus::Usage, text};
 }
-inline BatchError refusal(const std::string& text) {
+inline RunError refusal(const std::string& text) {
     return {ExitStatus::Refused, text};
 }
-inline BatchError unreadable(const std::string& text) {
+inline RunError unreadable(const std::string& text) {
     return {ExitStatus::Unreadable, text};
 }
-inline BatchError unwritable(const std::string& text) {
+inline RunError unwritable(const std::string& text) {
     return {ExitStatus::Unwritable, text};
 }
+
+/// The error's text, with the file's name in front where it does not hold it.
+std::string textOf(const FileError& error);
 
 }  // namespace vorlan

@@ -1,5 +1,5 @@
 // Steps of the measuring grid: the plans, the probes' positions, boundaries and their nodes.
-#include "batch/RecipeSteps.h"
+#include "recipes/RecipeSteps.h"
 
 namespace vorlan {
 

@@ -1,20 +1,20 @@
 #pragma once
 
 #include <filesystem>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "batch/Console.h"
-#include "batch/WorkspaceAccess.h"
+#include "recipes/ProbePlace.h"
 
 namespace vorlan {
 
 /// The output that means standard output.
 inline constexpr const char* kStandardOutput = "-";
 
-/// Writes bytes to a file, complete or not at all, or to standard output; BatchError Unwritable.
-void writeOutput(const std::string& path, std::string_view bytes, Console& console);
+/// Writes bytes to a file, complete or not at all, or to standard output; RunError Unwritable.
+void writeOutput(const std::string& path, std::string_view bytes, std::ostream& standardOutput);
 
 /// One name per file, however it is spelled: absolute, links followed as far as there are any.
 std::string identityOf(const std::filesystem::path& path);
@@ -35,8 +35,8 @@ class PendingOutputs {
     void addBoundary(const std::string& path, std::string text);
     /// The text that was added last for a boundary's file, null without one.
     const std::string* boundaryText(const std::string& path) const;
-    /// Writes them in the order in which they were added; BatchError Unwritable at the first that cannot be.
-    void commit(Console& console);
+    /// Writes them in the order in which they were added; RunError Unwritable at the first that cannot be.
+    void commit(std::ostream& standardOutput);
 
   private:
     struct Output {

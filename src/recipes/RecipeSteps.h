@@ -8,17 +8,17 @@
 #include "app/CVorl_ADVDoc.h"
 #include "app/CommandState.h"
 #include "app/GridEditor.h"
-#include "batch/ConsolePort.h"
-#include "batch/Outputs.h"
-#include "batch/RecipeKeys.h"
-#include "batch/RenderRun.h"
+#include "recipes/Outputs.h"
+#include "recipes/RecipeKeys.h"
+#include "recipes/RecipePort.h"
+#include "recipes/RenderRun.h"
 
 namespace vorlan {
 
 /// What a step works on: the selected probe of the document.
 struct StepContext {
     CVorl_ADVDoc& document;
-    ConsolePort& port;
+    RecipePort& port;
     PendingOutputs& outputs;
     Renderer& renderer;
     std::filesystem::path workspace;  ///< the input
@@ -38,7 +38,7 @@ struct StepContext {
 struct StepKind {
     std::string name;
     std::vector<KeyRule> keys;
-    /// Does the step. Refusals of the document go through its port; BatchError Refused for the step's own.
+    /// Does the step. Refusals of the document go through its port; RunError Refused for the step's own.
     Outcome (*run)(StepContext& context, const StepValues& values);
     /// The command behind the step; none for steps that ask for themselves.
     std::optional<Command> command = std::nullopt;

@@ -1,6 +1,6 @@
-#include "batch/PendingBoundaries.h"
+#include "recipes/PendingBoundaries.h"
 
-#include "batch/BatchError.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 

@@ -1,13 +1,13 @@
-#include "batch/Outputs.h"
+#include "recipes/Outputs.h"
 
 #include <algorithm>
 #include <span>
 #include <utility>
 
-#include "batch/BatchError.h"
 #include "io/AtomicFile.h"
 #include "io/BoundaryFile.h"
 #include "io/WorkspaceFile.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 
@@ -39,11 +39,11 @@ std::string filled(std::string_view text, std::span<const std::pair<std::string_
 
 }  // namespace
 
-void writeOutput(const std::string& path, std::string_view bytes, Console& console) {
+void writeOutput(const std::string& path, std::string_view bytes, std::ostream& standardOutput) {
     if (path == kStandardOutput) {
-        console.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        console.out.flush();
-        if (!console.out) {
+        standardOutput.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        standardOutput.flush();
+        if (!standardOutput) {
             throw unwritable("Standard output cannot be written");
         }
         return;
@@ -99,7 +99,7 @@ const std::string* PendingOutputs::boundaryText(const std::string& path) const {
     return held == outputs_.end() ? nullptr : &held->bytes;
 }
 
-void PendingOutputs::commit(Console& console) {
+void PendingOutputs::commit(std::ostream& standardOutput) {
     for (const Output& output : outputs_) {
         if (output.boundary) {
             try {
@@ -109,7 +109,7 @@ void PendingOutputs::commit(Console& console) {
             }
             continue;
         }
-        writeOutput(output.path, output.bytes, console);
+        writeOutput(output.path, output.bytes, standardOutput);
     }
     outputs_.clear();
 }

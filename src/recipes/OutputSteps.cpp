@@ -1,6 +1,6 @@
 // Steps that write files of the selected probe.
-#include "batch/ExportRun.h"
-#include "batch/RecipeSteps.h"
+#include "recipes/ExportRun.h"
+#include "recipes/RecipeSteps.h"
 
 namespace vorlan {
 

@@ -1,4 +1,4 @@
-#include "batch/RecipeKeys.h"
+#include "recipes/RecipeKeys.h"
 
 #include <algorithm>
 #include <cmath>

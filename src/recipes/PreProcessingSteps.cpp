@@ -1,6 +1,6 @@
 // Steps that change the working record.
 #include "analysis/FilterSettings.h"
-#include "batch/RecipeSteps.h"
+#include "recipes/RecipeSteps.h"
 
 namespace vorlan {
 

@@ -1,4 +1,4 @@
-#include "batch/Recipe.h"
+#include "recipes/Recipe.h"
 
 // What the library asserts it also answers with an error; without an assertion it does so in every build.
 #pragma push_macro("NDEBUG")
@@ -12,10 +12,10 @@
 #include <limits>
 #include <set>
 
-#include "batch/BatchError.h"
-#include "batch/RecipeText.h"
 #include "io/ReadFile.h"
 #include "model/Text.h"
+#include "recipes/RecipeText.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 

@@ -1,4 +1,4 @@
-#include "batch/RenderRun.h"
+#include "recipes/RenderRun.h"
 
 #include <QGuiApplication>
 #include <algorithm>
@@ -6,13 +6,13 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "batch/BatchError.h"
-#include "batch/Console.h"
-#include "batch/WorkspaceAccess.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
 #include "plot/PdfDocument.h"
 #include "plot/RenderFile.h"
+#include "recipes/ProbePlace.h"
+#include "recipes/ProgramName.h"
+#include "recipes/RunError.h"
 #include "stages/PaneDescription.h"
 #include "stages/TurbulenceReadOut.h"
 

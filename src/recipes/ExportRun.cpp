@@ -1,9 +1,9 @@
-#include "batch/ExportRun.h"
+#include "recipes/ExportRun.h"
 
 #include <sstream>
 
-#include "batch/BatchError.h"
 #include "model/Errors.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 

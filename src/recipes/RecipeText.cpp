@@ -1,4 +1,4 @@
-#include "batch/RecipeText.h"
+#include "recipes/RecipeText.h"
 
 #include <algorithm>
 

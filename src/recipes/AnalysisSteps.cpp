@@ -1,5 +1,5 @@
 // Steps of the stages after pre-processing.
-#include "batch/RecipeSteps.h"
+#include "recipes/RecipeSteps.h"
 
 namespace vorlan {
 

@@ -1,6 +1,6 @@
 // Steps that read turbulence quantities off spectral results, as the tools of the window do.
-#include "batch/BatchError.h"
-#include "batch/RecipeSteps.h"
+#include "recipes/RecipeSteps.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 

@@ -1,9 +1,9 @@
 // The step that lays out a stage's printed page.
 #include <algorithm>
 
-#include "batch/RecipeSteps.h"
 #include "model/PageLayout.h"
 #include "model/StageTable.h"
+#include "recipes/RecipeSteps.h"
 
 namespace vorlan {
 

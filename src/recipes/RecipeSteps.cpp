@@ -1,8 +1,8 @@
-#include "batch/RecipeSteps.h"
+#include "recipes/RecipeSteps.h"
 
 #include <algorithm>
 
-#include "batch/BatchError.h"
+#include "recipes/RunError.h"
 
 namespace vorlan {
 

@@ -1,4 +1,4 @@
-#include "batch/TextValues.h"
+#include "recipes/TextValues.h"
 
 #include <cmath>
 

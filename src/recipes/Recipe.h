@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/RecipeSteps.h"
+#include "recipes/RecipeSteps.h"
 
 namespace vorlan {
 
@@ -26,7 +26,7 @@ struct Recipe {
     bool writesFiles() const;
 };
 
-/// Reads a recipe. BatchError Unreadable when there is no file, Usage for its faults: one line "path:line: what" for
+/// Reads a recipe. RunError Unreadable when there is no file, Usage for its faults: one line "path:line: what" for
 /// each, in the order of the lines.
 Recipe loadRecipe(const std::filesystem::path& path);
 Recipe parseRecipe(std::string_view text, const std::filesystem::path& path);
