@@ -22,22 +22,28 @@ Outcome CVorl_ADVDoc::Analyse(const ProbeCommand& command, const Analysis& analy
 }
 
 Outcome CVorl_ADVDoc::StationarityAnalysis(const StationaritySettings& settings) {
-    ProbeCommand command{
-        .calculation = Calculation::Stationarity, .settings = Settings(), .stage = Stage::Stationarity};
+    ProbeCommand command{.calculation = Calculation::Stationarity,
+                         .given = settings,
+                         .settings = Settings(),
+                         .stage = Stage::Stationarity};
     command.settings->stationarity = settings;
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseStationarity(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::Distributions(const HistogramSettings& settings) {
-    ProbeCommand command{.calculation = Calculation::Distributions, .settings = Settings(), .stage = Stage::Histograms};
+    ProbeCommand command{.calculation = Calculation::Distributions,
+                         .given = settings,
+                         .settings = Settings(),
+                         .stage = Stage::Histograms};
     command.settings->histograms = settings;
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseDistributions(copy, settings, progress); });
 }
 
 Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralDialogValues& settings) {
-    ProbeCommand command{.calculation = Calculation::Spectral, .settings = Settings(), .stage = Stage::Spectral};
+    ProbeCommand command{
+        .calculation = Calculation::Spectral, .given = settings, .settings = Settings(), .stage = Stage::Spectral};
     storeSpectralSettings(settings, *command.settings);
     return Analyse(command, [&](SAdvProbe& copy, Progress& progress) {
         const SpectralRun run = spectralRunOf(settings, countedSamples(copy));
@@ -47,12 +53,14 @@ Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralDialogValues& settings) {
 }
 
 Outcome CVorl_ADVDoc::CrossSpectralAnalysis() {
-    const ProbeCommand command{.calculation = Calculation::CrossSpectral, .stage = Stage::CrossSpectral};
+    const ProbeCommand command{
+        .calculation = Calculation::CrossSpectral, .given = CrossSpectraGiven{}, .stage = Stage::CrossSpectral};
     return Analyse(command, [](SAdvProbe& copy, Progress& progress) { return analyseCrossSpectra(copy, progress); });
 }
 
 Outcome CVorl_ADVDoc::QuadrantsAnalysis(const QuadrantSettings& settings) {
-    ProbeCommand command{.calculation = Calculation::Quadrants, .settings = Settings(), .stage = Stage::Quadrants};
+    ProbeCommand command{
+        .calculation = Calculation::Quadrants, .given = settings, .settings = Settings(), .stage = Stage::Quadrants};
     command.settings->quadrants = settings;
     return Analyse(command,
                    [&](SAdvProbe& copy, Progress& progress) { return analyseQuadrants(copy, settings, progress); });

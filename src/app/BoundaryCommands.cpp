@@ -205,7 +205,7 @@ Outcome CVorl_ADVDoc::PlaceProbe(int file, int probe, const PositionChange& posi
         }
         WorkspacePatch patch;
         patch.probes.push_back({file, probe, std::move(placed)});
-        Write("Sampling Volume", std::move(patch));
+        Write("Sampling Volume", std::move(patch), {DoneOn(file, probe, position)});
         Tell(Change::Content);
         return Outcome::Done;
     });
@@ -229,7 +229,7 @@ Outcome CVorl_ADVDoc::VectorsOfMeanVelocities(const VectorSettings& vectors) {
         settings.choiceA = static_cast<int>(Stage::MeanVelocityVectors) + 1;
     }
     patch.settings = settings;
-    Write("Vectors of Mean Velocities", std::move(patch));
+    Write("Vectors of Mean Velocities", std::move(patch), {DoneOnActive(vectors)});
     Tell(Change::Content);
     return Outcome::Done;
 }

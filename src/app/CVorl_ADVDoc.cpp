@@ -80,11 +80,11 @@ bool CVorl_ADVDoc::IsChangedOnDisk() const {
     return stamp_ && now && *now != *stamp_;
 }
 
-void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch) {
+void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch, DoneCommands done) {
     patch.Exchange(workspace_);
     // The patch holds what was replaced now.
     if (command != nullptr) {
-        history_.Record(command, std::move(patch));
+        history_.Record(command, std::move(patch), std::move(done));
     } else {
         history_.RecordSelection(std::move(patch));
     }
@@ -104,6 +104,31 @@ Outcome CVorl_ADVDoc::Redo() {
         return Outcome::Refused;
     }
     history_.Redo(workspace_);
+    Tell(Change::Content);
+    return Outcome::Done;
+}
+
+Outcome CVorl_ADVDoc::RunTogether(DocumentPort& port, const std::function<void(CVorl_ADVDoc& copy)>& work) {
+    if (running_) {
+        return Outcome::Refused;
+    }
+    {
+        RunningScope scope(running_, *port_, Calculation::Recipe);
+        CVorl_ADVDoc copy(port);
+        copy.workspace_ = workspace_;
+        copy.path_ = path_;
+        copy.written_ = written_;
+        work(copy);
+        WorkspacePatch patch = WorkspacePatch::Between(workspace_, copy.workspace_);
+        written_ = copy.written_;
+        if (!patch.IsEmpty()) {
+            DoneCommands done;
+            for (const History::Step& step : copy.history_.Done()) {
+                done.insert(done.end(), step.done.begin(), step.done.end());
+            }
+            Write(nameOf(Calculation::Recipe), std::move(patch), std::move(done));
+        }
+    }
     Tell(Change::Content);
     return Outcome::Done;
 }
@@ -129,6 +154,7 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
     }
     Outcome outcome = Outcome::Refused;
     std::string failure;
+    repeated_.reset();
     {
         // Written before the run ends: what the window does then may select another view.
         RunningScope scope(running_, *port_, command.calculation);
@@ -163,11 +189,17 @@ void CVorl_ADVDoc::WriteDone(const ProbeCommand& command, SAdvProbe probe) {
     }
     WorkspacePatch patch = PatchOf(std::move(probe));
     patch.settings = settings;
-    Write(nameOf(command.calculation), std::move(patch));
+    DoneCommand done = DoneOnActive(command.given);
+    done.repeated = repeated_;
+    Write(nameOf(command.calculation), std::move(patch), {std::move(done)});
 }
 
 void CVorl_ADVDoc::ApplyChangeRule(SAdvProbe& copy, Progress& progress) {
-    if (!copy.IsChanged() || !port_->confirm(Question::RepeatStages)) {
+    if (!copy.IsChanged()) {
+        return;
+    }
+    repeated_ = port_->confirm(Question::RepeatStages);
+    if (!*repeated_) {
         return;
     }
     port_->beginRun(Calculation::Repeat);

@@ -7,14 +7,11 @@
 #include <optional>
 #include <string>
 
-#include "analysis/DissipationRate.h"
 #include "analysis/Editing.h"
-#include "analysis/RotationSettings.h"
 #include "analysis/Simulation.h"
-#include "analysis/SpectralSettings.h"
-#include "analysis/TurbulenceScales.h"
 #include "app/BoundaryStorage.h"
 #include "app/DocumentPort.h"
+#include "app/DoneCommand.h"
 #include "app/History.h"
 #include "app/WorkspacePatch.h"
 #include "app/WrittenBoundaries.h"
@@ -24,11 +21,6 @@
 
 namespace vorlan {
 
-/// X, Y, Z in metres.
-using Position = std::array<double, 3>;
-/// The coordinates that change; the others stay to the last bit.
-using PositionChange = std::array<std::optional<double>, 3>;
-
 /// How a command ended. Refused: it said why through the port. Cancelled: the user did not want it. In both cases the
 /// probe is bit for bit what it was.
 enum class Outcome { Done, Refused, Cancelled };
@@ -37,15 +29,6 @@ enum class Outcome { Done, Refused, Cancelled };
 enum class Change {
     Content,  ///< the workspace, or what of it is selected
     View,     ///< the active view only: nothing has to be drawn again
-};
-
-/// The convective velocity of Taylor's hypothesis.
-struct MeanVelocitySettings {
-    static constexpr double kMinimum = 0.005;
-    static constexpr double kMaximum = 1000.0;
-
-    int mode = 0;         ///< 0 averaged flow velocity, 1 the user's value
-    double value = 10.0;  ///< cm/s
 };
 
 /// The workspace document: the model, the selection, the parameters, and every command of the user. It knows no
@@ -84,6 +67,13 @@ class CVorl_ADVDoc {
     /// What they would act on, in the words of the menus; null for nothing.
     const char* UndoName() const { return history_.UndoName(); }
     const char* RedoName() const { return history_.RedoName(); }
+    /// What was done to the active probe since it was sampled or loaded, and to the workspace as a whole meanwhile, as
+    /// far as a recipe can say it: oldest first, without what was taken back. Data files are counted as they were when
+    /// the probe came; its own place then is that of the first command on it.
+    std::vector<const DoneCommand*> CommandsOfProbe() const;
+    /// Gives several commands as one. work gets a copy of this document that speaks through port; what it did to the
+    /// copy is written when it returns, and nothing when it throws. It opens and closes no data files.
+    Outcome RunTogether(DocumentPort& port, const std::function<void(CVorl_ADVDoc& copy)>& work);
 
     // Selection. An index out of range (after loading) counts as no selection; the stored value stays.
 
@@ -210,6 +200,7 @@ class CVorl_ADVDoc {
     /// A command on the active probe.
     struct ProbeCommand {
         Calculation calculation;
+        GivenCommand given;
         /// The parameters as the command stores them, whatever comes of its run.
         std::optional<WorkspaceSettings> settings = std::nullopt;
         /// The stage that the probe enters when the command is done.
@@ -218,7 +209,10 @@ class CVorl_ADVDoc {
 
     /// The one way in which anything is written into the workspace. command names what the user did; without a name
     /// something was only selected, which does not count as a modification.
-    void Write(const char* command, WorkspacePatch patch);
+    void Write(const char* command, WorkspacePatch patch, DoneCommands done = {});
+    /// The entry of the record for a command on a probe, or on the workspace as a whole.
+    DoneCommand DoneOn(int file, int probe, GivenCommand given) const;
+    DoneCommand DoneOnActive(GivenCommand given) const { return DoneOn(ActiveFile(), ActiveProbe(), std::move(given)); }
     /// Another workspace, with nothing to take back.
     void Replace(Workspace workspace, std::filesystem::path path, std::optional<FileStamp> stamp);
     void Select(WorkspacePatch patch) { Write(nullptr, std::move(patch)); }
@@ -255,6 +249,7 @@ class CVorl_ADVDoc {
     History history_;
     std::uint64_t savedState_ = 0;  // of the history when the workspace was opened or saved
     bool running_ = false;
+    std::optional<bool> repeated_;  // what the command that runs was told about repeating done stages
     EditingResult lastEditing_;
     BoundaryStorage disk_;
     BoundaryStorage* boundaryStorage_ = &disk_;

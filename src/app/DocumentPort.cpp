@@ -40,6 +40,8 @@ const char* nameOf(Calculation calculation) {
             return "Quadrants Analysis and Averaging";
         case Calculation::Repeat:
             return "Repeated Calculations";
+        case Calculation::Recipe:
+            return "Run Recipe";
     }
     return "";
 }

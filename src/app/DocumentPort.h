@@ -26,6 +26,7 @@ enum class Calculation {
     CrossSpectral,
     Quadrants,
     Repeat,  ///< of the done stages, within a run that changed the record
+    Recipe,
 };
 
 /// "Spectral Analysis".

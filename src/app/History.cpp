@@ -4,10 +4,10 @@
 
 namespace vorlan {
 
-void History::Record(const char* command, WorkspacePatch replaced) {
+void History::Record(const char* command, WorkspacePatch replaced, DoneCommands done) {
     ForgetTakenBackOpening();
     steps_.resize(done_ + 1);
-    steps_.push_back({command, ++lastNumber_, std::move(replaced), {}});
+    steps_.push_back({command, ++lastNumber_, std::move(replaced), std::move(done), {}});
     ++done_;
 }
 

@@ -2,8 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
+#include "app/DoneCommand.h"
 #include "app/WorkspacePatch.h"
 
 namespace vorlan {
@@ -15,8 +17,16 @@ namespace vorlan {
 /// command with that one, so that the workspace is the opened one when everything is taken back.
 class History {
   public:
+    struct Step {
+        const char* command = nullptr;
+        std::uint64_t number = 0;
+        WorkspacePatch replaced = {};
+        DoneCommands done = {};          ///< what it was, as far as it can be repeated elsewhere
+        WorkspacePatch selections = {};  ///< made between this command and the next
+    };
+
     /// A command was done. What was taken back before it cannot be done again.
-    void Record(const char* command, WorkspacePatch replaced);
+    void Record(const char* command, WorkspacePatch replaced, DoneCommands done);
     /// Something was selected.
     void RecordSelection(WorkspacePatch replaced);
 
@@ -27,17 +37,13 @@ class History {
     void Undo(Workspace& workspace);
     void Redo(Workspace& workspace);
 
+    /// The steps that are not taken back, oldest first.
+    std::span<const Step> Done() const { return {steps_.data() + 1, done_}; }
+
     /// Differs between any two states that a command lies between.
     std::uint64_t State() const { return steps_[done_].number; }
 
   private:
-    struct Step {
-        const char* command = nullptr;
-        std::uint64_t number = 0;
-        WorkspacePatch replaced = {};
-        WorkspacePatch selections = {};  ///< made between this command and the next
-    };
-
     /// What happens after everything was taken back begins anew.
     void ForgetTakenBackOpening();
 

@@ -20,40 +20,44 @@ Outcome CVorl_ADVDoc::ChangeSeries(const ProbeCommand& command, const ProbeOpera
 }
 
 Outcome CVorl_ADVDoc::EnterZoomMode() {
-    const Outcome outcome = RunOnProbe({.calculation = Calculation::Zoom}, [](SAdvProbe& copy, Progress&) {
-        enterZoomMode(copy);
-        return Outcome::Done;
-    });
+    const Outcome outcome =
+        RunOnProbe({.calculation = Calculation::Zoom, .given = ZoomGiven{}}, [](SAdvProbe& copy, Progress&) {
+            enterZoomMode(copy);
+            return Outcome::Done;
+        });
     Tell(Change::Content);
     return outcome;
 }
 
 Outcome CVorl_ADVDoc::Clip(double tStart, double tEnd) {
-    return ChangeSeries({.calculation = Calculation::Clipping}, [&](SAdvProbe& copy, Progress& progress) {
-        if (!clip(copy, tStart, tEnd, progress)) {
-            port_->refuse(kClippingLimitsWrong);
-            return Outcome::Refused;
-        }
-        return Outcome::Done;
-    });
+    return ChangeSeries({.calculation = Calculation::Clipping, .given = ClipGiven{tStart, tEnd}},
+                        [&](SAdvProbe& copy, Progress& progress) {
+                            if (!clip(copy, tStart, tEnd, progress)) {
+                                port_->refuse(kClippingLimitsWrong);
+                                return Outcome::Refused;
+                            }
+                            return Outcome::Done;
+                        });
 }
 
 Outcome CVorl_ADVDoc::ResetTimeSeries() {
-    return ChangeSeries({.calculation = Calculation::Reset}, [](SAdvProbe& copy, Progress& progress) {
-        resetProbe(copy, progress);
-        return Outcome::Done;
-    });
+    return ChangeSeries({.calculation = Calculation::Reset, .given = ResetGiven{}},
+                        [](SAdvProbe& copy, Progress& progress) {
+                            resetProbe(copy, progress);
+                            return Outcome::Done;
+                        });
 }
 
 Outcome CVorl_ADVDoc::ChangeCoordinateSystem(const RotationSettings& settings) {
-    return ChangeSeries({.calculation = Calculation::Rotation}, [&](SAdvProbe& copy, Progress& progress) {
-        changeCoordinateSystem(copy, settings, progress);
-        return Outcome::Done;
-    });
+    return ChangeSeries({.calculation = Calculation::Rotation, .given = settings},
+                        [&](SAdvProbe& copy, Progress& progress) {
+                            changeCoordinateSystem(copy, settings, progress);
+                            return Outcome::Done;
+                        });
 }
 
 Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
-    ProbeCommand command{.calculation = Calculation::Editing, .settings = Settings()};
+    ProbeCommand command{.calculation = Calculation::Editing, .given = settings, .settings = Settings()};
     command.settings->editing = settings;
     return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         lastEditing_ = editSeries(copy, settings, progress);
@@ -62,7 +66,7 @@ Outcome CVorl_ADVDoc::EditTimeSeries(const EditingSettings& settings) {
 }
 
 Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
-    ProbeCommand command{.calculation = Calculation::Filtration, .settings = Settings()};
+    ProbeCommand command{.calculation = Calculation::Filtration, .given = settings, .settings = Settings()};
     command.settings->filter = settings;
     return ChangeSeries(command, [&](SAdvProbe& copy, Progress& progress) {
         const FilterDecision decision = filterSeries(copy, settings, progress);

@@ -33,7 +33,9 @@ Outcome CVorl_ADVDoc::SetPage(Stage stage, const PageAtrType& page) {
     if (page != workspace_.pages.GetAt(record)) {
         SPageAtrArray pages = workspace_.pages;
         pages.SetAt(record, page);
-        Write("Page Setup", {.pages = std::move(pages)});
+        Write("Page Setup", {.pages = std::move(pages)},
+              {DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace,
+                      PageGiven{stage, workspace_.pages.GetAt(record), page})});
         Tell(Change::View);
     }
     return Outcome::Done;
@@ -43,7 +45,8 @@ Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& chosen) {
     WorkspaceSettings settings = Settings();
     settings.meanVelocityMode = chosen.mode;
     settings.userMeanVelocity = chosen.value;
-    Write("Mean Velocity", {.settings = settings});
+    Write("Mean Velocity", {.settings = settings},
+          {DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace, chosen)});
     Tell(Change::Content);
     return Outcome::Done;
 }

@@ -26,7 +26,7 @@ Outcome CVorl_ADVDoc::ExtractDissipationRate(const DissipationReading& reading) 
     SAdvProbe copy = Probe();
     const double rate = dissipationRate(reading, copy, Settings());
     copy.SetResults(SAdvProbe::kDissipationRate, {&rate, 1});
-    Write("Extract Dissipation Rate", PatchOf(std::move(copy)));
+    Write("Extract Dissipation Rate", PatchOf(std::move(copy)), {DoneOnActive(reading)});
     Tell(Change::Content);
     return Outcome::Done;
 }
@@ -50,7 +50,7 @@ Outcome CVorl_ADVDoc::ExtractScales(const ScalesReading& reading) {
     const bool timeScales = reading.source == ScalesSource::Correlation;
     copy.SetResults(timeScales ? SAdvProbe::kTimeScales : SAdvProbe::kSpectrumIntegrals,
                     integratedScales(reading.source, copy, range));
-    Write("Extract Scales", PatchOf(std::move(copy)));
+    Write("Extract Scales", PatchOf(std::move(copy)), {DoneOnActive(reading)});
     Tell(Change::Content);
     return Outcome::Done;
 }

@@ -31,7 +31,36 @@ void keepOlder(std::optional<T>& older, std::optional<T>& later) {
     }
 }
 
+template <class T>
+void takeWhereDifferent(std::optional<T>& part, const T& from, const T& to) {
+    if (!(from == to)) {
+        part = to;
+    }
+}
+
 }  // namespace
+
+WorkspacePatch WorkspacePatch::Between(const Workspace& from, const Workspace& to) {
+    WorkspacePatch patch;
+    takeWhereDifferent(patch.settings, from.settings, to.settings);
+    takeWhereDifferent(patch.planFrames, from.dataFiles.frameAttributes, to.dataFiles.frameAttributes);
+    takeWhereDifferent(patch.boundaries, from.boundaries, to.boundaries);
+    takeWhereDifferent(patch.pages, from.pages, to.pages);
+    for (int file = 0; file < from.dataFiles.files.GetSize(); ++file) {
+        const SAdvProbesArray& before = from.dataFiles.files.GetAt(file).probes;
+        const SAdvProbesArray& after = to.dataFiles.files.GetAt(file).probes;
+        for (int probe = 0; probe < before.GetSize(); ++probe) {
+            if (!(before.GetAt(probe) == after.GetAt(probe))) {
+                patch.probes.push_back({file, probe, after.GetAt(probe)});
+            }
+        }
+    }
+    return patch;
+}
+
+bool WorkspacePatch::IsEmpty() const {
+    return !settings && probes.empty() && !file && !planFrames && !boundaries && !pages;
+}
 
 void WorkspacePatch::Exchange(Workspace& workspace) {
     exchange(settings, workspace.settings);

@@ -30,6 +30,10 @@ struct WorkspacePatch {
     std::optional<SBndSet> boundaries = std::nullopt;
     std::optional<SPageAtrArray> pages = std::nullopt;
 
+    /// What makes one workspace of another that has the same data files with as many probes.
+    static WorkspacePatch Between(const Workspace& from, const Workspace& to);
+    bool IsEmpty() const;
+
     void Exchange(Workspace& workspace);
     /// Two exchanged patches as one: this one was exchanged first, so its parts are the older ones and stay. later has
     /// no file part.
