@@ -48,6 +48,14 @@ Outcome CVorl_ADVDoc::SpectralAnalysis(const SpectralDialogValues& settings) {
     return Analyse(command, [&](SAdvProbe& copy, Progress& progress) {
         const SpectralRun run = spectralRunOf(settings, countedSamples(copy));
         command.settings->lastTruncationPoint = run.lags;
+        if (settings.percentFlag != (settings.truncationMode == SpectralSettings::kPercentMode)) {
+            // The number of one mode was read as the other one's: what counts is how many lags that made.
+            SpectralDialogValues asRun = settings;
+            asRun.truncationMode = SpectralSettings::kLagsMode;
+            asRun.lags = run.lags;
+            asRun.percentFlag = false;
+            command.given = asRun;
+        }
         return analyseSpectra(copy, run, progress);
     });
 }

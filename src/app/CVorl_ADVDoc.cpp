@@ -1,5 +1,7 @@
 #include "app/CVorl_ADVDoc.h"
 
+#include <limits>
+
 #include "app/RecomputeChain.h"
 #include "io/WorkspaceFile.h"
 #include "model/DefaultFrames.h"
@@ -8,6 +10,8 @@ namespace vorlan {
 
 namespace {
 
+/// No state of a history.
+constexpr std::uint64_t kNeverSaved = std::numeric_limits<std::uint64_t>::max();
 constexpr const char* kFrameCommand = "Plot Frame Options";
 
 /// Holds the running state of document and port; leaving the scope ends both, whatever happened.
@@ -55,6 +59,12 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
     const std::optional<FileStamp> stamp = fileStampOf(path);
     Workspace fresh = vorlan::openWorkspace(path);
     Replace(std::move(fresh), path, stamp);
+    Tell(Change::Content);
+}
+
+void CVorl_ADVDoc::RecoverWorkspace(const std::filesystem::path& copy, const std::filesystem::path& path) {
+    Replace(vorlan::openWorkspace(copy), path, fileStampOf(path));
+    savedState_ = kNeverSaved;
     Tell(Change::Content);
 }
 

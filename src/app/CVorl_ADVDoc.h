@@ -48,7 +48,9 @@ class CVorl_ADVDoc {
     const Workspace& GetWorkspace() const { return workspace_; }
     const WorkspaceSettings& Settings() const { return workspace_.settings; }
     const std::filesystem::path& GetPath() const { return path_; }
-    bool IsModified() const { return history_.State() != savedState_; }
+    bool IsModified() const { return State() != savedState_; }
+    /// Differs between any two states that a command lies between.
+    std::uint64_t State() const { return history_.State(); }
     /// True when another program has written the file since it was opened or saved here; false where it is gone.
     bool IsChangedOnDisk() const;
     /// True while a calculation runs: no command may start.
@@ -57,6 +59,9 @@ class CVorl_ADVDoc {
     void NewWorkspace();
     /// Replaces the workspace only after complete success. Throws FileError.
     void OpenWorkspace(const std::filesystem::path& path);
+    /// Opens the copy that was kept of a workspace whose file is at path, empty for one that was never saved: what it
+    /// holds is a modification of that file. Throws FileError.
+    void RecoverWorkspace(const std::filesystem::path& copy, const std::filesystem::path& path);
     /// Throws FileError; the file at path is then what it was.
     void SaveWorkspace(const std::filesystem::path& path);
 
@@ -68,9 +73,8 @@ class CVorl_ADVDoc {
     const char* UndoName() const { return history_.UndoName(); }
     const char* RedoName() const { return history_.RedoName(); }
     /// What was done to the active probe since it was sampled or loaded, and to the workspace as a whole meanwhile, as
-    /// far as a recipe can say it: oldest first, without what was taken back. Data files are counted as they were when
-    /// the probe came; its own place then is that of the first command on it.
-    std::vector<const DoneCommand*> CommandsOfProbe() const;
+    /// far as a recipe can say it. Empty without a probe.
+    ProbeCommands CommandsOfProbe() const;
     /// Gives several commands as one. work gets a copy of this document that speaks through port; what it did to the
     /// copy is written when it returns, and nothing when it throws. It opens and closes no data files.
     Outcome RunTogether(DocumentPort& port, const std::function<void(CVorl_ADVDoc& copy)>& work);

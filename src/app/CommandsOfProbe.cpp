@@ -13,30 +13,33 @@ DoneCommand CVorl_ADVDoc::DoneOn(int file, int probe, GivenCommand given) const 
     return done;
 }
 
-std::vector<const DoneCommand*> CVorl_ADVDoc::CommandsOfProbe() const {
-    std::vector<const DoneCommand*> commands;
+ProbeCommands CVorl_ADVDoc::CommandsOfProbe() const {
+    ProbeCommands found;
     if (!HasProbe()) {
-        return commands;
+        return found;
     }
-    int file = ActiveFile();
-    const int probe = ActiveProbe();
+    found.file = ActiveFile();
+    found.probe = ActiveProbe();
+    found.settings = Settings();
     const std::span<const History::Step> steps = history_.Done();
     for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
         for (auto done = step->done.rbegin(); done != step->done.rend(); ++done) {
-            if (done->file == DoneCommand::kWholeWorkspace || (done->file == file && done->probe == probe)) {
-                commands.push_back(&*done);
+            if (done->file == DoneCommand::kWholeWorkspace ||
+                (done->file == found.file && done->probe == found.probe)) {
+                found.commands.push_back(&*done);
             }
         }
         if (const auto& part = step->replaced.file) {
             const bool wasClosed = part->file.has_value();
-            if (!wasClosed && part->index == file) {
+            if (!wasClosed && part->index == found.file) {
                 break;  // Here the probe came.
             }
-            file += wasClosed && part->index <= file ? 1 : 0;
+            found.file += wasClosed && part->index <= found.file ? 1 : 0;
         }
+        found.settings = step->replaced.settings.value_or(found.settings);
     }
-    std::reverse(commands.begin(), commands.end());
-    return commands;
+    std::reverse(found.commands.begin(), found.commands.end());
+    return found;
 }
 
 }  // namespace vorlan

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -8,8 +10,8 @@
 #include "analysis/SpectralSettings.h"
 #include "analysis/TurbulenceScales.h"
 #include "app/CommandValues.h"
-#include "model/FrameSlot.h"
 #include "model/PageAttributes.h"
+#include "model/Stages.h"
 #include "model/WorkspaceSettings.h"
 
 namespace vorlan {
@@ -23,25 +25,16 @@ struct ClipGiven {
     double to;
 };
 struct CrossSpectraGiven {};
-/// Diagrams with their attributes in front of the command and after it.
-struct FramesGiven {
-    struct Frame {
-        FrameSlot slot;
-        FrameAttributesType before;
-        FrameAttributesType after;
-    };
-    std::vector<Frame> frames;
-};
 struct PageGiven {
     Stage stage;
     PageAtrType before;
     PageAtrType after;
 };
 
-using GivenCommand = std::variant<ZoomGiven, ResetGiven, ClipGiven, RotationSettings, EditingSettings, FilterSettings,
-                                  StationaritySettings, HistogramSettings, SpectralDialogValues, CrossSpectraGiven,
-                                  QuadrantSettings, VectorSettings, DissipationReading, ScalesReading,
-                                  MeanVelocitySettings, PositionChange, FramesGiven, PageGiven>;
+using GivenCommand =
+    std::variant<ZoomGiven, ResetGiven, ClipGiven, RotationSettings, EditingSettings, FilterSettings,
+                 StationaritySettings, HistogramSettings, SpectralDialogValues, CrossSpectraGiven, QuadrantSettings,
+                 VectorSettings, DissipationReading, ScalesReading, MeanVelocitySettings, PositionChange, PageGiven>;
 
 /// A command that was done, with what it needs to be done again elsewhere.
 struct DoneCommand {
@@ -58,5 +51,13 @@ struct DoneCommand {
 };
 
 using DoneCommands = std::vector<DoneCommand>;
+
+/// The commands since a probe came into the workspace, oldest first, without what was taken back.
+struct ProbeCommands {
+    int file = -1;  ///< indexes of the probe when it came
+    int probe = -1;
+    WorkspaceSettings settings;  ///< as they were then, but for what is selected
+    std::vector<const DoneCommand*> commands;
+};
 
 }  // namespace vorlan

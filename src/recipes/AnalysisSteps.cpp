@@ -1,5 +1,6 @@
 // Steps of the stages after pre-processing.
 #include "recipes/RecipeSteps.h"
+#include "recipes/StepsOfCommands.h"
 
 namespace vorlan {
 
@@ -58,6 +59,36 @@ std::string faultOfMeanVelocity(const StepValues& values) {
 }
 
 }  // namespace
+
+NamedStep stepOf(const StationaritySettings& settings) {
+    return {"stationarity", valuesOf(settings)};
+}
+
+NamedStep stepOf(const HistogramSettings& settings) {
+    return {"distributions", valuesOf(settings)};
+}
+
+NamedStep stepOf(const SpectralDialogValues& settings) {
+    NamedStep step{"spectral", valuesOf<SpectralSettings>(settings)};
+    // The number of the mode that was not used would choose it.
+    step.values.remove(settings.percentFlag ? "lags" : "percent");
+    return step;
+}
+
+NamedStep stepOf(const CrossSpectraGiven&) {
+    return {"cross-spectral", {}};
+}
+
+NamedStep stepOf(const QuadrantSettings& settings) {
+    return {"quadrants", valuesOf(settings)};
+}
+
+NamedStep stepOf(const MeanVelocitySettings& settings) {
+    NamedStep step{"mean-velocity", {}};
+    step.values.set("mode", settings.mode);
+    step.values.set("value", settings.value);
+    return step;
+}
 
 std::vector<StepKind> analysisSteps() {
     return {

@@ -1,5 +1,6 @@
 // Steps of the measuring grid: the plans, the probes' positions, boundaries and their nodes.
 #include "recipes/RecipeSteps.h"
+#include "recipes/StepsOfCommands.h"
 
 namespace vorlan {
 
@@ -9,12 +10,13 @@ Outcome runVectors(StepContext& context, const StepValues& values) {
     return context.document.VectorsOfMeanVelocities(settingsOf<VectorSettings>(values));
 }
 
+constexpr const char* kCoordinates[] = {"x", "y", "z"};
+
 PositionChange changeOf(const StepValues& values) {
     PositionChange change;
-    const char* const names[] = {"x", "y", "z"};
     for (std::size_t axis = 0; axis < change.size(); ++axis) {
-        if (values.has(names[axis])) {
-            change[axis] = values.real(names[axis]);
+        if (values.has(kCoordinates[axis])) {
+            change[axis] = values.real(kCoordinates[axis]);
         }
     }
     return change;
@@ -108,6 +110,20 @@ StepKind gridStep(std::string name, std::vector<KeyRule> keys, Outcome (*run)(St
 std::optional<std::string> boundaryOutputOf(const StepKind& kind, const StepValues& values) {
     const bool writes = kind.run == runBoundaryNew || kind.run == runBoundarySave;
     return writes && values.has("path") ? std::optional(values.text("path")) : std::nullopt;
+}
+
+NamedStep stepOf(const VectorSettings& settings) {
+    return {"vectors", valuesOf(settings)};
+}
+
+NamedStep stepOf(const PositionChange& position) {
+    NamedStep step{"position", {}};
+    for (std::size_t axis = 0; axis < position.size(); ++axis) {
+        if (position[axis]) {
+            step.values.set(kCoordinates[axis], *position[axis]);
+        }
+    }
+    return step;
 }
 
 std::vector<StepKind> gridSteps() {

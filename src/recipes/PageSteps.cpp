@@ -4,6 +4,7 @@
 #include "model/PageLayout.h"
 #include "model/StageTable.h"
 #include "recipes/RecipeSteps.h"
+#include "recipes/StepsOfCommands.h"
 
 namespace vorlan {
 
@@ -56,6 +57,44 @@ Outcome runPage(StepContext& context, const StepValues& values) {
 }
 
 }  // namespace
+
+NamedStep stepOf(const PageGiven& given) {
+    const auto& [stage, before, after] = given;
+    NamedStep step{"page", {}};
+    StepValues& values = step.values;
+    values.set("stage", static_cast<int>(stage));
+    if (after.header != before.header) {
+        values.set("header", after.header);
+    }
+    if (after.footer != before.footer) {
+        values.set("footer", after.footer);
+    }
+    if (after.layout != before.layout) {
+        values.set("layout", static_cast<int>(after.layout == 0 ? kGrid : kColumn));
+    }
+    for (const LengthKey& key : kLengths) {
+        if (after.*key.value != before.*key.value) {
+            values.set(key.name, after.*key.value);
+        }
+    }
+    std::vector<int> ticked;
+    bool ticksChange = false;
+    for (int pane = 0; pane < kPaneCount; ++pane) {
+        const auto size = sizeOf(static_cast<Pane>(pane));
+        const auto flag = printFlagOf(static_cast<Pane>(pane));
+        if (!(after.*size == before.*size)) {
+            values.set(kSizes[pane], std::array{(after.*size).height, (after.*size).width});
+        }
+        if (after.*flag != 0) {
+            ticked.push_back(pane);
+        }
+        ticksChange = ticksChange || after.*flag != before.*flag;
+    }
+    if (ticksChange) {
+        values.set("panes", ticked);
+    }
+    return step;
+}
 
 std::vector<StepKind> pageSteps() {
     std::vector<KeyRule> keys = {required(choiceKey("stage", stageNames())), textKey("header", {}),

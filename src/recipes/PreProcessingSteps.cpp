@@ -1,6 +1,7 @@
 // Steps that change the working record.
 #include "analysis/FilterSettings.h"
 #include "recipes/RecipeSteps.h"
+#include "recipes/StepsOfCommands.h"
 
 namespace vorlan {
 
@@ -8,6 +9,10 @@ namespace {
 
 Outcome runReset(StepContext& context, const StepValues&) {
     return context.document.ResetTimeSeries();
+}
+
+Outcome runZoom(StepContext& context, const StepValues&) {
+    return context.document.EnterZoomMode();
 }
 
 Outcome runClip(StepContext& context, const StepValues& values) {
@@ -84,33 +89,95 @@ std::string faultOfFilter(const StepValues& values) {
     return allowsType(settings.shape, settings.type) ? "" : "this shape has no filter of this type";
 }
 
+/// The values of a test of scores, none where it is off.
+void giveScoreTest(const ScoreTest& test, StepValues& values, const std::string& key) {
+    if (test.on) {
+        values.set(key + "_threshold", test.threshold());
+    } else {
+        values.remove(key);
+    }
+}
+
+/// The keys of a step that changes the working series.
+std::vector<KeyRule> changing(std::vector<KeyRule> keys) {
+    keys.push_back(booleanKey("repeat", {}));
+    return keys;
+}
+
 }  // namespace
+
+NamedStep stepOf(const ZoomGiven&) {
+    return {"zoom", {}};
+}
+
+NamedStep stepOf(const ResetGiven&) {
+    return {"reset", {}};
+}
+
+NamedStep stepOf(const ClipGiven& clip) {
+    NamedStep step{"clip", {}};
+    step.values.set("from", clip.from);
+    step.values.set("to", clip.to);
+    return step;
+}
+
+NamedStep stepOf(const RotationSettings& settings) {
+    NamedStep step{"rotate", {}};
+    step.values.set("heading", settings.heading);
+    step.values.set("pitch", settings.pitch);
+    step.values.set("roll", settings.roll);
+    step.values.set("position", settings.position);
+    return step;
+}
+
+NamedStep stepOf(const EditingSettings& settings) {
+    NamedStep step{"edit", valuesOf(settings)};
+    giveScoreTest(settings.correlation, step.values, "correlation");
+    giveScoreTest(settings.signalToNoise, step.values, "snr");
+    if (!settings.spikeFilter) {
+        step.values.remove("spike_threshold");
+    }
+    if (!settings.velocityTest) {
+        step.values.remove("velocity_threshold");
+    }
+    return step;
+}
+
+NamedStep stepOf(const FilterSettings& settings) {
+    return {"filter", valuesOf(settings)};
+}
 
 std::vector<StepKind> preProcessingSteps() {
     return {
         {.name = "reset",
-         .keys = {},
+         .keys = changing({}),
          .run = runReset,
          .command = Command::ResetTimeSeries,
          .stage = Stage::PreProcessing},
+        {.name = "zoom",
+         .keys = {},
+         .run = runZoom,
+         .command = Command::ZoomAndClipping,
+         .stage = Stage::PreProcessing},
         {.name = "clip",
-         .keys = {required(realKey("from", {})), required(realKey("to", {}))},
+         .keys = changing({required(realKey("from", {})), required(realKey("to", {}))}),
          .run = runClip,
          .command = Command::ZoomAndClipping,
          .stage = Stage::PreProcessing},
         {.name = "rotate",
-         .keys = {realKey("heading", 0.0), realKey("pitch", 0.0), realKey("roll", 0.0), tripleKey("position")},
+         .keys =
+             changing({realKey("heading", 0.0), realKey("pitch", 0.0), realKey("roll", 0.0), tripleKey("position")}),
          .run = runRotate,
          .command = Command::CoordinateSystem,
          .stage = Stage::PreProcessing},
         {.name = "edit",
-         .keys = editKeys(),
+         .keys = changing(editKeys()),
          .run = runEdit,
          .command = Command::EditingTimeSeries,
          .stage = Stage::PreProcessing,
          .faultOfValues = faultOfEdit},
         {.name = "filter",
-         .keys = withoutFallback(keysOf<FilterSettings>(), {"type"}),
+         .keys = changing(withoutFallback(keysOf<FilterSettings>(), {"type"})),
          .run = runFilter,
          .command = Command::DigitalFiltration,
          .faultOfValues = faultOfFilter},

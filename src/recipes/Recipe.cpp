@@ -280,6 +280,16 @@ bool Recipe::writesFiles() const {
                        [](const RecipeStep& step) { return outputOf(step.values).has_value(); });
 }
 
+void placeFiles(Recipe& recipe, const std::filesystem::path& folder) {
+    for (RecipeStep& step : recipe.steps) {
+        for (const char* key : {"out", "path"}) {
+            if (step.values.has(key) && step.values.text(key) != kStandardOutput) {
+                step.values.set(key, (folder / step.values.text(key)).string());
+            }
+        }
+    }
+}
+
 Recipe parseRecipe(std::string_view text, const std::filesystem::path& path) {
     Faults faults;
     Recipe recipe;

@@ -26,6 +26,9 @@ struct Recipe {
     bool writesFiles() const;
 };
 
+/// Gives the files that steps read or write a folder where their names have none.
+void placeFiles(Recipe& recipe, const std::filesystem::path& folder);
+
 /// Reads a recipe. RunError Unreadable when there is no file, Usage for its faults: one line "path:line: what" for
 /// each, in the order of the lines.
 Recipe loadRecipe(const std::filesystem::path& path);

@@ -33,6 +33,7 @@ struct KeyRule {
 class StepValues {
   public:
     void set(const std::string& name, KeyValue value) { values_[name] = std::move(value); }
+    void remove(const std::string& name) { values_.erase(name); }
     bool has(const std::string& name) const { return values_.count(name) != 0; }
 
     bool boolean(const std::string& name) const { return get<bool>(name); }
@@ -115,6 +116,32 @@ Settings settingsOf(const StepValues& values, Settings settings = {}) {
         }
     });
     return settings;
+}
+
+/// The values with which a step takes the settings.
+template <class Settings>
+StepValues valuesOf(const Settings& settings) {
+    StepValues values;
+    Settings::Fields(settings, [&](const SettingField& field, const auto& value) {
+        using Value = std::remove_cvref_t<decltype(value)>;
+        if (*field.name == '\0') {
+            return;
+        }
+        if constexpr (std::is_same_v<Value, StoredFlag>) {
+            values.set(field.name, static_cast<bool>(value));
+        } else if constexpr (std::is_same_v<Value, double>) {
+            values.set(field.name, value);
+        } else if (field.choices.empty()) {
+            values.set(field.name, static_cast<int>(value));
+        } else {
+            for (std::size_t i = 0; i < field.choices.size(); ++i) {
+                if (field.choices[i].code == static_cast<std::int32_t>(value)) {
+                    values.set(field.name, static_cast<int>(i));
+                }
+            }
+        }
+    });
+    return values;
 }
 
 KeyRule within(KeyRule key, double minimum, double maximum);

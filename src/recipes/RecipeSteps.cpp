@@ -42,6 +42,7 @@ Outcome runStep(const StepKind& kind, const StepValues& values, StepContext& con
             throw refusal(reason);
         }
     }
+    context.port.setStepRepeats(values.has("repeat") ? std::optional(values.boolean("repeat")) : std::nullopt);
     return kind.run(context, values);
 }
 

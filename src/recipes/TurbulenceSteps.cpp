@@ -1,6 +1,7 @@
 // Steps that read turbulence quantities off spectral results, as the tools of the window do.
 #include "recipes/RecipeSteps.h"
 #include "recipes/RunError.h"
+#include "recipes/StepsOfCommands.h"
 
 namespace vorlan {
 
@@ -30,6 +31,22 @@ Outcome runScales(StepContext& context, const StepValues& values) {
 }
 
 }  // namespace
+
+NamedStep stepOf(const DissipationReading& reading) {
+    NamedStep step{"dissipation", {}};
+    step.values.set("on", static_cast<int>(reading.source));
+    step.values.set("x", reading.x);
+    step.values.set("y", reading.y);
+    return step;
+}
+
+NamedStep stepOf(const ScalesReading& reading) {
+    NamedStep step{"scales", {}};
+    step.values.set("on", static_cast<int>(reading.source));
+    step.values.set("from", reading.from);
+    step.values.set("to", reading.to);
+    return step;
+}
 
 std::vector<StepKind> turbulenceSteps() {
     return {
