@@ -3,6 +3,7 @@
 #include <array>
 
 #include "analysis/CrossSpectralFunctions.h"
+#include "analysis/ProgressPart.h"
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/Stresses.h"
 
@@ -48,8 +49,11 @@ void computeCovariances(SAdvProbe& probe, int lags, Progress& progress) {
     for (const StressPair& pair : kStressPairComponents) {
         const std::vector<double>& x = fluctuations[static_cast<std::size_t>(pair.first)];
         const std::vector<double>& y = fluctuations[static_cast<std::size_t>(pair.second)];
-        forward.push_back(crossCovariance(x, y, lags, progress));
-        backward.push_back(crossCovariance(y, x, lags, progress));
+        const double begin = static_cast<double>(forward.size()) / kStressPairs;
+        ProgressPart first(progress, begin, begin + 0.5 / kStressPairs);
+        forward.push_back(crossCovariance(x, y, lags, first));
+        ProgressPart second(progress, begin + 0.5 / kStressPairs, begin + 1.0 / kStressPairs);
+        backward.push_back(crossCovariance(y, x, lags, second));
     }
     store(probe.CrossForward(), forward);
     store(probe.CrossBackward(), backward);
@@ -102,17 +106,20 @@ std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
 
     progress.position(5);
     prepareStresses(probe, progress);
-    computeCovariances(probe, static_cast<int>(probe.spectralLags), progress);
+    ProgressPart covariances(progress, 0.05, 0.3);
+    computeCovariances(probe, static_cast<int>(probe.spectralLags), covariances);
 
     progress.position(30);
     const SMultiArray& forward = probe.CrossForward();
     const SMultiArray& backward = probe.CrossBackward();
     const CrossSpectrumRun run{static_cast<int>(probe.spectralWindow), static_cast<int>(probe.spectralUnit),
                                probe.samplingInterval};
-    store(probe.CoSpectra(), coSpectra(halfSums(forward, backward, 1.0), run, progress));
+    ProgressPart even(progress, 0.3, 0.5);
+    store(probe.CoSpectra(), coSpectra(halfSums(forward, backward, 1.0), run, even));
 
     progress.position(50);
-    store(probe.QuadratureSpectra(), quadratureSpectra(halfSums(forward, backward, -1.0), run, progress));
+    ProgressPart odd(progress, 0.5, 0.8);
+    store(probe.QuadratureSpectra(), quadratureSpectra(halfSums(forward, backward, -1.0), run, odd));
 
     progress.position(80);
     computePhase(probe);

@@ -20,6 +20,8 @@ class Progress {
     virtual void status(const std::string& text) = 0;
     /// Per cent of the whole command, 0..100.
     virtual void position(int percent) = 0;
+    /// The share of it that is done, 0..1, between two positions: for those who show more than steps.
+    virtual void done(double) {}
     /// Called between blocks of work (at least after each lag or frequency of a plain loop). Throws Cancelled when
     /// the run is not wanted any more.
     virtual void breathe() = 0;

@@ -4,6 +4,7 @@
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
+#include "analysis/ProgressPart.h"
 #include "analysis/SpectralFunctions.h"
 
 namespace vorlan {
@@ -54,6 +55,7 @@ std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& p
         position += step;
         progress.position(position);
     };
+    const auto part = [&](int step) { return ProgressPart(progress, position * 0.01, (position + step) * 0.01); };
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
         series.samplingInterval = probe.samplingInterval;
@@ -69,19 +71,24 @@ std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& p
         advance(5);
         progress.breathe();
 
-        storeColumn(series.correlation, kCovarianceResolution, autocovariance(deviations, run.lags, progress));
+        ProgressPart covariances = part(10);
+        storeColumn(series.correlation, kCovarianceResolution, autocovariance(deviations, run.lags, covariances));
         advance(10);
 
+        ProgressPart spectrum = part(10);
         // The transform reads the function back as it was stored.
         storeColumn(series.spectrum, kSpectrumResolution,
                     powerSpectrum(series.correlation.Values(), run.windowCode, run.unitSelector,
-                                  series.samplingInterval, progress));
+                                  series.samplingInterval, spectrum));
         makePositive(series.spectrum);
         advance(10);
 
-        storeColumn(series.structureFunction, kCovarianceResolution, structureFunction(deviations, run.lags, progress));
         // 35 per cent for U and V each, the rest for W.
-        advance(component == SAdvProbe::kComponents - 1 ? 5 : 10);
+        const int rest = component == SAdvProbe::kComponents - 1 ? 5 : 10;
+        ProgressPart structure = part(rest);
+        storeColumn(series.structureFunction, kCovarianceResolution,
+                    structureFunction(deviations, run.lags, structure));
+        advance(rest);
     }
     probe.spectralLags = static_cast<std::uint32_t>(run.lags);
     probe.spectralWindow = static_cast<std::uint32_t>(run.windowCode);

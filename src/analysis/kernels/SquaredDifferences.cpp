@@ -15,7 +15,7 @@ std::vector<double> squaredDifferences(std::span<const double> values, std::size
     const std::size_t block = kernels.maxLags;
     std::vector<double> result(lags);
     std::vector<double> sums(block);
-    Pacer pacer(progress);
+    Pacer pacer(progress, static_cast<double>(lags) * static_cast<double>(values.size()));
     for (std::size_t first = 0; first < lags; first += block) {
         const std::size_t count = std::min(block, lags - first);
         std::fill(sums.begin(), sums.end(), 0.0);

@@ -50,7 +50,7 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, const Phase
     std::vector<PhaseRow> steps(kFoldedSteps);
     std::vector<PhaseRow> middles(series.front().size());
     std::vector<double> sums(kSharedSeries * kFrequencyBlock);
-    Pacer pacer(progress);
+    Pacer pacer(progress, static_cast<double>(frequencies) * static_cast<double>(count * series.size()));
     for (std::size_t first = 0; first < frequencies; first += kFrequencyBlock) {
         kernels.phaseRows(circle, first, 0, 1, steps.size(), steps.data());
         kernels.phaseRows(circle, first, kPhaseSteps / 2, kPhaseSteps, middles.size(), middles.data());
