@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/RangeText.h"
 #include "model/Text.h"
 #include "recipes/Outputs.h"
 #include "recipes/RecipeKeys.h"
@@ -14,7 +15,7 @@ namespace {
 
 void requireInRange(const std::string& option, double value, const Range& range) {
     if (!range.holds(value)) {
-        throw CLI::ValidationError(option, shown(value) + " is not " + describe(range));
+        throw CLI::ValidationError(option, shown(value) + " is not " + rangeText(range));
     }
 }
 

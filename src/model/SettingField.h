@@ -26,6 +26,8 @@ struct SettingField {
     const char* name = "";             ///< its key in recipes; empty: it has none
     Range range = {};                  ///< of a number
     std::vector<Choice> choices = {};  ///< of a code, in the order in which they are listed
+    const char* meaning = "";          ///< for whoever is to fill it in
+    const char* unit = "";
 
     bool offers(std::int32_t code) const {
         return std::any_of(choices.begin(), choices.end(), [code](const Choice& c) { return c.code == code; });

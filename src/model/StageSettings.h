@@ -44,13 +44,25 @@ struct EditingSettings {
     template <class Self, class Visit>
     static void Fields(Self& self, Visit visit) {
         for (auto* score : {&self.correlation, &self.signalToNoise}) {
-            visit(
-                SettingField{score == &self.correlation ? "correlation" : "snr", {}, {{"average", 0}, {"minimum", 1}}},
-                score->statistic);
+            visit(SettingField{score == &self.correlation ? "correlation" : "snr",
+                               {},
+                               {{"average", 0}, {"minimum", 1}},
+                               "What is compared with the threshold: the average of the three beams or the lowest one"},
+                  score->statistic);
         }
-        visit(SettingField{"spike_threshold"}, self.accelerationThreshold);
-        visit(SettingField{"velocity_threshold"}, self.velocityThreshold);
-        visit(SettingField{"treatment", {}, {{"interpolate", 0}, {"remove", 1}}}, self.treatment);
+        visit(SettingField{"spike_threshold", {}, {}, "A sample whose acceleration is larger is a spike", "g"},
+              self.accelerationThreshold);
+        visit(
+            SettingField{
+                "velocity_threshold", {}, {}, "A velocity further from its mean is bad", "standard deviations"},
+            self.velocityThreshold);
+        visit(
+            SettingField{
+                "treatment",
+                {},
+                {{"interpolate", 0}, {"remove", 1}},
+                "What becomes of bad samples: repaired from their neighbours, or left out of all that follows"},
+            self.treatment);
     }
     friend bool operator==(const EditingSettings&, const EditingSettings&) = default;
 };
@@ -64,11 +76,25 @@ struct FilterSettings {
 
     template <class Self, class Visit>
     static void Fields(Self& self, Visit visit) {
-        visit(SettingField{"shape", {}, {{"rectangle", 0}, {"tukey", 1}, {"gaussian", 2}, {"bell", 3}}}, self.shape);
-        visit(SettingField{"type", {}, {{"low-pass", 0}, {"high-pass", 1}, {"band-pass", 2}, {"band-cut", 3}}},
+        visit(SettingField{"shape",
+                           {},
+                           {{"rectangle", 0}, {"tukey", 1}, {"gaussian", 2}, {"bell", 3}},
+                           "Weights of the neighbours of a sample"},
+              self.shape);
+        visit(SettingField{"type",
+                           {},
+                           {{"low-pass", 0}, {"high-pass", 1}, {"band-pass", 2}, {"band-cut", 3}},
+                           "Frequencies that are kept; which types there are depends on the shape"},
               self.type);
-        visit(SettingField{"half_width"}, self.halfWidth);
-        visit(SettingField{"cutoff"}, self.cutoff);
+        visit(SettingField{"half_width",
+                           {},
+                           {},
+                           "Reach of the filter to either side: longer than a sample, shorter than a quarter of the "
+                           "record",
+                           "s"},
+              self.halfWidth);
+        visit(SettingField{"cutoff", {}, {}, "Frequency above which the Gaussian shape removes, not 0", "Hz"},
+              self.cutoff);
     }
     friend bool operator==(const FilterSettings&, const FilterSettings&) = default;
 };
@@ -80,8 +106,12 @@ struct StationaritySettings {
 
     template <class Self, class Visit>
     static void Fields(Self& self, Visit visit) {
-        visit(SettingField{"mode", {}, {{"fixed", 0}, {"cumulative", 1}}}, self.mode);
-        visit(SettingField{"bands"}, self.bands);
+        visit(SettingField{"mode",
+                           {},
+                           {{"fixed", 0}, {"cumulative", 1}},
+                           "Bands of one width side by side, or each from the start of the record"},
+              self.mode);
+        visit(SettingField{"bands", {}, {}, "Bands that the record is divided into, at least 2"}, self.bands);
     }
     friend bool operator==(const StationaritySettings&, const StationaritySettings&) = default;
 };
@@ -94,9 +124,12 @@ struct HistogramSettings {
 
     template <class Self, class Visit>
     static void Fields(Self& self, Visit visit) {
-        visit(SettingField{"grades"}, self.grades);
-        visit(SettingField{"bar_width", {0, 100}}, self.barWidth);
-        visit(SettingField{"normal"}, self.normalApproximation);
+        visit(SettingField{"grades", {}, {}, "Classes between the smallest and the largest velocity, at least 2"},
+              self.grades);
+        visit(SettingField{"bar_width", {0, 100}, {}, "Width of the drawn bars, of the width of a class", "%"},
+              self.barWidth);
+        visit(SettingField{"normal", {}, {}, "Draws the normal distribution of the same mean and variance, too"},
+              self.normalApproximation);
     }
     friend bool operator==(const HistogramSettings&, const HistogramSettings&) = default;
 };
@@ -115,12 +148,21 @@ struct SpectralSettings {
     /// A recipe chooses the mode by giving its number.
     template <class Self, class Visit>
     static void Fields(Self& self, Visit visit) {
-        visit(SettingField{"window", {}, {{"rectangle", 0}, {"bartlett", 1}, {"tukey", 2}, {"parzen", 3}}},
+        visit(SettingField{"window",
+                           {},
+                           {{"rectangle", 0}, {"bartlett", 1}, {"tukey", 2}, {"parzen", 3}},
+                           "Weights of the correlation function before it is transformed"},
               self.windowButton);
-        visit(SettingField{"unit", {}, {{"hz", 1}, {"rad/s", 0}}}, self.unitButton);
-        visit(SettingField{"", {}, {{"percent", kPercentMode}, {"lags", kLagsMode}}}, self.truncationMode);
-        visit(SettingField{"percent", {0, 50}}, self.percent);
-        visit(SettingField{"lags"}, self.lags);
+        visit(SettingField{"unit", {}, {{"hz", 1}, {"rad/s", 0}}, "Unit of the frequencies of the spectra"},
+              self.unitButton);
+        visit(SettingField{"",
+                           {},
+                           {{"percent", kPercentMode}, {"lags", kLagsMode}},
+                           "How the largest lag of the correlation functions is given"},
+              self.truncationMode);
+        visit(SettingField{"percent", {0, 50}, {}, "Largest lag, of the length of the record, not 0", "%"},
+              self.percent);
+        visit(SettingField{"lags", {}, {}, "Number of lags: at least 3, at most half of the samples"}, self.lags);
     }
     friend bool operator==(const SpectralSettings&, const SpectralSettings&) = default;
 };
@@ -136,12 +178,19 @@ struct QuadrantSettings {
 
     template <class Self, class Visit>
     static void Fields(Self& self, Visit visit) {
-        visit(SettingField{"increment"}, self.increment);
-        visit(SettingField{"maximum"}, self.maximum);
-        visit(SettingField{"ejection"}, self.ejectionThreshold);
-        visit(SettingField{"sweep"}, self.sweepThreshold);
-        visit(SettingField{"lag"}, self.maximumLag);
-        visit(SettingField{"stress", {}, {{"uv", 0}, {"uw", 1}, {"vw", 2}}}, self.stressType);
+        visit(SettingField{"increment", {}, {}, "Step from one hole size to the next, above 0", "mean stresses"},
+              self.increment);
+        visit(SettingField{"maximum", {}, {}, "Largest hole size, at least 2", "mean stresses"}, self.maximum);
+        visit(SettingField{"ejection", {}, {}, "Stresses above it are ejections, at least 0", "mean stresses"},
+              self.ejectionThreshold);
+        visit(SettingField{"sweep", {}, {}, "Stresses above it are sweeps, at least 0", "mean stresses"},
+              self.sweepThreshold);
+        visit(SettingField{"lag", {}, {}, "Reach of the averaged patterns before and after an event, at least 2", "s"},
+              self.maximumLag);
+        visit(
+            SettingField{
+                "stress", {}, {{"uv", 0}, {"uw", 1}, {"vw", 2}}, "The pair of velocities whose stress is analysed"},
+            self.stressType);
     }
     friend bool operator==(const QuadrantSettings&, const QuadrantSettings&) = default;
 };
@@ -157,10 +206,13 @@ struct VectorSettings {
     static void Fields(Self& self, Visit visit) {
         constexpr double kInfinity = std::numeric_limits<double>::infinity();
         constexpr Range kAboveZero{std::numeric_limits<double>::denorm_min(), kInfinity};
-        visit(SettingField{"plane", {}, {{"xy", 0}, {"xz", 1}, {"yz", 2}}}, self.plane);
-        visit(SettingField{"pixels", {1, kInfinity}}, self.pixels);
-        visit(SettingField{"speed", kAboveZero}, self.speed);
-        visit(SettingField{"smaller", kAboveZero}, self.smaller);
+        visit(SettingField{"plane", {}, {{"xy", 0}, {"xz", 1}, {"yz", 2}}, "The plane that the plans show"},
+              self.plane);
+        visit(SettingField{"pixels", {1, kInfinity}, {}, "Length of an arrow of the given velocity", "pixels"},
+              self.pixels);
+        visit(SettingField{"speed", kAboveZero, {}, "Velocity whose arrow has the given length", "cm/s"}, self.speed);
+        visit(SettingField{"smaller", kAboveZero, {}, "Arrows of minima and maxima are so many times smaller"},
+              self.smaller);
     }
     friend bool operator==(const VectorSettings&, const VectorSettings&) = default;
 };

@@ -1,4 +1,5 @@
 // Steps of the stages after pre-processing.
+#include "model/RangeText.h"
 #include "recipes/RecipeSteps.h"
 #include "recipes/StepsOfCommands.h"
 
@@ -55,7 +56,7 @@ Outcome runMeanVelocity(StepContext& context, const StepValues& values) {
 std::string faultOfMeanVelocity(const StepValues& values) {
     constexpr int kUserMode = 1;
     const bool wrong = values.choice("mode") == kUserMode && !kMeanVelocities.holds(values.real("value"));
-    return wrong ? "\"value\" must be " + describe(kMeanVelocities) : "";
+    return wrong ? "\"value\" must be " + rangeText(kMeanVelocities) : "";
 }
 
 }  // namespace

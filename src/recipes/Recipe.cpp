@@ -13,6 +13,7 @@
 #include <set>
 
 #include "io/ReadFile.h"
+#include "model/RangeText.h"
 #include "model/Text.h"
 #include "recipes/RecipeText.h"
 #include "recipes/RunError.h"
@@ -82,7 +83,7 @@ TakenValue takeInteger(const KeyRule& key, const toml::node& node) {
     const bool fits =
         integer->get() >= std::numeric_limits<int>::min() && integer->get() <= std::numeric_limits<int>::max();
     if (!fits || !key.range.holds(static_cast<double>(integer->get()))) {
-        return wrong(std::isfinite(key.range.minimum) ? "must be " + describe(key.range) : "is too large");
+        return wrong(std::isfinite(key.range.minimum) ? "must be " + rangeText(key.range) : "is too large");
     }
     return {static_cast<int>(integer->get()), {}};
 }
@@ -92,7 +93,7 @@ TakenValue takeReal(const KeyRule& key, const toml::node& node) {
     if (!real) {
         return wrong("must be a finite number");
     }
-    return key.range.holds(*real) ? TakenValue{*real, {}} : wrong("must be " + describe(key.range));
+    return key.range.holds(*real) ? TakenValue{*real, {}} : wrong("must be " + rangeText(key.range));
 }
 
 TakenValue takeChoice(const KeyRule& key, const toml::node& node) {

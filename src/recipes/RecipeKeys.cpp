@@ -129,12 +129,4 @@ std::string listed(const std::vector<std::string>& choices, const std::string& l
     return text;
 }
 
-std::string describe(const Range& range) {
-    if (range.maximum >= kUnbounded && range.minimum > -kUnbounded) {
-        const double rounded = std::floor(range.minimum);
-        return range.minimum > rounded ? formatted("above %g", rounded) : formatted("at least %g", range.minimum);
-    }
-    return formatted("between %g and %g", range.minimum, range.maximum);
-}
-
 }  // namespace vorlan

@@ -150,7 +150,5 @@ KeyRule required(KeyRule key);
 
 /// "a, b or c".
 std::string listed(const std::vector<std::string>& choices, const std::string& last = "or");
-/// "between 1 and 5", "at least 1", "above 0".
-std::string describe(const Range& range);
 
 }  // namespace vorlan

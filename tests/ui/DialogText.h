@@ -71,14 +71,24 @@ inline QString controlText(const QWidget& widget) {
     return {};
 }
 
+/// What is shown where the mouse rests on a control: its own tip, or that of what it stands in.
+inline QString shownTip(const QWidget* widget) {
+    while (widget != nullptr && !widget->isWindow() && widget->toolTip().isEmpty()) {
+        widget = widget->parentWidget();
+    }
+    return widget == nullptr ? QString() : widget->toolTip();
+}
+
 /// One line for each control, in the order in which the dialog was built.
-inline QStringList dialogLines(const QDialog& dialog) {
+inline QStringList dialogLines(const QDialog& dialog, bool withTips = false) {
     QStringList lines{dialog.windowTitle()};
     for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
         const bool inside = qobject_cast<const QComboBox*>(widget->parent()) != nullptr;
         const QString text = inside ? QString() : controlText(*widget);
         if (!text.isEmpty()) {
-            lines << QLatin1String("  ") + text + QLatin1String(widget->isEnabled() ? "" : "   (off)");
+            const QString tip = withTips ? widget->toolTip() : QString();
+            lines << QLatin1String("  ") + text + QLatin1String(widget->isEnabled() ? "" : "   (off)") +
+                         (tip.isEmpty() ? QString() : QLatin1String("   {") + tip + u'}');
         }
     }
     return lines;
@@ -147,7 +157,7 @@ inline QString answersOf(const MakeDialog& make, const ValuesOf& valuesOf, int f
 
 inline QString dialogText(const MakeDialog& make, const ValuesOf& valuesOf) {
     const auto dialog = make();
-    QString text = dialogLines(*dialog).join(u'\n') + QLatin1String("\n    = ") + valuesOf(*dialog) + u'\n';
+    QString text = dialogLines(*dialog, true).join(u'\n') + QLatin1String("\n    = ") + valuesOf(*dialog) + u'\n';
     const auto deeds = [&](auto* sample, const auto& deed) {
         using Control = std::remove_pointer_t<decltype(sample)>;
         for (int i = 0; i < dialog->findChildren<Control*>().size(); ++i) {

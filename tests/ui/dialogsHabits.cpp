@@ -1,4 +1,5 @@
 // What every parameter dialog has in common.
+#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -214,8 +215,8 @@ class DialogsHabits : public QObject {
         QVERIFY(!dialog->isVisible());
     }
 
-    void fieldsAreVisitedInReadingOrder_data() { everyDialog(); }
-    void fieldsAreVisitedInReadingOrder() {
+    void fieldsAreExplainedAndVisitedInReadingOrder_data() { everyDialog(); }
+    void fieldsAreExplainedAndVisitedInReadingOrder() {
         QFETCH(MakeDialog, make);
         const std::unique_ptr<CParameterDialog> dialog = make();
         const DialogDriver driver(*dialog);
@@ -226,6 +227,11 @@ class DialogsHabits : public QObject {
         // The first field has the focus; of a group of radio buttons, the chosen one.
         if (qobject_cast<QRadioButton*>(stops.first()) == nullptr) {
             QCOMPARE(dialog->focusWidget(), stops.first());
+        }
+        for (const QWidget* stop : stops) {
+            const bool explained =
+                qobject_cast<const QDialogButtonBox*>(stop->parent()) != nullptr || !shownTip(stop).isEmpty();
+            QVERIFY2(explained, qPrintable(stop->property("text").toString()));
         }
         // The next field is right of this one or below it, unless a new column starts.
         for (qsizetype i = 1; i < stops.size(); ++i) {

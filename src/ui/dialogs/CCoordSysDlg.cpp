@@ -7,6 +7,7 @@
 
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -17,6 +18,7 @@ CCoordSysDlg::CCoordSysDlg(const RotationSettings& settings, const QString& coor
     system->addWidget(new QLabel(coordinateSystem, this));
     system->addStretch();
     rotate_ = new QCheckBox(QStringLiteral("&Rotate coordinates about  the sampling volume location"), this);
+    rotate_->setToolTip(fieldTip("Lets the angles be typed; those that are shown are applied in any case"));
     auto* groups = new QHBoxLayout;
     groups->addWidget(angleBox());
     groups->addWidget(positionBox());
@@ -38,6 +40,9 @@ QWidget* CCoordSysDlg::angleBox() {
     addField(grid, 0, 0, QStringLiteral("&Heading:"), heading_);
     addField(grid, 1, 0, QStringLiteral("&Pitch:"), pitch_);
     addField(grid, 2, 0, QStringLiteral("R&oll:"), roll_);
+    heading_->setToolTip(fieldTip("Turns U towards V", "degrees"));
+    pitch_->setToolTip(fieldTip("Turns V towards W, after the heading", "degrees"));
+    roll_->setToolTip(fieldTip("Turns U towards W, after the pitch", "degrees"));
     for (NumberField* angle : {heading_, pitch_, roll_}) {
         angle->setEnabled(false);
         connect(rotate_, &QCheckBox::toggled, angle, &QWidget::setEnabled);
@@ -52,6 +57,7 @@ QWidget* CCoordSysDlg::positionBox() {
     for (std::size_t i = 0; i < position_.size(); ++i) {
         position_[i] = new NumberField(this);
         position_[i]->setNumber(values_.position[i]);
+        position_[i]->setToolTip(fieldTip("Place of the sampling volume", "m"));
         addField(grid, static_cast<int>(i), 0, texts[i], position_[i], QStringLiteral("m"));
     }
     return box;

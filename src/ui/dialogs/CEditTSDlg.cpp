@@ -10,6 +10,7 @@
 
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -30,11 +31,11 @@ CEditTSDlg::CEditTSDlg(const EditingSettings& settings, QWidget* parent)
     auto* column = new QVBoxLayout(criteria);
     correlation_ = addScoreTest(column, QStringLiteral("&Correlation Score Threshold:"),
                                 {QStringLiteral("&Average Correlation:"), QStringLiteral("&Minimum Correlation:")},
-                                QStringLiteral("%"), settings.correlation);
+                                QStringLiteral("%"), values_.correlation);
     column->addSpacing(6);
     signalToNoise_ = addScoreTest(column, QStringLiteral("&Signal to Noise Ratio Threshold:"),
                                   {QStringLiteral("A&verage SNR value:"), QStringLiteral("Minimum S&NR value:")},
-                                  QStringLiteral("dB"), settings.signalToNoise);
+                                  QStringLiteral("dB"), values_.signalToNoise);
     column->addSpacing(6);
     addSpikeFilter(column);
     column->addSpacing(6);
@@ -43,7 +44,9 @@ CEditTSDlg::CEditTSDlg(const EditingSettings& settings, QWidget* parent)
                                QStringLiteral("&Remove bad sample from the time series")},
                               static_cast<int>(settings.treatment), this);
     body()->addWidget(criteria);
-    body()->addWidget(radioBox(QStringLiteral("Bad  samples  treatment:"), treatment_));
+    QGroupBox* treatments = radioBox(QStringLiteral("Bad  samples  treatment:"), treatment_);
+    explain(values_, values_.treatment, {treatments});
+    body()->addWidget(treatments);
     finish(correlation_.on);
 }
 
@@ -53,6 +56,7 @@ CEditTSDlg::ScoreControls CEditTSDlg::addScoreTest(QVBoxLayout* column, const QS
     ScoreControls controls;
     controls.on = new QCheckBox(title, this);
     controls.on->setChecked(test.on);
+    controls.on->setToolTip(QStringLiteral("Tests the scores of the samples"));
     controls.statistic = new QButtonGroup(this);
     auto* grid = new QGridLayout;
     grid->setContentsMargins(indentOf(*this), 0, 0, 0);
@@ -63,6 +67,8 @@ CEditTSDlg::ScoreControls CEditTSDlg::addScoreTest(QVBoxLayout* column, const QS
         controls.statistic->addButton(button, row);
         auto* field = new NumberField(this);
         field->setNumber(threshold);
+        explain(values_, test.statistic, {button});
+        field->setToolTip(QStringLiteral("Samples with a lower score are bad (%1)").arg(unit));
         grid->addWidget(button, row, 0);
         grid->addWidget(field, row, 1);
         grid->addWidget(new QLabel(unit, this), row, 2);
@@ -96,6 +102,7 @@ void CEditTSDlg::addSpikeFilter(QVBoxLayout* column) {
     spikeFilter_->setChecked(values_.spikeFilter);
     acceleration_ = new NumberField(this);
     acceleration_->setNumber(values_.accelerationThreshold);
+    explain(values_, values_.accelerationThreshold, {spikeFilter_, acceleration_});
     acceleration_->setEnabled(values_.spikeFilter);
     connect(spikeFilter_, &QCheckBox::toggled, acceleration_, &QWidget::setEnabled);
     auto* grid = new QGridLayout;
@@ -111,6 +118,7 @@ void CEditTSDlg::addVelocityTest(QVBoxLayout* column) {
     velocityTest_->setChecked(values_.velocityTest);
     velocity_ = new NumberField(this);
     velocity_->setNumber(values_.velocityThreshold);
+    explain(values_, values_.velocityThreshold, {velocityTest_, velocity_});
     velocity_->setEnabled(values_.velocityTest);
     connect(velocityTest_, &QCheckBox::toggled, velocity_, &QWidget::setEnabled);
     auto* grid = new QGridLayout;

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "ui/dialogs/FieldLayout.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -17,6 +18,8 @@ CExportDlg::CExportDlg(const ExportOptions& options, QWidget* parent)
     header_->setChecked(options.header);
     time_ = new QCheckBox(QStringLiteral("&Time values [sec]"), this);
     time_->setChecked(options.time);
+    header_->setToolTip(fieldTip("A line in front that names the columns"));
+    time_->setToolTip(fieldTip("A first column with the times", "s"));
     column->addWidget(header_);
     column->addWidget(time_);
     column->addStretch();
@@ -24,7 +27,9 @@ CExportDlg::CExportDlg(const ExportOptions& options, QWidget* parent)
                               static_cast<int>(options.separator), this);
     auto* groups = new QHBoxLayout;
     groups->addWidget(contents, 1);
-    groups->addWidget(radioBox(QStringLiteral("Separator"), separator_), 1);
+    QGroupBox* separators = radioBox(QStringLiteral("Separator"), separator_);
+    separators->setToolTip(fieldTip("Stands between the columns"));
+    groups->addWidget(separators, 1);
     body()->addLayout(groups);
     finish(header_);
 }

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "ui/dialogs/FieldLayout.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -12,7 +13,9 @@ CExportScopeDlg::CExportScopeDlg(bool allProbes, QWidget* parent)
     : CParameterDialog(QStringLiteral("Export Data"), parent), allProbes_(allProbes) {
     scope_ = radioButtons({QStringLiteral("for &current probe only"), QStringLiteral("for &all files and probes")},
                           allProbes ? 1 : 0, this);
-    body()->addWidget(radioBox(QStringLiteral("Table"), scope_));
+    QGroupBox* scopes = radioBox(QStringLiteral("Table"), scope_);
+    scopes->setToolTip(fieldTip("The probes that get a line of the table"));
+    body()->addWidget(scopes);
     finish(firstStop(scope_));
 }
 

@@ -10,6 +10,7 @@
 #include "ui/dialogs/CUpDown.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 #include "ui/dialogs/NumberText.h"
 
 namespace vorlan {
@@ -32,8 +33,12 @@ CFilterDlg::CFilterDlg(const FilterSettings& settings, QWidget* parent)
                           QStringLiteral("Band-&cut")},
                          static_cast<int>(settings.type), this);
     auto* top = new QHBoxLayout;
-    top->addWidget(radioBox(QStringLiteral("Filter Shape"), shape_), 1);
-    top->addWidget(radioBox(QStringLiteral("Filter Type"), type_), 1);
+    QGroupBox* shapes = radioBox(QStringLiteral("Filter Shape"), shape_);
+    QGroupBox* types = radioBox(QStringLiteral("Filter Type"), type_);
+    explain(values_, values_.shape, {shapes});
+    explain(values_, values_.type, {types});
+    top->addWidget(shapes, 1);
+    top->addWidget(types, 1);
     body()->addLayout(top);
     body()->addWidget(kernelBox());
 
@@ -42,6 +47,12 @@ CFilterDlg::CFilterDlg(const FilterSettings& settings, QWidget* parent)
     }
     cutoff_->setEnabled(settings.shape == FilterShape::Gaussian);
     connect(shape_, &QButtonGroup::idClicked, this, &CFilterDlg::chooseShape);
+    connect(halfWidthUpDown_, &CUpDown::aboutToMove, this, [this] {
+        const std::optional<double> typed = halfWidth_->number();
+        if (typed && !halfWidth_->untouched()) {
+            halfWidthUpDown_->setPosition(spinPosition(*typed));
+        }
+    });
     connect(halfWidthUpDown_, &CUpDown::moved, this,
             [this](int seconds) { halfWidth_->setText(twoDecimals(seconds)); });
     finish(firstStop(shape_));
@@ -56,6 +67,8 @@ QWidget* CFilterDlg::kernelBox() {
     halfWidth_->setNumber(values_.halfWidth);
     halfWidthUpDown_ = new CUpDown(0, kLargestSpin, halfWidth_, this);
     halfWidthUpDown_->setPosition(spinPosition(values_.halfWidth));
+    explain(values_, values_.cutoff, {cutoff_});
+    explain(values_, values_.halfWidth, {halfWidth_, halfWidthUpDown_});
     addField(grid, 0, 0, QStringLiteral("&Cutoff frequency [Hz]:"), cutoff_);
     addField(grid, 1, 0, QStringLiteral("Digital filter half &width [sec] :"), halfWidth_);
     grid->addLayout(withUpDown(halfWidth_, halfWidthUpDown_), 1, 1);

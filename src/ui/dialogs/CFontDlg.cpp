@@ -11,6 +11,7 @@ CFontDlg::CFontDlg(const FontDescription& font, QWidget* parent) : QFontDialog(p
     // A family that is not installed opens on the one that is drawn in its place.
     QFont shown = qtFont(font, 1.0);
     shown.setFamily(QFontInfo(shown).family());
+    shown.setPointSizeF(pointSize(font));
     setCurrentFont(shown);
     // The dialog settles on an installed family and a whole point size: those are no choice of the user.
     opened_ = currentFont();

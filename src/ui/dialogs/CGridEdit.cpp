@@ -21,6 +21,7 @@
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/GridPreviewWidget.h"
+#include "ui/dialogs/NameSelector.h"
 #include "ui/dialogs/NumberFields.h"
 #include "ui/dialogs/SAddDlg.h"
 
@@ -49,10 +50,9 @@ void fill(QComboBox* list, const QStringList& texts, int current) {
 
 QComboBox* newList(QWidget* parent, const QString& toolTip) {
     constexpr int kCharacters = 22;
-    auto* list = new QComboBox(parent);
+    auto* list = new NameSelector(toolTip, parent);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setMinimumContentsLength(kCharacters);
-    list->setToolTip(toolTip);
     return list;
 }
 

@@ -9,6 +9,7 @@
 #include "ui/dialogs/CUpDown.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -37,12 +38,21 @@ CHistDlg::CHistDlg(const HistogramSettings& settings, QWidget* parent)
     normal_ = new QCheckBox(QStringLiteral("&Approximate by Normal Distribution"), this);
     normal_->setChecked(settings.normalApproximation);
 
+    explain(values_, values_.grades, {grades_, upDown});
+    explain(values_, values_.barWidth, {barWidth_});
+    explain(values_, values_.normalApproximation, {normal_});
     addField(grid, 0, 0, QStringLiteral("&Grades Number:"), grades_);
     grid->addLayout(withUpDown(grades_, upDown), 0, 1);
     addField(grid, 1, 0, QStringLiteral("&Bar Width:"), barWidth_);
     grid->addWidget(barWidthText_, 1, 2);
     body()->addWidget(box);
     body()->addWidget(normal_);
+    connect(upDown, &CUpDown::aboutToMove, this, [this, upDown] {
+        const std::optional<int> typed = grades_->integer();
+        if (typed && !grades_->untouched()) {
+            upDown->setPosition(*typed);
+        }
+    });
     connect(upDown, &CUpDown::moved, this, [this](int grades) { grades_->setText(QString::number(grades)); });
     connect(barWidth_, &QSlider::valueChanged, this, &CHistDlg::showBarWidth);
     finish(grades_);

@@ -10,6 +10,7 @@
 #include "model/Text.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 #include "ui/dialogs/NumberFields.h"
 
 namespace vorlan {
@@ -30,6 +31,9 @@ CMeanVelDlg::CMeanVelDlg(const MeanVelocitySettings& settings, std::optional<dou
     value_ = new NumberField(box);
     value_->setNumber(settings.value);
     value_->setEnabled(settings.mode == kUserMode);
+    box->setToolTip(fieldTip("Velocity that carries the turbulence past the probe, by which times become lengths"));
+    value_->setToolTip(
+        fieldTip("Convective velocity", "cm/s", {MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum}));
     auto* grid = new QGridLayout(box);
     grid->addWidget(mode_->button(0), 0, 0);
     grid->addWidget(average, 0, 1);

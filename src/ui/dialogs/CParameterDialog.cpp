@@ -5,13 +5,20 @@
 #include <QVBoxLayout>
 
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FittedScrollArea.h"
 
 namespace vorlan {
 
 CParameterDialog::CParameterDialog(const QString& title, QWidget* parent)
-    : QDialog(parent), body_(new QVBoxLayout(this)) {
+    : QDialog(parent), rows_(new QVBoxLayout(this)) {
     setWindowTitle(title);
-    body_->setSizeConstraint(QLayout::SetFixedSize);
+    rows_->setSizeConstraint(QLayout::SetFixedSize);
+    auto* fields = new QWidget(this);
+    body_ = new QVBoxLayout(fields);
+    body_->setContentsMargins(0, 0, 0, 0);
+    // On a small screen the fields scroll, and the buttons stay in sight.
+    constexpr QSize kButtonsAndFrame(40, 120);
+    rows_->addWidget(new FittedScrollArea(fields, kButtonsAndFrame, this));
     // Room for the whole title, which is often bold, beside the icon and the buttons of the window.
     constexpr int kTitleButtons = 120;
     QFont titleFont = font();
@@ -28,7 +35,7 @@ void CParameterDialog::finish(QWidget* firstField) {
     buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::accepted, this, &CParameterDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &CParameterDialog::reject);
-    body_->addWidget(buttons);
+    rows_->addWidget(buttons);
     firstField->setFocus();
 }
 

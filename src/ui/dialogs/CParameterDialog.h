@@ -31,6 +31,7 @@ class CParameterDialog : public QDialog {
     const MessageFunction& messageFunction() const { return show_; }
 
   private:
+    QVBoxLayout* rows_;
     QVBoxLayout* body_;
     MessageFunction show_ = showDialogMessage;
 };

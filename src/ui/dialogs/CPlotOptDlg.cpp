@@ -16,6 +16,7 @@
 #include "plot/QtText.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 #include "ui/dialogs/FontConversion.h"
 #include "ui/dialogs/RawText.h"
 
@@ -23,8 +24,6 @@ namespace vorlan {
 
 namespace {
 
-constexpr int kLargestCount = 32767;
-constexpr int kLargestDigits = 9;
 constexpr int kLargestPreview = 24;  // pixels
 
 enum FontRow { kPlotTitleFont, kAxisTitleFont, kLabelFont, kLegendFont };
@@ -186,16 +185,16 @@ bool CPlotOptDlg::takeFields(FieldReader& reader) {
     yMax_.read(reader, read.yMax, read.yMaxMode);
     xStep_.read(reader, read.xStep, read.xStepMode);
     yStep_.read(reader, read.yStep, read.yStepMode);
-    const auto count = [&reader](IntegerField* field, std::int32_t& into, int largest) {
+    const auto count = [&reader](IntegerField* field, std::int32_t& into, const Range& range) {
         if (!field->untouched()) {
-            reader.integer(field, into, 0, largest);
+            reader.integer(field, into, static_cast<int>(range.minimum), static_cast<int>(range.maximum));
         }
     };
-    count(tickSize_, read.tickSize, kLargestCount);
-    count(markSize_, read.markSize, kLargestCount);
-    count(ticksPerMark_, read.ticksPerMark, kLargestCount);
-    count(xDigits_, read.xDigits, kLargestDigits);
-    count(yDigits_, read.yDigits, kLargestDigits);
+    count(tickSize_, read.tickSize, kCounts);
+    count(markSize_, read.markSize, kCounts);
+    count(ticksPerMark_, read.ticksPerMark, kCounts);
+    count(xDigits_, read.xDigits, kDigits);
+    count(yDigits_, read.yDigits, kDigits);
     if (!reader.require(limitsRefusal(read), {{"xMin", xMin_.value}, {"yMin", yMin_.value}}, QMessageBox::Ok).good()) {
         return false;
     }

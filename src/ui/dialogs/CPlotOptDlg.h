@@ -4,6 +4,7 @@
 #include <span>
 
 #include "model/FrameAttributes.h"
+#include "model/SettingField.h"
 #include "plot/CScreenUtils.h"
 #include "ui/dialogs/CColorDlg.h"
 #include "ui/dialogs/CFontDlg.h"
@@ -47,6 +48,9 @@ class CPlotOptDlg : public CParameterDialog {
                 QWidget* parent = nullptr);
     const FrameAttributesType& values() const { return values_; }
 
+    static constexpr Range kCounts{0, 32767};  ///< of ticks and their lengths
+    static constexpr Range kDigits{0, 9};      ///< of the labels
+
     void setFontPicker(FontPicker pick) { pickFont_ = std::move(pick); }
     void setColourPicker(ColourPicker pick) { pickColour_ = std::move(pick); }
 
@@ -74,7 +78,7 @@ class CPlotOptDlg : public CParameterDialog {
     QWidget* gridBox();
     QWidget* legendBox();
     AutomaticValue addAutomatic(QGridLayout* grid, int row, int column, const QString& axis, double value, int mode,
-                                const std::optional<double>& drawn);
+                                const std::optional<double>& drawn, const char* meaning);
     IntegerField* newCount(int value);
     QLineEdit* newTitle(const std::string& text);
     void showFonts();

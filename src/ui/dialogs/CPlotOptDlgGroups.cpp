@@ -14,6 +14,7 @@
 
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/FieldLayout.h"
+#include "ui/dialogs/FieldTips.h"
 #include "ui/dialogs/NumberFields.h"
 
 namespace vorlan {
@@ -21,6 +22,8 @@ namespace vorlan {
 namespace {
 
 constexpr int kVisibleRows = 4;
+constexpr const char* kLimit = "Value at this end of the axis; not that of the other end";
+constexpr const char* kStep = "From one labelled mark to the next";
 
 // At least as high as four rows of text.
 void fitRows(QListWidget* list) {
@@ -61,7 +64,9 @@ QWidget* CPlotOptDlg::typeBox(std::span<const ScaleType> allowedScales) {
         }
     }
     fitRows(scale_);
+    scale_->setToolTip(fieldTip("Linear or logarithmic axes; the diagram allows these"));
     style_ = radioButtons({QStringLiteral("ordinar&y "), QStringLiteral("f&ull frame")}, values_.frameStyle, this);
+    box->setToolTip(fieldTip("Axes at the left and below only, or a frame around the diagram"));
     auto* styles = new QVBoxLayout;
     styles->addWidget(style_->button(0));
     styles->addWidget(style_->button(1));
@@ -73,7 +78,8 @@ QWidget* CPlotOptDlg::typeBox(std::span<const ScaleType> allowedScales) {
 }
 
 CPlotOptDlg::AutomaticValue CPlotOptDlg::addAutomatic(QGridLayout* grid, int row, int column, const QString& axis,
-                                                      double value, int mode, const std::optional<double>& drawn) {
+                                                      double value, int mode, const std::optional<double>& drawn,
+                                                      const char* meaning) {
     AutomaticValue controls;
     controls.automatic = new QCheckBox(axis, this);
     const bool isAutomatic = mode == 0;
@@ -82,6 +88,7 @@ CPlotOptDlg::AutomaticValue CPlotOptDlg::addAutomatic(QGridLayout* grid, int row
     controls.value = new NumberField(this);
     controls.value->setNumber(isAutomatic ? drawn.value_or(value) : value);
     controls.value->setCursorPosition(0);
+    controls.value->setToolTip(fieldTip(meaning, "in the units of the axis"));
     controls.value->setEnabled(!isAutomatic);
     connect(controls.automatic, &QCheckBox::toggled, controls.value, &QWidget::setDisabled);
     grid->addWidget(controls.automatic, row, column);
@@ -102,10 +109,10 @@ QWidget* CPlotOptDlg::limitsBox() {
     auto* maximum = new QLabel(QStringLiteral("M&aximum:"), this);
     grid->addWidget(minimum, 1, 0);
     grid->addWidget(maximum, 2, 0);
-    xMin_ = addAutomatic(grid, 1, 1, x, values_.xMin, values_.xMinMode, drawn_.xMin);
-    yMin_ = addAutomatic(grid, 1, 3, y, values_.yMin, values_.yMinMode, drawn_.yMin);
-    xMax_ = addAutomatic(grid, 2, 1, x, values_.xMax, values_.xMaxMode, drawn_.xMax);
-    yMax_ = addAutomatic(grid, 2, 3, y, values_.yMax, values_.yMaxMode, drawn_.yMax);
+    xMin_ = addAutomatic(grid, 1, 1, x, values_.xMin, values_.xMinMode, drawn_.xMin, kLimit);
+    yMin_ = addAutomatic(grid, 1, 3, y, values_.yMin, values_.yMinMode, drawn_.yMin, kLimit);
+    xMax_ = addAutomatic(grid, 2, 1, x, values_.xMax, values_.xMaxMode, drawn_.xMax, kLimit);
+    yMax_ = addAutomatic(grid, 2, 3, y, values_.yMax, values_.yMaxMode, drawn_.yMax, kLimit);
     minimum->setBuddy(xMin_.automatic);
     maximum->setBuddy(xMax_.automatic);
     grid->setColumnStretch(0, 1);
@@ -115,8 +122,8 @@ QWidget* CPlotOptDlg::limitsBox() {
 QWidget* CPlotOptDlg::stepBox() {
     auto* box = new QGroupBox(QStringLiteral("Mark Step:"), this);
     auto* grid = new QGridLayout(box);
-    xStep_ = addAutomatic(grid, 0, 1, QStringLiteral("     X"), values_.xStep, values_.xStepMode, drawn_.xStep);
-    yStep_ = addAutomatic(grid, 0, 3, QStringLiteral("     Y"), values_.yStep, values_.yStepMode, drawn_.yStep);
+    xStep_ = addAutomatic(grid, 0, 1, QStringLiteral("     X"), values_.xStep, values_.xStepMode, drawn_.xStep, kStep);
+    yStep_ = addAutomatic(grid, 0, 3, QStringLiteral("     Y"), values_.yStep, values_.yStepMode, drawn_.yStep, kStep);
     // The columns stand under those of the limits.
     const int width = QLabel(QStringLiteral("Automatic")).sizeHint().width();
     grid->setColumnMinimumWidth(1, width);
@@ -131,6 +138,8 @@ QWidget* CPlotOptDlg::titlesBox() {
     plotTitle_ = newTitle(values_.plotTitle);
     xTitle_ = newTitle(values_.xTitle);
     yTitle_ = newTitle(values_.yTitle);
+    explain(fieldTip("Title above the diagram"), {plotTitle_});
+    explain(fieldTip("Title of the axis"), {xTitle_, yTitle_});
     addField(grid, 0, 0, QStringLiteral("&Plot"), plotTitle_);
     addField(grid, 1, 0, QStringLiteral("&X-Axis"), xTitle_);
     addField(grid, 2, 0, QStringLiteral("&Y-Axis"), yTitle_);
@@ -146,6 +155,10 @@ QWidget* CPlotOptDlg::ticksBox() {
     orientation_ = new QComboBox(this);
     addCodes(orientation_, {{QStringLiteral("X Up - Y Right"), 0}, {QStringLiteral("X Down - Y Left"), 1}},
              values_.tickOrientation);
+    explain(fieldTip("Length of the strokes between the marks", "pixels", kCounts), {tickSize_});
+    explain(fieldTip("Length of the strokes that have a label", "pixels", kCounts), {markSize_});
+    explain(fieldTip("Ticks between two marks", "", kCounts), {ticksPerMark_});
+    explain(fieldTip("Strokes into the diagram or out of it"), {orientation_});
     addField(grid, 0, 0, QStringLiteral("&Ticks"), tickSize_);
     addField(grid, 0, 2, QStringLiteral("&Marks"), markSize_);
     addField(grid, 1, 0, QStringLiteral("Ticks &per mark"), ticksPerMark_);
@@ -162,6 +175,7 @@ QWidget* CPlotOptDlg::digitsBox() {
     auto* grid = new QGridLayout(box);
     xDigits_ = newCount(values_.xDigits);
     yDigits_ = newCount(values_.yDigits);
+    explain(fieldTip("Decimals of the numbers at the axis", "", kDigits), {xDigits_, yDigits_});
     addField(grid, 0, 0, QStringLiteral("X - Axis"), xDigits_);
     addField(grid, 0, 2, QStringLiteral("Y - Axis"), yDigits_);
     grid->setColumnStretch(0, 1);
@@ -175,7 +189,9 @@ QWidget* CPlotOptDlg::fontsBox() {
                       QStringLiteral("Legend")});
     fonts_->setCurrentRow(0);
     fitRows(fonts_);
+    fonts_->setToolTip(fieldTip("The letters whose font is chosen"));
     auto* button = new QPushButton(QStringLiteral("&Font..."), this);
+    button->setToolTip(fieldTip("Choose the font of the marked letters"));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, &CPlotOptDlg::chooseFont);
     fontText_ = new QLabel(this);
@@ -204,6 +220,8 @@ QWidget* CPlotOptDlg::gridBox() {
     colour_ = new QPushButton(QStringLiteral("&Color..."), this);
     colour_->setAutoDefault(false);
     connect(colour_, &QPushButton::clicked, this, &CPlotOptDlg::chooseColour);
+    explain(fieldTip("Lines across the diagram"), {gridOnTicks_, gridOnMarks_, lineStyle_});
+    explain(fieldTip("Choose the colour of the lines"), {colour_});
     grid->addWidget(gridOnTicks_, 0, 0);
     grid->addWidget(gridOnMarks_, 0, 1);
     addField(grid, 1, 0, QStringLiteral("&Line Style:"), lineStyle_);
@@ -220,6 +238,8 @@ QWidget* CPlotOptDlg::legendBox() {
     addCodes(legendPosition_,
              {{QStringLiteral("Bottom"), 0}, {QStringLiteral("Right Top"), 1}, {QStringLiteral("No Legend"), 2}},
              values_.legendPosition);
+    explain(fieldTip("Title of the legend"), {legendTitle_});
+    explain(fieldTip("Where the names of the series stand"), {legendPosition_});
     addField(grid, 0, 0, QStringLiteral("&Title"), legendTitle_);
     addField(grid, 1, 0, QStringLiteral("Positio&n:"), legendPosition_);
     grid->setColumnStretch(1, 1);

@@ -7,6 +7,7 @@
 
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -38,6 +39,8 @@ QWidget* CQuadrDlg::holeBox() {
     addField(grid, 0, 0, QStringLiteral("&Hole Size Increment:"), increment_, noUnit);
     addField(grid, 1, 0, QStringLiteral("Hole Size &Maximum Value:"), maximum_, noUnit);
     reserveUnit(grid, QStringLiteral("s"));
+    explain(values_, values_.increment, {increment_});
+    explain(values_, values_.maximum, {maximum_});
     return box;
 }
 
@@ -51,6 +54,9 @@ QWidget* CQuadrDlg::averagingBox() {
     addField(grid, 1, 0, QStringLiteral("&Sweep:"), sweep_);
     addField(grid, 2, 0, QStringLiteral("Maximum Time &Lag:"), lag_, QStringLiteral("s"));
     reserveUnit(grid, QStringLiteral("s"));
+    explain(values_, values_.ejectionThreshold, {ejection_});
+    explain(values_, values_.sweepThreshold, {sweep_});
+    explain(values_, values_.maximumLag, {lag_});
     return box;
 }
 
@@ -60,6 +66,7 @@ QWidget* CQuadrDlg::stressBox() {
                       QStringLiteral("&v'w' (transverse-vertical)")},
                      values_.stressType, this);
     QGroupBox* box = radioBox(QStringLiteral("Stress"), stress_);
+    explain(values_, values_.stressType, {box});
     auto* column = qobject_cast<QVBoxLayout*>(box->layout());
     column->addWidget(new QLabel(QStringLiteral("1,3 - interactions"), this));
     column->addWidget(new QLabel(QStringLiteral("2 - ejection, 4 - sweep"), this));

@@ -10,10 +10,13 @@
 #include "ui/dialogs/CUpDown.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 #include "ui/dialogs/NumberText.h"
 #include "ui/dialogs/RawText.h"
 
 namespace vorlan {
+
+using namespace simulation_range;
 
 namespace {
 
@@ -57,11 +60,12 @@ CSimulateDlg::~CSimulateDlg() {
     harmonicCount_->disconnect(this);
 }
 
-NumberField* CSimulateDlg::addNumber(QGridLayout* grid, int row, const QString& text, double value,
-                                     const QString& unit) {
+NumberField* CSimulateDlg::addNumber(QGridLayout* grid, int row, const QString& text, double value, const char* unit,
+                                     const char* meaning, const Range& range) {
     auto* field = new NumberField(this);
     field->setNumber(value);
-    addField(grid, row, 0, text, field, unit);
+    field->setToolTip(fieldTip(meaning, unit, range));
+    addField(grid, row, 0, text, field, QString::fromLatin1(unit));
     return field;
 }
 
@@ -71,12 +75,15 @@ QWidget* CSimulateDlg::recordBox() {
     fileName_ = new QLineEdit(displayText(values_.fileName), this);
     addField(grid, 0, 0, QStringLiteral("&File Name:"), fileName_);
     grid->addWidget(fileName_, 0, 1, 1, 2);
-    interval_ =
-        addNumber(grid, 1, QStringLiteral("&Sampling Interval:"), values_.samplingInterval, QStringLiteral("s"));
-    length_ = addNumber(grid, 2, QStringLiteral("Time Series &Length:"), values_.length, QStringLiteral("s"));
-    correlation_ = addNumber(grid, 3, QStringLiteral("&Correlation Value:"), values_.correlation, QStringLiteral("%"));
-    signalToNoise_ =
-        addNumber(grid, 4, QStringLiteral("Signal to Noise &Ratio:"), values_.signalToNoise, QStringLiteral("dB"));
+    fileName_->setToolTip(fieldTip("Name of the data file that is made"));
+    interval_ = addNumber(grid, 1, QStringLiteral("&Sampling Interval:"), values_.samplingInterval, "s",
+                          "Time from sample to sample", kInterval);
+    length_ = addNumber(grid, 2, QStringLiteral("Time Series &Length:"), values_.length, "s",
+                        "Length of the record: at least two samples", kLength);
+    correlation_ = addNumber(grid, 3, QStringLiteral("&Correlation Value:"), values_.correlation, "%",
+                             "Mean correlation score of the beams", kCorrelation);
+    signalToNoise_ = addNumber(grid, 4, QStringLiteral("Signal to Noise &Ratio:"), values_.signalToNoise, "dB",
+                               "Mean signal to noise ratio of the beams", kSignalToNoise);
     reserveUnit(grid, QStringLiteral("deg"));
     return box;
 }
@@ -87,10 +94,13 @@ QWidget* CSimulateDlg::compassBox() {
     compass_ = new QCheckBox(QStringLiteral("C&ompass and Tilt:"), this);
     compass_->setChecked(values_.compass);
     grid->addWidget(compass_, 0, 0, 1, 3);
-    const QString degrees = QStringLiteral("deg");
-    heading_ = addNumber(grid, 1, QStringLiteral("H&eading:"), values_.heading, degrees);
-    pitch_ = addNumber(grid, 2, QStringLiteral("P&itch:"), values_.pitch, degrees);
-    roll_ = addNumber(grid, 3, QStringLiteral("&Roll:"), values_.roll, degrees);
+    compass_->setToolTip(fieldTip("The record gets a compass with the angles below"));
+    heading_ = addNumber(grid, 1, QStringLiteral("H&eading:"), values_.heading, "deg",
+                         "Mean heading; every sample lies around it", kHeading);
+    pitch_ = addNumber(grid, 2, QStringLiteral("P&itch:"), values_.pitch, "deg",
+                       "Mean pitch; every sample lies around it", kTilt);
+    roll_ = addNumber(grid, 3, QStringLiteral("&Roll:"), values_.roll, "deg", "Mean roll; every sample lies around it",
+                      kTilt);
     reserveUnit(grid, QStringLiteral("deg"));
     for (NumberField* field : {heading_, pitch_, roll_}) {
         field->setEnabled(values_.compass);
@@ -105,27 +115,32 @@ QWidget* CSimulateDlg::componentBox() {
     componentList_ = new QComboBox(this);
     componentList_->addItems({QStringLiteral("U"), QStringLiteral("V"), QStringLiteral("W")});
     addField(grid, 0, 0, QStringLiteral("Componen&t:"), componentList_);
-    const QString speed = QStringLiteral("cm/s");
-    meanVelocity_ = addNumber(grid, 1, QStringLiteral("&Mean Velocities:"), 0.0, speed);
+    componentList_->setToolTip(fieldTip("The component whose values are shown here"));
+    meanVelocity_ =
+        addNumber(grid, 1, QStringLiteral("&Mean Velocities:"), 0.0, "cm/s", "Mean of the component", kVelocity);
     whiteNoise_ = new QCheckBox(QStringLiteral("&White Noise:"), this);
     whiteNoise_->setChecked(values_.whiteNoise);
     grid->addWidget(whiteNoise_, 2, 0, 1, 3);
-    noiseMean_ = addNumber(grid, 3, QStringLiteral("Mea&n:"), 0.0, speed);
-    noiseVariance_ = addNumber(grid, 4, QStringLiteral("&Variance:"), 0.0, QStringLiteral("(cm/s)^2"));
+    whiteNoise_->setToolTip(fieldTip("Adds normally distributed noise to all components"));
+    noiseMean_ = addNumber(grid, 3, QStringLiteral("Mea&n:"), 0.0, "cm/s", "Mean of the noise", kVelocity);
+    noiseVariance_ = addNumber(grid, 4, QStringLiteral("&Variance:"), 0.0, "(cm/s)^2",
+                               "Strength of the noise; used as its standard deviation", {});
     for (NumberField* field : {noiseMean_, noiseVariance_}) {
         field->setEnabled(values_.whiteNoise);
         connect(whiteNoise_, &QCheckBox::toggled, field, &QWidget::setEnabled);
     }
     harmonicCount_ = new IntegerField(this);
     harmonicCount_->setInteger(values_.harmonicCount);
+    harmonicCount_->setToolTip(fieldTip("Number of waves of every component", "", kHarmonics));
     addField(grid, 5, 0, QStringLiteral("&Harmonics Number:"), harmonicCount_);
     harmonicText_ = new QLabel(this);
     harmonicUpDown_ = new CUpDown(1, values_.harmonicCount, nullptr, this);
+    harmonicUpDown_->setToolTip(fieldTip("The wave whose values are shown below"));
     grid->addWidget(harmonicText_, 6, 0);
     grid->addWidget(harmonicUpDown_, 6, 1);
-    amplitude_ = addNumber(grid, 7, QStringLiteral("&Amplitude:"), 0.0, speed);
-    period_ = addNumber(grid, 8, QStringLiteral("Perio&d:"), 0.0, QStringLiteral("s"));
-    phase_ = addNumber(grid, 9, QStringLiteral("&Phase:"), 0.0, QStringLiteral("deg"));
+    amplitude_ = addNumber(grid, 7, QStringLiteral("&Amplitude:"), 0.0, "cm/s", "Amplitude of the wave", kAmplitude);
+    period_ = addNumber(grid, 8, QStringLiteral("Perio&d:"), 0.0, "s", "Period of the wave", kPeriod);
+    phase_ = addNumber(grid, 9, QStringLiteral("&Phase:"), 0.0, "deg", "Phase of the wave at the start", kPhase);
     reserveUnit(grid, QStringLiteral("(cm/s)^2"));
     return box;
 }
@@ -185,7 +200,7 @@ void CSimulateDlg::chooseHarmonic(int number) {
 
 void CSimulateDlg::limitHarmonics() {
     const std::optional<int> count = harmonicCount_->integer();
-    if (!count || !simulation_range::kHarmonics.holds(*count)) {
+    if (!count || !kHarmonics.holds(*count)) {
         return;
     }
     harmonicUpDown_->setRange(1, *count);
@@ -209,7 +224,6 @@ bool CSimulateDlg::takeFields(FieldReader& reader) {
     read.compass = compass_->isChecked();
     read.whiteNoise = whiteNoise_->isChecked();
 
-    using namespace simulation_range;
     inRange(reader, interval_, read.samplingInterval, kInterval);
     inRange(reader, length_, read.length, kLength);
     inRange(reader, correlation_, read.correlation, kCorrelation);

@@ -32,7 +32,8 @@ class CSimulateDlg : public CParameterDialog {
     QWidget* recordBox();
     QWidget* compassBox();
     QWidget* componentBox();
-    NumberField* addNumber(QGridLayout* grid, int row, const QString& text, double value, const QString& unit);
+    NumberField* addNumber(QGridLayout* grid, int row, const QString& text, double value, const char* unit,
+                           const char* meaning, const Range& range);
     void showExact();
     void showComponent();
     void showHarmonic();

@@ -10,6 +10,7 @@
 #include "ui/dialogs/CUpDown.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -24,8 +25,12 @@ CSpAnalDlg::CSpAnalDlg(const SpectralSettings& settings, QWidget* parent)
                            settings.windowButton, this);
     unit_ = radioButtons({QStringLiteral("Ra&d/s"), QStringLiteral("&Hz")}, settings.unitButton, this);
     auto* top = new QHBoxLayout;
-    top->addWidget(radioBox(QStringLiteral("Lag Window"), window_), 1);
-    top->addWidget(radioBox(QStringLiteral("Frequency Units"), unit_), 1);
+    QGroupBox* windows = radioBox(QStringLiteral("Lag Window"), window_);
+    QGroupBox* units = radioBox(QStringLiteral("Frequency Units"), unit_);
+    explain<SpectralSettings>(values_, values_.windowButton, {windows});
+    explain<SpectralSettings>(values_, values_.unitButton, {units});
+    top->addWidget(windows, 1);
+    top->addWidget(units, 1);
     body()->addLayout(top);
     body()->addWidget(truncationBox());
     finish(firstStop(window_));
@@ -44,6 +49,9 @@ QWidget* CSpAnalDlg::truncationBox() {
     mode_->addButton(lagsButton, SpectralSettings::kLagsMode);
     (values_.truncationMode == SpectralSettings::kLagsMode ? lagsButton : percentButton)->setChecked(true);
 
+    explain<SpectralSettings>(values_, values_.truncationMode, {percentButton, lagsButton});
+    explain<SpectralSettings>(values_, values_.percent, {percent_});
+    explain<SpectralSettings>(values_, values_.lags, {lags_, lagsUpDown_});
     const Range range = fieldOf<SpectralSettings>(values_, values_.percent).range;
     percent_->setRange(static_cast<int>(range.minimum), static_cast<int>(range.maximum));
     percent_->setPageStep(5);

@@ -7,6 +7,7 @@
 
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -19,7 +20,10 @@ CStatDlg::CStatDlg(const StationaritySettings& settings, QWidget* parent)
     auto* grid = new QGridLayout;
     addField(grid, 0, 0, QStringLiteral("&Number of Bands"), bands_);
     grid->setColumnStretch(0, 1);
-    body()->addWidget(radioBox(QStringLiteral("Band Width"), mode_));
+    QGroupBox* modes = radioBox(QStringLiteral("Band Width"), mode_);
+    explain(values_, values_.mode, {modes});
+    explain(values_, values_.bands, {bands_});
+    body()->addWidget(modes);
     body()->addLayout(grid);
     finish(firstStop(mode_));
 }

@@ -7,6 +7,7 @@
 
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
+#include "ui/dialogs/FieldTips.h"
 
 namespace vorlan {
 
@@ -18,13 +19,13 @@ CVectorsDlg::CVectorsDlg(const VectorSettings& settings, QWidget* parent)
     auto* scale = new QGroupBox(QStringLiteral("Scale of Mean Velocity :"), this);
     pixels_ = new IntegerField(this);
     pixels_->setInteger(settings.pixels);
-    pixels_->setToolTip(QStringLiteral("Length of an arrow of the given velocity, pixels above 0"));
     speed_ = new NumberField(this);
     speed_->setNumber(settings.speed);
-    speed_->setToolTip(QStringLiteral("Velocity whose arrow has the given length, cm/s above 0"));
     smaller_ = new NumberField(this);
     smaller_->setNumber(settings.smaller);
-    smaller_->setToolTip(QStringLiteral("Arrows of minima and maxima are drawn so many times smaller, above 0"));
+    explain(values_, values_.pixels, {pixels_});
+    explain(values_, values_.speed, {speed_});
+    explain(values_, values_.smaller, {smaller_});
 
     const auto row = [this](std::initializer_list<QWidget*> parts) {
         auto* line = new QHBoxLayout;
@@ -36,7 +37,9 @@ CVectorsDlg::CVectorsDlg(const VectorSettings& settings, QWidget* parent)
     };
     scale->setLayout(row(
         {pixels_, new QLabel(QStringLiteral("pixels are"), this), speed_, new QLabel(QStringLiteral("cm/s"), this)}));
-    body()->addWidget(radioBox(QStringLiteral("Plane:"), plane_));
+    QGroupBox* planes = radioBox(QStringLiteral("Plane:"), plane_);
+    explain(values_, values_.plane, {planes});
+    body()->addWidget(planes);
     body()->addWidget(scale);
     body()->addLayout(row({new QLabel(QStringLiteral("Scale of Min and Max Velocities is "), this), smaller_,
                            new QLabel(QStringLiteral("times smaller than Mean"), this)}));

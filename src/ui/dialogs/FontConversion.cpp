@@ -1,11 +1,26 @@
 #include "ui/dialogs/FontConversion.h"
 
-#include <QFontInfo>
 #include <QStringList>
+#include <cmath>
 
 #include "ui/dialogs/RawText.h"
 
 namespace vorlan {
+
+namespace {
+
+// Pixels of a screen with 96 dots per inch, as everywhere on paper.
+constexpr double kPointsPerPixel = 72.0 / 96.0;
+
+double pointSize(const QFont& font) {
+    return font.pointSizeF() > 0.0 ? font.pointSizeF() : font.pixelSize() * kPointsPerPixel;
+}
+
+}  // namespace
+
+double pointSize(const FontDescription& description) {
+    return description.pixelSize() * kPointsPerPixel;
+}
 
 QString fontText(const FontDescription& description) {
     constexpr int kBoldFrom = 600;
@@ -17,7 +32,7 @@ QString fontText(const FontDescription& description) {
         style.append(QStringLiteral("italic"));
     }
     const QString text =
-        QStringLiteral("%1, %2 px").arg(displayText(description.face()), QString::number(description.pixelSize()));
+        QStringLiteral("%1, %2 pt").arg(displayText(description.face()), QString::number(pointSize(description)));
     return style.isEmpty() ? text : text + QStringLiteral(", ") + style.join(QLatin1Char(' '));
 }
 
@@ -26,9 +41,8 @@ FontDescription pickedFont(const FontDescription& before, const QFont& opened, c
     if (picked.family() != opened.family()) {
         after.setFace(picked.family().toStdString());
     }
-    const int height = QFontInfo(picked).pixelSize();
-    if (height != QFontInfo(opened).pixelSize()) {
-        after.setHeight(-height);
+    if (pointSize(picked) != pointSize(opened)) {
+        after.setHeight(-static_cast<int>(std::lround(pointSize(picked) / kPointsPerPixel)));
     }
     if (picked.weight() != opened.weight()) {
         after.setWeight(picked.weight());

@@ -6,7 +6,10 @@
 
 namespace vorlan {
 
-/// Face, size and style in words: "ARIAL, 12 px, bold italic".
+/// Height of the letters in points of a screen with 96 dots per inch.
+double pointSize(const FontDescription& description);
+
+/// Face, size and style in words: "ARIAL, 9 pt, bold italic".
 QString fontText(const FontDescription& description);
 
 /// The description after the user has picked a font in a dialog that opened on another one. Only what the user

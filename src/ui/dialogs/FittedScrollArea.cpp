@@ -1,0 +1,40 @@
+#include "ui/dialogs/FittedScrollArea.h"
+
+#include <QEvent>
+#include <QScreen>
+#include <QScrollBar>
+
+namespace vorlan {
+
+FittedScrollArea::FittedScrollArea(QWidget* content, QSize beside, QWidget* parent)
+    : QScrollArea(parent), beside_(beside) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(content);
+    // The window behind shows through.
+    content->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+}
+
+QSize FittedScrollArea::sizeHint() const {
+    const QSize whole = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+    const QSize room = screen()->availableSize() - beside_;
+    QSize shown = whole;
+    if (whole.height() > room.height()) {
+        shown.rwidth() += verticalScrollBar()->sizeHint().width();
+    }
+    if (shown.width() > room.width()) {
+        shown.rheight() += horizontalScrollBar()->sizeHint().height();
+    }
+    return shown.boundedTo(room);
+}
+
+bool FittedScrollArea::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+}  // namespace vorlan
