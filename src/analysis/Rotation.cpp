@@ -48,7 +48,13 @@ void rotateProbe(SAdvProbe& probe, double heading, double pitch, double roll, Pr
 
 void changeCoordinateSystem(SAdvProbe& probe, const RotationSettings& settings, Progress& progress) {
     progress.status("Coordinate rotation calculations: ");
+    const SAdvProbe before = probe;
     probe.SetPosition(settings.position);
+    // A coordinate that is kept is not stored again: that could cost its last digit.
+    const std::array<double, 3> shown = before.Position();
+    probe.samplingVolumeX = settings.position[0] == shown[0] ? before.samplingVolumeX : probe.samplingVolumeX;
+    probe.samplingVolumeY = settings.position[1] == shown[1] ? before.samplingVolumeY : probe.samplingVolumeY;
+    probe.samplingVolumeZ = settings.position[2] == shown[2] ? before.samplingVolumeZ : probe.samplingVolumeZ;
     rotateProbe(probe, settings.heading, settings.pitch, settings.roll, progress);
     formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, kTitle);

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "app/CVorl_ADVDoc.h"
+#include "app/CommandReports.h"
 #include "io/WorkspaceFile.h"
 #include "model/Text.h"
 
@@ -18,6 +19,10 @@ fs::path storedPath(const fs::path& path) {
     std::error_code error;
     const fs::path followed = stepsUp ? fs::weakly_canonical(whole, error) : fs::path();
     return stepsUp && !error ? followed : whole.lexically_normal();
+}
+
+std::string fileText(const fs::path& path) {
+    return utf8Text(path.filename().string());
 }
 
 SBndFile boundaryAt(const fs::path& path) {
@@ -67,16 +72,17 @@ Outcome CVorl_ADVDoc::WriteBoundaryFile(const SBndFile& boundary) {
     return outcome;
 }
 
-Outcome CVorl_ADVDoc::ChangeGrid(const std::function<Outcome()>& change) {
+Outcome CVorl_ADVDoc::ChangeGrid(const std::string& sentence, const std::function<Outcome()>& change) {
     if (running_) {
         return Outcome::Refused;
     }
+    Outcome outcome = Outcome::Refused;
     try {
-        return change();
+        outcome = change();
     } catch (const InvalidArgument& error) {
         port_->refuse(error.what());
-        return Outcome::Refused;
     }
+    return Report(outcome, [&] { return sentence; });
 }
 
 void CVorl_ADVDoc::WriteBoundaries(const char* command, SBndSet boundaries) {
@@ -85,7 +91,7 @@ void CVorl_ADVDoc::WriteBoundaries(const char* command, SBndSet boundaries) {
 }
 
 Outcome CVorl_ADVDoc::NewBoundary(const std::filesystem::path& path) {
-    return ChangeGrid([&] {
+    return ChangeGrid(fileText(path) + " written", [&] {
         const SBndFile boundary = boundaryAt(path);
         const Outcome outcome = WriteBoundaryFile(boundary);
         if (outcome == Outcome::Done) {
@@ -98,7 +104,7 @@ Outcome CVorl_ADVDoc::NewBoundary(const std::filesystem::path& path) {
 }
 
 Outcome CVorl_ADVDoc::OpenBoundary(const std::filesystem::path& path) {
-    return ChangeGrid([&] {
+    return ChangeGrid(fileText(path) + " read", [&] {
         SBndSet boundaries = workspace_.boundaries;
         const int known = BoundaryOfPath(path);
         // What the file alone holds; a boundary read again keeps its nodes beyond them.
@@ -131,7 +137,7 @@ Outcome CVorl_ADVDoc::OpenBoundary(const std::filesystem::path& path) {
 }
 
 Outcome CVorl_ADVDoc::SaveBoundary(int boundary, const std::filesystem::path& path) {
-    return ChangeGrid([&] {
+    return ChangeGrid(fileText(path) + " saved", [&] {
         SBndSet boundaries = workspace_.boundaries;
         SBndFile& saved = boundaries.ElementAt(boundary);
         const SBndFile before = saved;
@@ -147,7 +153,7 @@ Outcome CVorl_ADVDoc::SaveBoundary(int boundary, const std::filesystem::path& pa
 }
 
 Outcome CVorl_ADVDoc::CloseBoundary(int boundary) {
-    return ChangeGrid([&] {
+    return ChangeGrid("Boundary closed", [&] {
         SBndSet boundaries = workspace_.boundaries;
         const SBndFile& closed = boundaries.GetAt(boundary);
         if (!written_.holds(closed) && !port_->confirm(Question::CloseBoundary)) {
@@ -160,7 +166,7 @@ Outcome CVorl_ADVDoc::CloseBoundary(int boundary) {
 }
 
 Outcome CVorl_ADVDoc::InsertNode(int boundary, int node, const Position& position) {
-    return ChangeGrid([&] {
+    return ChangeGrid(formatted("Node %d added", node + 1), [&] {
         SBndSet boundaries = workspace_.boundaries;
         boundaries.ElementAt(boundary).InsertNode(node, position[0], position[1], position[2]);
         WriteBoundaries("Add Node", std::move(boundaries));
@@ -169,7 +175,7 @@ Outcome CVorl_ADVDoc::InsertNode(int boundary, int node, const Position& positio
 }
 
 Outcome CVorl_ADVDoc::SetNode(int boundary, int node, const PositionChange& position) {
-    return ChangeGrid([&] {
+    return ChangeGrid(formatted("Node %d moved", node + 1), [&] {
         SBndSet boundaries = workspace_.boundaries;
         SBndFile& changed = boundaries.ElementAt(boundary);
         for (std::size_t axis = 0; axis < position.size(); ++axis) {
@@ -184,7 +190,7 @@ Outcome CVorl_ADVDoc::SetNode(int boundary, int node, const PositionChange& posi
 }
 
 Outcome CVorl_ADVDoc::RemoveNode(int boundary, int node) {
-    return ChangeGrid([&] {
+    return ChangeGrid(formatted("Node %d removed", node + 1), [&] {
         SBndSet boundaries = workspace_.boundaries;
         boundaries.ElementAt(boundary).RemoveNode(node);
         WriteBoundaries("Remove Node", std::move(boundaries));
@@ -197,7 +203,7 @@ bool CVorl_ADVDoc::IsBoundaryWritten(int boundary) const {
 }
 
 Outcome CVorl_ADVDoc::PlaceProbe(int file, int probe, const PositionChange& position) {
-    return ChangeGrid([&] {
+    return ChangeGrid("Sampling volume moved", [&] {
         SAdvProbe placed = workspace_.dataFiles.files.GetAt(file).probes.GetAt(probe);
         double* const coordinates[] = {&placed.samplingVolumeX, &placed.samplingVolumeY, &placed.samplingVolumeZ};
         for (std::size_t axis = 0; axis < position.size(); ++axis) {
@@ -231,7 +237,7 @@ Outcome CVorl_ADVDoc::VectorsOfMeanVelocities(const VectorSettings& vectors) {
     patch.settings = settings;
     Write("Vectors of Mean Velocities", std::move(patch), {DoneOnActive(vectors)});
     Tell(Change::Content);
-    return Outcome::Done;
+    return Report(Outcome::Done, [&] { return vectorsReport(vectors); });
 }
 
 }  // namespace vorlan

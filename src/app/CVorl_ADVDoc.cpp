@@ -2,9 +2,11 @@
 
 #include <limits>
 
+#include "app/CommandReports.h"
 #include "app/RecomputeChain.h"
 #include "io/WorkspaceFile.h"
 #include "model/DefaultFrames.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -33,6 +35,10 @@ class RunningScope {
     DocumentPort& port_;
 };
 
+std::string fileNameText(const std::filesystem::path& path) {
+    return utf8Text(path.filename().string());
+}
+
 void setFrame(SFrameAtrArray& frames, int record, const FrameAttributesType& frame,
               const std::function<FrameAttributesType(int)>& defaultOf) {
     for (int i = frames.GetSize(); i < record; ++i) {
@@ -43,6 +49,15 @@ void setFrame(SFrameAtrArray& frames, int record, const FrameAttributesType& fra
 
 }  // namespace
 
+Outcome CVorl_ADVDoc::Report(Outcome outcome, const Sentence& sentence) const {
+    if (!running_) {
+        port_->report(outcome == Outcome::Done        ? sentence()
+                      : outcome == Outcome::Cancelled ? kCancelledReport
+                                                      : kRefusedReport);
+    }
+    return outcome;
+}
+
 void CVorl_ADVDoc::Tell(Change change) const {
     if (listener_) {
         listener_(change);
@@ -52,6 +67,7 @@ void CVorl_ADVDoc::Tell(Change change) const {
 void CVorl_ADVDoc::NewWorkspace() {
     Replace(Workspace(), {}, std::nullopt);
     Tell(Change::Content);
+    port_->report("Empty workspace");
 }
 
 void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
@@ -60,6 +76,7 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
     Workspace fresh = vorlan::openWorkspace(path);
     Replace(std::move(fresh), path, stamp);
     Tell(Change::Content);
+    port_->report(fileNameText(path) + " opened");
 }
 
 void CVorl_ADVDoc::RecoverWorkspace(const std::filesystem::path& copy, const std::filesystem::path& path) {
@@ -83,6 +100,7 @@ void CVorl_ADVDoc::SaveWorkspace(const std::filesystem::path& path) {
     stamp_ = fileStampOf(path);
     savedState_ = history_.State();
     Tell(Change::View);
+    port_->report(fileNameText(path) + " saved");
 }
 
 bool CVorl_ADVDoc::IsChangedOnDisk() const {
@@ -91,9 +109,13 @@ bool CVorl_ADVDoc::IsChangedOnDisk() const {
 }
 
 void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch, DoneCommands done) {
+    if (patch.IsIn(workspace_)) {
+        return;
+    }
+    const bool modifies = command != nullptr && !patch.OnlySelects(workspace_);
     patch.Exchange(workspace_);
     // The patch holds what was replaced now.
-    if (command != nullptr) {
+    if (modifies) {
         history_.Record(command, std::move(patch), std::move(done));
     } else {
         history_.RecordSelection(std::move(patch));
@@ -104,8 +126,10 @@ Outcome CVorl_ADVDoc::Undo() {
     if (running_ || UndoName() == nullptr) {
         return Outcome::Refused;
     }
+    const std::string name = UndoName();
     history_.Undo(workspace_);
     Tell(Change::Content);
+    port_->report("Taken back: " + name);
     return Outcome::Done;
 }
 
@@ -115,6 +139,7 @@ Outcome CVorl_ADVDoc::Redo() {
     }
     history_.Redo(workspace_);
     Tell(Change::Content);
+    port_->report(std::string("Done again: ") + UndoName());
     return Outcome::Done;
 }
 
@@ -223,10 +248,13 @@ void CVorl_ADVDoc::SetFrame(int group, int record, const FrameAttributesType& fr
         throw InvalidArgument();
     }
     SAdvProbe probe = Probe();
-    setFrame(probe.frameAttributes.at(static_cast<std::size_t>(group)), record, frame,
-             [group](int i) { return defaultFrame(group, i); });
-    Write(kFrameCommand, PatchOf(std::move(probe)));
-    Tell(Change::Content);
+    if (!(frameOrDefault(probe, group, record) == frame)) {
+        setFrame(probe.frameAttributes.at(static_cast<std::size_t>(group)), record, frame,
+                 [group](int i) { return defaultFrame(group, i); });
+        Write(kFrameCommand, PatchOf(std::move(probe)));
+        Tell(Change::Content);
+    }
+    port_->report(frameReport(ActivePane()));
 }
 
 void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
@@ -234,6 +262,7 @@ void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
     setFrame(frames, record, frame, defaultPlanFrame);
     Write(kFrameCommand, {.planFrames = std::move(frames)});
     Tell(Change::Content);
+    port_->report(frameReport(ActivePane()));
 }
 
 void CVorl_ADVDoc::Export(std::ostream& stream, ExportKind kind, ExportOptions options, bool all) const {

@@ -200,6 +200,8 @@ class CVorl_ADVDoc {
     using ProbeOperation = std::function<Outcome(SAdvProbe& copy, Progress& progress)>;
     /// Returns why it is refused, empty when done.
     using Analysis = std::function<std::string(SAdvProbe& copy, Progress& progress)>;
+    /// What a command has done, made when it is done.
+    using Sentence = std::function<std::string()>;
 
     /// A command on the active probe.
     struct ProbeCommand {
@@ -213,6 +215,7 @@ class CVorl_ADVDoc {
 
     /// The one way in which anything is written into the workspace. command names what the user did; without a name
     /// something was only selected, which does not count as a modification.
+    /// What the workspace holds already is no modification and nothing to take back, and neither is what only selects.
     void Write(const char* command, WorkspacePatch patch, DoneCommands done = {});
     /// The entry of the record for a command on a probe, or on the workspace as a whole.
     DoneCommand DoneOn(int file, int probe, GivenCommand given) const;
@@ -224,9 +227,11 @@ class CVorl_ADVDoc {
     /// the command's settings.
     Outcome RunOnProbe(const ProbeCommand& command, const ProbeOperation& operation);
     /// RunOnProbe for a change of the working series: change, then the change rule, then the probe's moments.
-    Outcome ChangeSeries(const ProbeCommand& command, const ProbeOperation& change);
+    Outcome ChangeSeries(const ProbeCommand& command, const ProbeOperation& change, const Sentence& sentence);
     /// RunOnProbe for an analysis; says why it is refused.
-    Outcome Analyse(const ProbeCommand& command, const Analysis& analysis);
+    Outcome Analyse(const ProbeCommand& command, const Analysis& analysis, const Sentence& sentence);
+    /// Tells the port how a command ended: done as the sentence says, or with nothing changed.
+    Outcome Report(Outcome outcome, const Sentence& sentence) const;
     /// The question that every change of the working series ends with; OK repeats the done stages on the copy.
     void ApplyChangeRule(SAdvProbe& copy, Progress& progress);
     /// Writes what a command made of the active probe, its settings and the stage that it enters.
@@ -239,7 +244,7 @@ class CVorl_ADVDoc {
     /// What is selected becomes what was selected before.
     static void TakeOverSelection(WorkspaceSettings& settings);
     /// Runs a change of the measuring grid; an index that is not there is refused.
-    Outcome ChangeGrid(const std::function<Outcome()>& change);
+    Outcome ChangeGrid(const std::string& sentence, const std::function<Outcome()>& change);
     Outcome AccessBoundaryFile(const std::function<void()>& access);
     Outcome WriteBoundaryFile(const SBndFile& boundary);
     void WriteBoundaries(const char* command, SBndSet boundaries);

@@ -44,6 +44,8 @@ class DocumentPort : public Progress {
     virtual bool retry(const std::string& text) = 0;
     /// The command is refused: a stop sign with OK.
     virtual void refuse(const std::string& text) = 0;
+    /// How a command ended, in a sentence, when all is done and shown. Who prints results needs none.
+    virtual void report(const std::string&) {}
 
     /// A calculation begins, or another part of the one that runs.
     virtual void beginRun(Calculation calculation) = 0;

@@ -1,6 +1,7 @@
 // The document's selection: data file, probe, stage, physical value, active view.
 #include "app/CVorl_ADVDoc.h"
 #include "model/StageTable.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -204,8 +205,9 @@ Outcome CVorl_ADVDoc::CloseFile() {
         return Outcome::Refused;
     }
     if (!port_->confirm(Question::CloseFile)) {
-        return Outcome::Cancelled;
+        return Report(Outcome::Cancelled, {});
     }
+    const std::string name = utf8Text(File().fileName);
     WorkspacePatch patch;
     WorkspaceSettings settings = Settings();
     patch.file = {ActiveFile(), std::nullopt};
@@ -226,7 +228,7 @@ Outcome CVorl_ADVDoc::CloseFile() {
     patch.settings = settings;
     Write("Close File", std::move(patch));
     Tell(Change::Content);
-    return Outcome::Done;
+    return Report(Outcome::Done, [&] { return name + " closed"; });
 }
 
 }  // namespace vorlan

@@ -1,13 +1,15 @@
 // The document's commands that are no stage of a probe: new records, the convective velocity, printed pages.
 #include "app/CVorl_ADVDoc.h"
+#include "app/CommandReports.h"
 #include "model/PageLayout.h"
 #include "model/StageTable.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
 Outcome CVorl_ADVDoc::SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed) {
     AppendFile(simulate(parameters, seed), "Simulate Time Series");
-    return Outcome::Done;
+    return Report(Outcome::Done, [&] { return simulationReport(File()); });
 }
 
 void CVorl_ADVDoc::AppendFile(SAdvFile file, const char* command) {
@@ -27,7 +29,7 @@ Outcome CVorl_ADVDoc::SetPage(Stage stage, const PageAtrType& page) {
     const Refusal refusal = refusalOf(page);
     if (!refusal.empty()) {
         port_->refuse(refusal.text);
-        return Outcome::Refused;
+        return Report(Outcome::Refused, {});
     }
     const int record = stageRow(stage).pageRecord;
     if (page != workspace_.pages.GetAt(record)) {
@@ -38,7 +40,7 @@ Outcome CVorl_ADVDoc::SetPage(Stage stage, const PageAtrType& page) {
                       PageGiven{stage, workspace_.pages.GetAt(record), page})});
         Tell(Change::View);
     }
-    return Outcome::Done;
+    return Report(Outcome::Done, [&] { return std::string("Page of ") + stageRow(stage).text + " set up"; });
 }
 
 Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& chosen) {
@@ -48,7 +50,10 @@ Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& chosen) {
     Write("Mean Velocity", {.settings = settings},
           {DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace, chosen)});
     Tell(Change::Content);
-    return Outcome::Done;
+    return Report(Outcome::Done, [&] {
+        return chosen.mode == 0 ? "Mean velocity: that of the record"
+                                : formatted("Mean velocity: %g cm/s", chosen.value);
+    });
 }
 
 MeanVelocitySettings CVorl_ADVDoc::GetMeanVelocity() const {

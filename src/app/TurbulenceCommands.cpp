@@ -21,7 +21,7 @@ Outcome CVorl_ADVDoc::ExtractDissipationRate(const DissipationReading& reading) 
     }
     const double offered = dissipationRate(reading, Probe(), Settings());
     if (!port_->accept(formatted("Accept the dissipation rate value = %f ?", offered))) {
-        return Outcome::Cancelled;
+        return Report(Outcome::Cancelled, {});
     }
     SAdvProbe copy = Probe();
     const double rate = dissipationRate(reading, copy, Settings());
@@ -41,10 +41,10 @@ Outcome CVorl_ADVDoc::ExtractScales(const ScalesReading& reading) {
         if (reading.source == ScalesSource::Spectrum) {
             port_->refuse(formatted("Wrong limits for integration %f  %f wrong", reading.from, reading.to));
         }
-        return Outcome::Refused;
+        return Report(Outcome::Refused, {});
     }
     if (!port_->accept(scalesQuestion(reading.source, integratedScales(reading.source, Probe(), range)))) {
-        return Outcome::Cancelled;
+        return Report(Outcome::Cancelled, {});
     }
     SAdvProbe copy = Probe();
     const bool timeScales = reading.source == ScalesSource::Correlation;

@@ -75,6 +75,35 @@ void WorkspacePatch::Exchange(Workspace& workspace) {
     exchange(pages, workspace.pages);
 }
 
+bool WorkspacePatch::IsIn(const Workspace& workspace) const {
+    const auto same = [](const auto& part, const auto& held) { return !part.has_value() || *part == held; };
+    return !file.has_value() && same(settings, workspace.settings) &&
+           same(planFrames, workspace.dataFiles.frameAttributes) && same(boundaries, workspace.boundaries) &&
+           same(pages, workspace.pages) && std::all_of(probes.begin(), probes.end(), [&](const ProbePart& part) {
+               return workspace.dataFiles.files.GetAt(part.file).probes.GetAt(part.probe) == part.value;
+           });
+}
+
+bool WorkspacePatch::OnlySelects(const Workspace& workspace) const {
+    WorkspacePatch rest = *this;
+    if (rest.settings.has_value()) {
+        const WorkspaceSettings& held = workspace.settings;
+        rest.settings->activeFile = held.activeFile;
+        rest.settings->activeProbe = held.activeProbe;
+        rest.settings->activeItem = held.activeItem;
+        rest.settings->previousFile = held.previousFile;
+        rest.settings->previousProbe = held.previousProbe;
+        rest.settings->previousItem = held.previousItem;
+        rest.settings->choiceA = held.choiceA;
+        rest.settings->choiceB = held.choiceB;
+        rest.settings->displaySwitch = held.displaySwitch;
+    }
+    for (ProbePart& part : rest.probes) {
+        part.value.SetSelectedTab(workspace.dataFiles.files.GetAt(part.file).probes.GetAt(part.probe).selectedTab);
+    }
+    return rest.IsIn(workspace);
+}
+
 void WorkspacePatch::Precede(WorkspacePatch later) {
     keepOlder(settings, later.settings);
     keepOlder(planFrames, later.planFrames);

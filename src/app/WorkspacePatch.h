@@ -35,6 +35,10 @@ struct WorkspacePatch {
     bool IsEmpty() const;
 
     void Exchange(Workspace& workspace);
+    /// True when the workspace holds all of it already.
+    bool IsIn(const Workspace& workspace) const;
+    /// True when it differs from the workspace in what is selected only.
+    bool OnlySelects(const Workspace& workspace) const;
     /// Two exchanged patches as one: this one was exchanged first, so its parts are the older ones and stay. later has
     /// no file part.
     void Precede(WorkspacePatch later);

@@ -118,6 +118,10 @@ void SAdvProbe::AgeResults() {
     for (const std::size_t part : kResultParts) {
         resultsAreOld[part] = resultsAreOld[part] || HasResults(part);
     }
+    for (std::size_t mark = 0; mark < stageDone.size(); ++mark) {
+        // The plans have no results of their own: they draw the record as it is.
+        stageIsOld[mark] = stageDone[mark] != 0 && mark != static_cast<std::size_t>(DoneMark::MeanVelocity);
+    }
 }
 
 STimeSeries& SAdvProbe::Series(int kind) {

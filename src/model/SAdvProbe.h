@@ -32,7 +32,13 @@ class SAdvProbe : public SObject {
     /// True when any stage after pre-processing has results.
     bool IsChanged() const;
     bool IsDone(DoneMark mark) const { return stageDone[static_cast<std::size_t>(mark)] != 0; }
-    void SetDone(DoneMark mark, bool done = true) { stageDone[static_cast<std::size_t>(mark)] = done ? 1U : 0U; }
+    void SetDone(DoneMark mark, bool done = true) {
+        stageDone[static_cast<std::size_t>(mark)] = done ? 1U : 0U;
+        stageIsOld[static_cast<std::size_t>(mark)] = false;
+    }
+    /// True when the working record has changed since the stage was run or repeated.
+    bool IsOld(DoneMark mark) const { return stageIsOld[static_cast<std::size_t>(mark)]; }
+    bool HasOldStage() const { return stageIsOld != decltype(stageIsOld){}; }
 
     void SetSelectedTab(int index) { selectedTab = index; }
 
@@ -154,7 +160,7 @@ class SAdvProbe : public SObject {
     bool ResultsAreOld(std::size_t part) const { return resultsAreOld[part]; }
     /// Accepts values into a part of resultBlock.
     void SetResults(std::size_t part, std::span<const double> values);
-    /// The working record has changed: what was read before stays, and is known to be old.
+    /// The working record has changed: what was computed and read before stays, and is known to be old.
     void AgeResults();
 
     std::uint32_t probeNumber = 1;
@@ -198,6 +204,8 @@ class SAdvProbe : public SObject {
     std::array<double, 7> resultBlock{};
     /// By the first index of each part of resultBlock. Not stored: known while the workspace is open.
     std::array<bool, 7> resultsAreOld{};
+    /// By done mark; not stored either.
+    std::array<bool, 6> stageIsOld{};
 
     friend bool operator==(const SAdvProbe&, const SAdvProbe&) = default;
 

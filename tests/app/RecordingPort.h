@@ -24,6 +24,7 @@ class RecordingPort : public DocumentPort {
         return beforeRetry ? beforeRetry() : false;
     }
     void refuse(const std::string& text) override { refusals.push_back(text); }
+    void report(const std::string& text) override { reports.push_back(text); }
     void beginRun(Calculation calculation) override { runs.push_back(calculation); }
     void endRun() override { ++ends; }
     void status(const std::string& text) override { statuses.push_back(text); }
@@ -42,6 +43,7 @@ class RecordingPort : public DocumentPort {
     std::vector<std::string> questions;
     std::vector<std::string> retryQuestions;
     std::vector<std::string> refusals;
+    std::vector<std::string> reports;
     std::vector<std::string> statuses;
     std::vector<int> positions;
     std::vector<Calculation> runs;

@@ -9,6 +9,7 @@
 #include "app/CommandState.h"
 #include "app/RecomputeChain.h"
 #include "io/FileError.h"
+#include "model/DefaultFrames.h"
 
 namespace vorlan {
 namespace {
@@ -87,6 +88,15 @@ TEST_F(Commands, OkRepeatsTheDoneStagesAndCancelKeepsTheirResults) {
     EXPECT_EQ(document.Probe().seriesU.correlation, analysed.seriesU.correlation);
     EXPECT_EQ(document.Probe().seriesU.bandMeans, analysed.seriesU.bandMeans);
     EXPECT_TRUE(document.Probe().IsDone(DoneMark::Spectral));
+    EXPECT_TRUE(document.Probe().IsOld(DoneMark::Spectral));
+    EXPECT_FALSE(document.Probe().IsOld(DoneMark::Histograms)) << "never run";
+    document.Undo();
+    EXPECT_FALSE(document.Probe().HasOldStage());
+    document.Redo();
+    EXPECT_TRUE(document.Probe().IsOld(DoneMark::Stationarity));
+    ASSERT_EQ(document.StationarityAnalysis({BandMode::Fixed, 5}), Outcome::Done);
+    EXPECT_FALSE(document.Probe().IsOld(DoneMark::Stationarity)) << "run again";
+    document.SelectStage(0);
 
     port.answer = true;
     ASSERT_EQ(document.ResetTimeSeries(), Outcome::Done);
@@ -100,6 +110,7 @@ TEST_F(Commands, OkRepeatsTheDoneStagesAndCancelKeepsTheirResults) {
     EXPECT_EQ(document.Probe().seriesU.spectrum, fresh.Probe().seriesU.spectrum);
     EXPECT_EQ(document.Probe().seriesV.bandKurtosis, fresh.Probe().seriesV.bandKurtosis);
     EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing) << "repeating selects no stage";
+    EXPECT_FALSE(document.Probe().HasOldStage());
 }
 
 TEST_F(Commands, AStageThatCannotBeRepeatedSaysSoOnceAndTheChainGoesOn) {
@@ -116,6 +127,76 @@ TEST_F(Commands, AStageThatCannotBeRepeatedSaysSoOnceAndTheChainGoesOn) {
     EXPECT_EQ(probe.seriesU.spectrum, analysed.seriesU.spectrum);
     EXPECT_EQ(probe.workTables[SAdvProbe::kCoSpectra], analysed.workTables[SAdvProbe::kCoSpectra]);
     EXPECT_NE(probe.stageTables[SAdvProbe::kTimes], analysed.stageTables[SAdvProbe::kTimes]) << "quadrants repeated";
+}
+
+TEST_F(Commands, EachSaysHowItEnded) {
+    EditingSettings editing;
+    editing.velocityTest = true;
+    FilterSettings filter{FilterShape::Gaussian, FilterType::HighPass, 2.5, 1.0};
+    FrameAttributesType frame = before.frameAttributes[0].GetAt(0);
+    frame.plotTitle = "Flume";
+    port.reports.clear();
+    document.Clip(1.0, 39.0);
+    document.StationarityAnalysis({BandMode::Cumulative, 5});
+    document.Distributions({});
+    document.SpectralAnalysis(lagsOf(50));
+    document.CrossSpectralAnalysis();
+    document.QuadrantsAnalysis({.maximumLag = 4.0});
+    document.VectorsOfMeanVelocities({1, 40, 5.0, 2.0});
+    port.answer = false;
+    document.EditTimeSeries(editing);
+    document.FilterTimeSeries(filter);
+    document.ChangeCoordinateSystem({.heading = 90.0, .position = {1.0, 0.5, 0.0}});
+    port.answer = true;
+    document.ResetTimeSeries();
+    document.Undo();
+    document.Redo();
+    document.SetFrame(0, 0, frame);
+    document.SetMeanVelocity({1, 12.5});
+    document.SetPage(Stage::Spectral, document.GetWorkspace().pages.GetAt(3));
+    document.Clip(-1.0, 2.0);
+    port.pumpsLeft = 0;
+    document.SpectralAnalysis(lagsOf(50));
+    document.SimulateTimeSeries(sampleParameters(8.0), 7);
+    document.CloseFile();
+    const std::string earlier = ". Earlier results are of the record before";
+    EXPECT_EQ(port.reports, (std::vector<std::string>{
+                                "Kept 1.00 s to 39.00 s, 950 samples",
+                                "Stationarity: 5 bands, cumulative",
+                                "Histograms: 20 grades",
+                                "Spectra: 50 lags (2 s), Tukey, Hz",
+                                "Cross-spectra: 50 lags (2 s), Tukey, Hz",
+                                "Quadrants: u'w', hole sizes to 20 by 0.2, patterns to 4 s",
+                                "Mean velocities in the plane XZ: 5 cm/s is 40 pixels long",
+                                "Velocity: 99.93 % kept   Bad samples interpolated" + earlier,
+                                "Filtered: high-pass, gaussian, cutoff 2.5 Hz" + earlier,
+                                "Rotated: heading 90, pitch 0, roll 0 deg; sampling volume at 1, 0.5, 0 m" + earlier,
+                                "The whole record: 1000 samples, 40.00 s",
+                                "Taken back: Reset Time Series",
+                                "Done again: Reset Time Series",
+                                "Left top: plot options set",
+                                "Mean velocity: 12.5 cm/s",
+                                "Page of Spectral Analysis set up",
+                                "Not done: the record is as it was",
+                                "Cancelled: the record is as it was",
+                                "test simulated: 200 samples, 8 s. Choose a probe",
+                                "test closed",
+                            }));
+}
+
+TEST_F(Commands, WhatChangesNothingIsNoModification) {
+    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "same.avp";
+    document.SetMeanVelocity({1, 12.5});
+    document.Distributions({});
+    document.SaveWorkspace(path);
+    document.SelectStage(0);
+    document.SetMeanVelocity({1, 12.5});
+    document.Distributions({});
+    document.SetFrame(0, 1, frameOrDefault(document.Probe(), 0, 1));
+    document.PlaceProbe(0, 0, {});
+    document.SetPage(Stage::Spectral, document.GetWorkspace().pages.GetAt(3));
+    EXPECT_FALSE(document.IsModified());
+    std::filesystem::remove(path);
 }
 
 TEST_F(Commands, RefusedChangesLeaveTheProbeAsItWas) {
