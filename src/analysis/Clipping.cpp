@@ -39,6 +39,11 @@ bool coversRecord(const SMultiArray& table, int samples) {
 
 }  // namespace
 
+double clippingTime(int sample, double samplingInterval) {
+    const double time = sample * samplingInterval;
+    return std::trunc(time / samplingInterval) < sample ? std::nextafter(time, 2.0 * time) : time;
+}
+
 bool clip(SAdvProbe& probe, double tStart, double tEnd, Progress& progress) {
     const double first = std::trunc(tStart / probe.samplingInterval);
     const double end = std::trunc(tEnd / probe.samplingInterval);

@@ -13,6 +13,9 @@ inline constexpr const char* kClippingLimitsWrong = "The limits for clipping are
 /// False, and nothing changed, when a limit is negative or no number.
 bool clip(SAdvProbe& probe, double tStart, double tEnd, Progress& progress = noProgress());
 
+/// The time that clip() takes for this sample: dt times its index, where rounding does not lose it the sample.
+double clippingTime(int sample, double samplingInterval);
+
 /// Zoom mode: the time axes of the first four diagrams take their limits from the data.
 void enterZoomMode(SAdvProbe& probe);
 

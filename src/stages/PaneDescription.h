@@ -37,8 +37,7 @@ const SAdvProbe* probeAt(const SAdvSet& set, int file, int probe);
 /// axis ("Time: %.2fs", "Lag: %.2fs") in other diagrams over time and lag and beside the plot area; empty for plans.
 std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUtils& geometry, int px, int py);
 
-/// Status bar text while a time interval is dragged between two pixel columns, in either direction; empty for
-/// diagrams where no interval is chosen.
-std::string dragReadOut(Stage stage, Pane pane, const CScreenUtils& geometry, int fromPx, int toPx);
+/// Status bar text while a time interval is chosen, s; empty for diagrams where none is.
+std::string dragReadOut(Stage stage, Pane pane, double from, double to);
 
 }  // namespace vorlan

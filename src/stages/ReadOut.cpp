@@ -68,12 +68,10 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
     }
 }
 
-std::string dragReadOut(Stage stage, Pane pane, const CScreenUtils& geometry, int fromPx, int toPx) {
-    if (stage != Stage::PreProcessing || pane != Pane::LeftTop) {
-        return {};
-    }
-    const auto [left, right] = std::minmax(fromPx, toPx);
-    return formatted("Time interval from: %.2f s   to: %.2f s", geometry.xValue(left), geometry.xValue(right));
+std::string dragReadOut(Stage stage, Pane pane, double from, double to) {
+    return stage == Stage::PreProcessing && pane == Pane::LeftTop
+               ? formatted("Time interval from: %.2f s   to: %.2f s", from, to)
+               : std::string();
 }
 
 }  // namespace vorlan

@@ -321,7 +321,7 @@ TEST(Panes, AreReadOut) {
                                  kPaneTexts.at(static_cast<std::size_t>(pane)),
                                  value == PhysicalValue::Stresses ? ", stresses" : "");
                 const std::string lines[] = {readOut(s, p, value, g, 70, 110), readOut(s, p, value, g, 70, 160),
-                                             dragReadOut(s, p, g, 150, 60), dragReadOut(s, p, g, 40, 60)};
+                                             dragReadOut(s, p, 1.0, 10.0)};
                 for (const std::string& line : lines) {
                     all += line.empty() ? "" : "  " + line + "\n";
                 }

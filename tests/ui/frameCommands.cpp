@@ -37,6 +37,14 @@ void checkMnemonics(const QList<QAction*>& actions) {
     }
 }
 
+/// Who cannot give a command is told why, wherever it is pointed at.
+void checkReason(const QAction& action) {
+    if (!action.isEnabled()) {
+        QVERIFY2(action.statusTip().contains(QLatin1String("ot now: ")), qPrintable(action.text()));
+        QVERIFY2(action.toolTip().contains(QLatin1String(": ")), qPrintable(action.text()));
+    }
+}
+
 /// The commands of a menu and of those in it: "+" offered at once, "-" with a record, "." neither.
 QString menuText(const QAction& menu, const QAction& emptyMenu, const QString& margin) {
     checkMnemonics(menu.menu()->actions());
@@ -45,8 +53,10 @@ QString menuText(const QAction& menu, const QAction& emptyMenu, const QString& m
         const QAction& action = *menu.menu()->actions()[i];
         const QAction& emptyAction = *emptyMenu.menu()->actions()[i];
         if (action.menu() != nullptr) {
+            checkReason(emptyAction);
             lines += menuText(action, emptyAction, margin + QLatin1String("  "));
         } else if (!action.isSeparator() && action.isVisible()) {
+            checkReason(emptyAction);
             const QStringList parts{action.text(), action.shortcut().toString(), action.statusTip(), action.toolTip()};
             lines += margin +
                      QLatin1String(emptyAction.isEnabled() ? "  + "
@@ -94,12 +104,14 @@ class FrameCommands : public QObject {
         FrameDriver driver;
         QCOMPARE(driver.frame->windowTitle(), QStringLiteral("Untitled[*] - Vorlan"));
         QVERIFY(!driver.frame->isWindowModified());
+        QVERIFY(std::holds_alternative<PaneMessage>(driver.content(Pane::RightBottom)));
         QVERIFY(driver.withDialog(
             Command::SimulateTimeSeries, "Simulate Time Series | Parameters",
             [](QDialog& dialog) { fieldOf(dialog, "&File Name:")->setText(QStringLiteral("flume")); }));
         QCOMPARE(driver.document().File().fileName, std::string("flume"));
         QVERIFY(driver.frame->isWindowModified());
         QVERIFY(std::holds_alternative<std::monostate>(driver.content(Pane::LeftTop)));
+        QVERIFY(driver.status().endsWith(QLatin1String("Choose a probe")));
 
         auto* probes = driver.frame->findChild<QComboBox*>(QStringLiteral("Probes"));
         QCOMPARE(probes->itemText(0), QStringLiteral("Probe 1"));
@@ -116,7 +128,7 @@ class FrameCommands : public QObject {
         QCOMPARE(tabs->count(), 2);
         QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("Spectral Analysis"));
         QCOMPARE(std::get<Diagram>(driver.content(Pane::LeftBottom)).frame.plotTitle, std::string("Power spectra"));
-        QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QCOMPARE(driver.status(), QStringLiteral("Spectra: 250 lags (10 s), Tukey, Hz"));
         QVERIFY(!driver.frame->statusPane().progressBar().isVisible());
 
         tabs->setCurrentIndex(0);
@@ -171,11 +183,26 @@ class FrameCommands : public QObject {
         for (const ExportKindInfo& info : exportKinds()) {
             QVERIFY2(driver.enabled(exportCommand(info.kind)), info.name);
         }
-        // The change question comes through the window's boxes.
+        // The change question comes through the window's boxes; Cancel leaves a mark on what is old then.
         tabs->setCurrentIndex(0);
-        driver.trigger(Command::ResetTimeSeries);
+        const auto marked = [tabs] {
+            QString marks;
+            for (int i = 0; i < tabs->count(); ++i) {
+                marks += QLatin1Char(tabs->tabIcon(i).isNull() ? '-' : '!');
+            }
+            return marks;
+        };
+        QCOMPARE(marked(), QStringLiteral("------"));
+        driver.boxes.confirmAnswer = false;
+        driver.document().Clip(0.0, 90.0);
         QCOMPARE(driver.boxes.questions.last(),
                  QStringLiteral("The Time Series was changed. Repeat all previous calculations ?"));
+        QCOMPARE(marked(), QStringLiteral("-!!!!!"));
+        driver.trigger(Command::Undo);
+        QCOMPARE(marked(), QStringLiteral("------"));
+        driver.trigger(Command::Redo);
+        QVERIFY(driver.withDialog(Command::Histograms, "Univariate Distributions | Histogram Parameters"));
+        QCOMPARE(marked(), QStringLiteral("-!-!!!"));
     }
 
     void editingTellsWhatWasKept() {
@@ -189,7 +216,7 @@ class FrameCommands : public QObject {
             }
         }));
         QVERIFY2(driver.status().startsWith(QLatin1String("Velocity: ")), qPrintable(driver.status()));
-        QVERIFY(driver.status().endsWith(QLatin1String(" % kept")));
+        QVERIFY(driver.status().endsWith(QLatin1String(" % kept   Bad samples interpolated")));
     }
 
     void exportsWriteWhereTheUserWants() {

@@ -179,7 +179,7 @@ class FrameFiles : public QObject {
         QCOMPARE(driver.document().SpectralAnalysis(settings), Outcome::Cancelled);
         QVERIFY(disabled);
         QVERIFY(driver.document().Probe() == before);
-        QCOMPARE(driver.status(), QStringLiteral("Ready"));
+        QCOMPARE(driver.status(), QStringLiteral("Cancelled: the record is as it was"));
         QVERIFY(!showsText(driver, "Closing when the calculation ends"));
         QVERIFY(driver.enabled(Command::SimulateTimeSeries));
         QTRY_VERIFY2(!driver.frame->isVisible(), "the close that was asked for follows");

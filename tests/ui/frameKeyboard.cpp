@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QSplitter>
 #include <QTabBar>
 #include <QTest>
 #include <QWindow>
@@ -57,6 +58,40 @@ class FrameKeyboard : public QObject {
         QCOMPARE(driver.document().ActivePane(), Pane::LeftBottom);
     }
 
+    void aTimeIsClippedByTheKeys() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.document().SelectActivePane(Pane::RightBottom);
+        driver.trigger(Command::ZoomAndClipping);
+        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
+        comeToTheFront(driver);
+        QCOMPARE(QApplication::focusWidget(), &view);
+        view.grab();
+        const auto says = [&](const char* interval) {
+            QCOMPARE(driver.status(), QStringLiteral("Time interval from: %1s").arg(QLatin1String(interval)));
+        };
+        QTest::keyClick(&view, Qt::Key_Return);
+        QTest::keyClick(&view, Qt::Key_Left);
+        says("0.00 s   to: 39.96 ");
+        QTest::keyClick(&view, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(&view, Qt::Key_Right, Qt::ShiftModifier);
+        says("0.08 s   to: 39.96 ");
+        QTest::keyClick(&view, Qt::Key_Escape);
+        QTest::keyClick(&view, Qt::Key_Return);
+        QCOMPARE(driver.document().Probe().WorkingSamples(), 1000);
+        QTest::keyClick(&view, Qt::Key_Home);
+        QTest::keyClick(&view, Qt::Key_Return);
+        QCOMPARE(driver.document().Probe().WorkingSamples(), 1000);
+        // Every sample is met, whatever rounding makes of its time.
+        QTest::keyClick(&view, Qt::Key_Home);
+        for (int i = 0; i < 37; ++i) {
+            QTest::keyClick(&view, Qt::Key_Right);
+        }
+        QTest::keyClick(&view, Qt::Key_Return);
+        QCOMPARE(driver.document().Probe().WorkingSamples(), 37);
+        QCOMPARE(driver.status(), QStringLiteral("Kept 0.00 s to 1.48 s, 37 samples"));
+    }
+
     void aRunKeepsTheFocusAndTheActiveView() {
         FrameDriver driver;
         driver.simulate();
@@ -74,6 +109,11 @@ class FrameKeyboard : public QObject {
     void aNarrowWindowShowsEverySelector() {
         FrameDriver driver;
         driver.simulate();
+        for (const QSplitter* borders : driver.frame->panes().findChildren<QSplitter*>()) {
+            const_cast<QSplitter*>(borders)->setSizes({100, 900});
+            QTest::mouseDClick(borders->handle(1), Qt::LeftButton);
+            QVERIFY(std::abs(borders->sizes()[0] - borders->sizes()[1]) <= 1);
+        }
         QCOMPARE(selector(driver, "Data files")->currentText(), QStringLiteral("test"));
         driver.frame->resize(780, 500);
         QCoreApplication::processEvents();

@@ -52,8 +52,9 @@ CMainFrame::CMainFrame(QWidget* parent)
       waiting_(new QLabel(this)),
       hint_(new QLabel(this)),
       tools_(
-          document_, *panes_, [this](const QString& text) { statusPane_->setText(text); },
-          [this](const QString& text) { showHint(text); }),
+          document_, *panes_,
+          {[this](const QString& text) { statusPane_->setText(text); }, [this](const QString& text) { showHint(text); },
+           [this](const QString& text) { showReport(text); }, [this] { showRest(); }}),
       commands_(document_, files_, *panes_, tools_, *this) {
     setAcceptDrops(true);
     auto* centre = new QWidget(this);
@@ -100,7 +101,10 @@ void CMainFrame::buildBars() {
     const auto bindSwitch = [this](Command command, QWidget* bar) {
         QAction* action = actions_->of(command);
         action->setChecked(true);
-        connect(action, &QAction::toggled, this, [this, bar](bool on) { showBar(*bar, on); });
+        connect(action, &QAction::toggled, this, [this, action, bar](bool on) {
+            showBar(*bar, on);
+            showReport(action->toolTip() + QLatin1String(on ? " shown" : " hidden"));
+        });
     };
     bindSwitch(Command::SelectionToolbar, selectionBar_);
     bindSwitch(Command::SpectralToolbar, spectralBar_);
@@ -133,9 +137,10 @@ void CMainFrame::buildShortcuts() {
 }
 
 void CMainFrame::connectWidgets() {
-    commands_.setStatusFunction([this](const QString& text) { statusPane_->setText(text); });
+    commands_.setReportFunction([this](const QString& text) { showReport(text); });
     document_.SetListener([this](Change change) { documentChanged(change); });
     port_.setRunListener([this](bool running) { runStateChanged(running); });
+    port_.setReportListener([this](const QString& text) { showReport(text); });
     connect(actions_, &CommandActions::triggered, this, &CMainFrame::runCommand);
     connect(actions_, &CommandActions::recentChosen, &files_, &WorkspaceFiles::openRecent);
     connect(&files_, &WorkspaceFiles::recentListChanged, this,
@@ -155,7 +160,7 @@ void CMainFrame::connectWidgets() {
         connect(view, &CVorl_ADVView::cursorMoved, this, &CMainFrame::showCursorValues);
         connect(view, &CVorl_ADVView::cursorLeft, this, [this] {
             if (!document_.IsRunning()) {
-                statusPane_->setText(QStringLiteral("Ready"));
+                showRest();
             }
         });
         connect(view, &CVorl_ADVView::menuRequested, this, &CMainFrame::showPaneMenu);
@@ -167,6 +172,10 @@ void CMainFrame::connectWidgets() {
 void CMainFrame::runCommand(Command command) {
     if (commandState(document_, command, shownPanes()).enabled) {
         commands_.run(command);
+        if (command == Command::ZoomAndClipping) {
+            // Its keys are those of the diagram that is cut.
+            panes_->view(Pane::LeftTop).setFocus();
+        }
     }
     refreshCommands();
 }
@@ -178,20 +187,26 @@ void CMainFrame::documentChanged(Change change) {
     selectionBar_->refresh(document_);
     tabs_->refresh(document_);
     panes_->setActivePane(document_.ActivePane());
-    panes_->view(Pane::LeftTop)
-        .setIntervalSelection(document_.HasProbe() && document_.Probe().zoomMode != 0 &&
-                              document_.CurrentStage() == Stage::PreProcessing);
+    panes_->view(Pane::LeftTop).setIntervalSelection(clippedRecord());
     refreshCommands();
     refreshTitle();
-    tellOldResults();
+    std::string old = document_.HasProbe() ? oldResultsText(document_.Probe()) : std::string();
+    resultsGrownOld_ = old != oldResults_ ? QString::fromStdString(old) : QString();
+    oldResults_ = std::move(old);
+    if (change != Change::View) {
+        showReport({});
+    }
 }
 
-void CMainFrame::tellOldResults() {
-    std::string text = document_.HasProbe() ? oldResultsText(document_.Probe()) : std::string();
-    if (!text.empty() && text != oldResults_) {
-        statusPane_->setText(QString::fromStdString(text));
-    }
-    oldResults_ = std::move(text);
+void CMainFrame::showReport(const QString& text) {
+    QStringList parts{text, resultsGrownOld_};
+    parts.removeAll(QString());
+    report_ = parts.join(QStringLiteral("   "));
+    showRest();
+}
+
+void CMainFrame::showRest() {
+    statusPane_->setText(report_.isEmpty() ? QStringLiteral("Ready") : report_);
 }
 
 void CMainFrame::refreshCommands() {
@@ -256,22 +271,28 @@ void CMainFrame::showCursorValues(Pane pane, QPoint position) {
                                  ? planReadOut(*diagram, *view.geometry(), position.x(), position.y())
                                  : readOut(document_.CurrentStage(), pane, document_.CurrentValue(), *view.geometry(),
                                            position.x(), position.y());
-    statusPane_->setText(text.empty() ? QStringLiteral("Ready") : QString::fromStdString(text));
-}
-
-void CMainFrame::showDraggedInterval(Pane pane, int fromX, int toX) {
-    const CVorl_ADVView& view = panes_->view(pane);
-    if (view.geometry().has_value()) {
-        statusPane_->setText(
-            QString::fromStdString(dragReadOut(document_.CurrentStage(), pane, *view.geometry(), fromX, toX)));
+    if (text.empty()) {
+        showRest();
+    } else {
+        statusPane_->setText(QString::fromStdString(text));
     }
 }
 
-void CMainFrame::clipToInterval(Pane pane, int fromX, int toX) {
-    const CVorl_ADVView& view = panes_->view(pane);
-    if (!document_.IsRunning() && view.geometry().has_value()) {
-        const CScreenUtils geometry = *view.geometry();
-        document_.Clip(geometry.xValue(fromX), geometry.xValue(toX));
+std::optional<SampleAxis> CMainFrame::clippedRecord() const {
+    if (!document_.HasProbe() || document_.Probe().zoomMode == 0 || document_.CurrentStage() != Stage::PreProcessing) {
+        return std::nullopt;
+    }
+    const SampleAxis record{document_.Probe().samplingInterval, document_.Probe().WorkingSamples()};
+    return record.interval > 0.0 && record.count > 0 ? std::optional(record) : std::nullopt;
+}
+
+void CMainFrame::showDraggedInterval(Pane pane, double from, double to) {
+    statusPane_->setText(QString::fromStdString(dragReadOut(document_.CurrentStage(), pane, from, to)));
+}
+
+void CMainFrame::clipToInterval(Pane, double from, double to) {
+    if (!document_.IsRunning()) {
+        document_.Clip(from, to);
     }
 }
 

@@ -54,10 +54,14 @@ class CMainFrame : public QMainWindow {
     void refreshCommands();
     ShownPanes shownPanes() const;
     void refreshTitle();
-    void tellOldResults();
+    void showReport(const QString& text);
+    /// What the status bar says while nothing is pointed at.
+    void showRest();
     void showCursorValues(Pane pane, QPoint position);
-    void showDraggedInterval(Pane pane, int fromX, int toX);
-    void clipToInterval(Pane pane, int fromX, int toX);
+    /// The record of the left top pane while its time may be chosen there.
+    std::optional<SampleAxis> clippedRecord() const;
+    void showDraggedInterval(Pane pane, double from, double to);
+    void clipToInterval(Pane pane, double from, double to);
     void showPaneMenu(Pane pane, QPoint globalPosition);
     void cyclePane(int step);
 
@@ -76,7 +80,9 @@ class CMainFrame : public QMainWindow {
     TurbulenceTools tools_;
     UserCommands commands_;
     QPointer<QWidget> focusBeforeRun_;
-    std::string oldResults_;  ///< what the status bar has said of results older than the record
+    QString report_;           ///< how the last command ended
+    std::string oldResults_;   ///< what the status bar has said of results older than the record
+    QString resultsGrownOld_;  ///< the same, when the last command made them so
     bool closeWhenDone_ = false;
     QString dropWhenDone_;
 };

@@ -2,7 +2,10 @@
 
 #include <QFileInfo>
 #include <QMenu>
+#include <QProxyStyle>
+#include <algorithm>
 
+#include "model/Text.h"
 #include "ui/frame/MenuTable.h"
 
 namespace vorlan {
@@ -17,11 +20,30 @@ QString plainText(QString text) {
     return text;
 }
 
+/// Lets the user go to disabled items, too: the status bar says why they are.
+class ReachableItems : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        return hint == SH_Menu_AllowActiveAndDisabled ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
 // "&Undo Digital Filtration".
 void nameCommand(QAction& action, const char* text, const char* name) {
     action.setText(QString::fromLatin1(text) +
                    (name != nullptr ? QLatin1Char(' ') + QString::fromUtf8(name) : QString()));
-    action.setToolTip(plainText(action.text()));
+}
+
+/// The texts of an item, with the reason while it is disabled. Without a tool tip of its own an action shows its text:
+/// enough for a button, and a menu repeats no line that is enabled.
+void showTips(QAction& action, const MenuItem& item, const std::string& reason) {
+    const QString why = QString::fromStdString(reason);
+    action.setStatusTip(QString::fromUtf8(item.prompt) +
+                        (why.isEmpty() ? QString() : QStringLiteral(" (not now: %1)").arg(why)));
+    const QString own = QString::fromUtf8(item.toolTip);
+    action.setToolTip(
+        why.isEmpty() ? own : QStringLiteral("%1: %2").arg(own.isEmpty() ? plainText(action.text()) : own, why));
 }
 
 bool isWindowSwitch(Command command) {
@@ -31,8 +53,15 @@ bool isWindowSwitch(Command command) {
 }  // namespace
 
 CommandActions::CommandActions(QMenuBar& menuBar, QObject* parent) : QObject(parent) {
+    auto* style = new ReachableItems;
+    style->setParent(this);
+    const auto sayWhy = [style](QMenu& menu) {
+        menu.setStyle(style);
+        menu.setToolTipsVisible(true);
+    };
     for (const Menu& menu : menuTable()) {
         QMenu* target = menuBar.addMenu(QString::fromUtf8(menu.title));
+        sayWhy(*target);
         QMenu* submenu = nullptr;
         for (const MenuItem& item : menu.items) {
             if (item.text == nullptr) {
@@ -43,6 +72,8 @@ CommandActions::CommandActions(QMenuBar& menuBar, QObject* parent) : QObject(par
             if (item.submenu != nullptr) {
                 if (submenu == nullptr) {
                     submenu = target->addMenu(QString::fromUtf8(item.submenu));
+                    sayWhy(*submenu);
+                    submenus_.append({submenu, item.command});
                 }
                 submenu->addAction(action);
             } else {
@@ -60,9 +91,6 @@ CommandActions::CommandActions(QMenuBar& menuBar, QObject* parent) : QObject(par
 QAction* CommandActions::makeAction(const MenuItem& item) {
     auto* action = new QAction(QString::fromUtf8(item.text), this);
     action->setShortcut(QKeySequence(QString::fromLatin1(item.key)));
-    action->setStatusTip(QString::fromUtf8(item.prompt));
-    const QString toolTip = QString::fromUtf8(item.toolTip);
-    action->setToolTip(toolTip.isEmpty() ? plainText(action->text()) : toolTip);
     action->setCheckable(item.checkable);
     if (item.command == Command::Exit) {
         action->setMenuRole(QAction::QuitRole);
@@ -74,20 +102,46 @@ QAction* CommandActions::makeAction(const MenuItem& item) {
 }
 
 void CommandActions::update(const CVorl_ADVDoc& document, const ShownPanes& shown) {
-    for (int i = 0; i < kCommandCount; ++i) {
-        const auto command = static_cast<Command>(i);
-        QAction* action = of(command);
-        const CommandState state = commandState(document, command, shown);
-        action->setEnabled(state.enabled);
-        if (action->isCheckable() && !isWindowSwitch(command)) {
-            action->setChecked(state.checked);
-        }
-    }
     nameCommand(*of(Command::Undo), "&Undo", document.UndoName());
     nameCommand(*of(Command::Redo), "&Redo", document.RedoName());
+    for (const Menu& menu : menuTable()) {
+        for (const MenuItem& item : menu.items) {
+            if (item.text == nullptr) {
+                continue;
+            }
+            QAction* action = of(item.command);
+            const CommandState state = commandState(document, item.command, shown);
+            action->setEnabled(state.enabled);
+            showTips(*action, item, state.reason);
+            if (action->isCheckable() && !isWindowSwitch(item.command)) {
+                action->setChecked(state.checked);
+            }
+        }
+    }
+    nameClosedFile(document);
+    for (const Submenu& submenu : submenus_) {
+        updateSubmenu(submenu, commandState(document, submenu.first, shown).reason);
+    }
     for (QAction* action : recent_) {
         action->setEnabled(!document.IsRunning());
     }
+}
+
+void CommandActions::nameClosedFile(const CVorl_ADVDoc& document) {
+    if (document.HasFile() && !document.IsRunning()) {
+        of(Command::CloseFile)
+            ->setStatusTip(QStringLiteral("Close the data file %1")
+                               .arg(QString::fromStdString(utf8Text(document.File().fileName))));
+    }
+}
+
+void CommandActions::updateSubmenu(const Submenu& submenu, const std::string& firstReason) {
+    const QList<QAction*> items = submenu.menu->actions();
+    QAction& title = *submenu.menu->menuAction();
+    title.setEnabled(std::any_of(items.begin(), items.end(), [](const QAction* item) { return item->isEnabled(); }));
+    const QString why = title.isEnabled() ? QString() : QString::fromStdString(firstReason);
+    title.setToolTip(why.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(plainText(title.text()), why));
+    title.setStatusTip(why.isEmpty() ? QString() : QStringLiteral("Not now: %1").arg(why));
 }
 
 void CommandActions::setRecentFiles(const QStringList& paths) {

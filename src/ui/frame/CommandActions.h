@@ -28,11 +28,20 @@ class CommandActions : public QObject {
 
   private:
     QAction* makeAction(const struct MenuItem& item);
+    /// Says which data file "Close File" closes.
+    void nameClosedFile(const CVorl_ADVDoc& document);
+    struct Submenu {
+        QMenu* menu;
+        Command first;  ///< its first item
+    };
+    /// A submenu is disabled while all of its items are: for the reason of the first one.
+    static void updateSubmenu(const Submenu& submenu, const std::string& firstReason);
 
     std::array<QAction*, kCommandCount> actions_{};
     QMenu* recentMenuOwner_ = nullptr;
     QAction* recentPlace_ = nullptr;
     QList<QAction*> recent_;
+    QList<Submenu> submenus_;
 };
 
 }  // namespace vorlan

@@ -1,11 +1,18 @@
 #include "ui/frame/PaneGrid.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QSplitter>
 
+#include "stages/BeginningHint.h"
 #include "stages/PaneDescription.h"
 
 namespace vorlan {
+
+namespace {
+// Sizes are shares of what there is.
+constexpr int kEqualShare = 10000;
+}  // namespace
 
 PaneGrid::PaneGrid(QWidget* parent) : QWidget(parent) {
     auto* layout = new QHBoxLayout(this);
@@ -19,11 +26,28 @@ PaneGrid::PaneGrid(QWidget* parent) : QWidget(parent) {
         splitter->setHandleWidth(4);
         splitter->setStretchFactor(0, 1);
         splitter->setStretchFactor(1, 1);
+        splitter->handle(1)->installEventFilter(this);
+        splitter->handle(1)->setToolTip(QStringLiteral("Drag to change the sizes; double click for equal ones"));
     }
     layout->addWidget(columns);
 }
 
+bool PaneGrid::eventFilter(QObject* watched, QEvent* event) {
+    auto* border = qobject_cast<QSplitterHandle*>(watched);
+    if (border != nullptr && event->type() == QEvent::MouseButtonDblClick) {
+        border->splitter()->setSizes({kEqualShare, kEqualShare});
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void PaneGrid::describe(const CVorl_ADVDoc& document) {
+    if (document.GetWorkspace().dataFiles.files.IsEmpty()) {
+        for (CVorl_ADVView* view : views_) {
+            view->setContent(beginningHint(view->pane()));
+        }
+        return;
+    }
     for (CVorl_ADVView* view : views_) {
         view->setContent(
             describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(),

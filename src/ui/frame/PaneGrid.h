@@ -23,6 +23,10 @@ class PaneGrid : public QWidget {
     void describe(const CVorl_ADVDoc& document);
     void setActivePane(Pane pane);
 
+  protected:
+    /// A double click on a border brings equal parts back.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     std::array<CVorl_ADVView*, kPaneCount> views_{};
 };

@@ -6,6 +6,7 @@
 
 #include "model/ProbeInformation.h"
 #include "model/Text.h"
+#include "ui/dialogs/NameSelector.h"
 
 namespace vorlan {
 
@@ -48,10 +49,8 @@ SelectionBar::SelectionBar(QWidget* parent) : QToolBar(QStringLiteral("Data Sele
 
 QComboBox* SelectionBar::addSelector(const QString& label, const QString& toolTip, int characters,
                                      const QString& shortest) {
-    auto* selector = new QComboBox(this);
+    auto* selector = new NameSelector(toolTip, this);
     selector->setObjectName(toolTip);
-    selector->setToolTip(toolTip);
-    selector->setAccessibleName(toolTip);
     selector->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     selector->setMinimumContentsLength(characters);
     // In a narrow window a selector shrinks to such a text before the bar hides it.

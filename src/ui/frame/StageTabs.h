@@ -20,6 +20,10 @@ class StageTabs : public QTabBar {
     void stageChosen(int tabIndex);
 
   private:
+    /// Marks the tabs of stages whose results are of the record before its last change.
+    void markOld(const CVorl_ADVDoc& document);
+
+    QIcon oldMark_;
     bool refreshing_ = false;
 };
 

@@ -16,9 +16,11 @@ class StatusPane : public QWidget {
 
     void setText(const QString& text);
     QString text() const { return label_->text(); }
-    /// Shows the bar offset pixels from the pane's left edge (further right when the text is longer).
+    /// Says that Esc cancels what runs now.
+    void showRun();
+    /// Shows the bar, too, offset pixels from the pane's left edge (further right when the text is longer).
     void showProgress(int offset);
-    void hideProgress();
+    void hideRun();
     void setProgress(int percent) { bar_->setValue(percent); }
     const QProgressBar& progressBar() const { return *bar_; }
 
@@ -26,10 +28,11 @@ class StatusPane : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void placeBar();
+    void placeBesideText();
 
     QLabel* label_;
     QProgressBar* bar_;
+    QLabel* escape_;  ///< how to end what runs, beside the bar
     int offset_ = 0;
 };
 

@@ -15,12 +15,12 @@ constexpr const char* kTriangleHint = "Drag a range, or arrow keys; Esc removes 
 
 }  // namespace
 
-TurbulenceTools::TurbulenceTools(CVorl_ADVDoc& document, PaneGrid& panes, Show showStatus, Show showHint)
-    : document_(document), panes_(panes), showStatus_(std::move(showStatus)), showHint_(std::move(showHint)) {
+TurbulenceTools::TurbulenceTools(CVorl_ADVDoc& document, PaneGrid& panes, Voice voice)
+    : document_(document), panes_(panes), voice_(std::move(voice)) {
     for (CVorl_ADVView* view : panes_.views()) {
         connect(view, &CVorl_ADVView::toolEnded, this, [this] {
-            showHint_({});
-            showStatus_(QStringLiteral("Ready"));
+            voice_.showHint({});
+            voice_.showRest();
         });
     }
 }
@@ -41,7 +41,7 @@ void TurbulenceTools::begin(Command command) {
 }
 
 void TurbulenceTools::start(CVorl_ADVView& view, std::unique_ptr<PaneTool> tool, const QString& hint) {
-    connect(tool.get(), &PaneTool::readOut, this, [this](const QString& text) { showStatus_(text); });
+    connect(tool.get(), &PaneTool::readOut, this, [this](const QString& text) { voice_.showReadOut(text); });
     connect(
         tool.get(), &PaneTool::left, this,
         [&view, started = tool.get()] {
@@ -51,9 +51,9 @@ void TurbulenceTools::start(CVorl_ADVView& view, std::unique_ptr<PaneTool> tool,
             }
         },
         Qt::QueuedConnection);
-    showStatus_(QStringLiteral("Ready"));
+    voice_.showReport({});
     view.beginTool(std::move(tool));
-    showHint_(hint);
+    voice_.showHint(hint);
 }
 
 void TurbulenceTools::beginDissipation(CVorl_ADVView& view) {
@@ -78,7 +78,7 @@ void TurbulenceTools::beginDissipation(CVorl_ADVView& view) {
 
 void TurbulenceTools::acceptDissipation(const DissipationReading& reading, const QString& slopes) {
     if (document_.ExtractDissipationRate(reading) == Outcome::Done) {
-        showStatus_(QString::fromStdString(acceptedRateText(document_.Probe())) + QStringLiteral("   ") + slopes);
+        voice_.showReport(QString::fromStdString(acceptedRateText(document_.Probe())) + QStringLiteral("   ") + slopes);
     }
 }
 
@@ -107,7 +107,7 @@ void TurbulenceTools::acceptScales(CVorl_ADVView& view, const ScalesReading& rea
     }
     view.endTool();
     if (outcome == Outcome::Done) {
-        showStatus_(QString::fromStdString(acceptedScalesText(reading.source, document_.Probe())));
+        voice_.showReport(QString::fromStdString(acceptedScalesText(reading.source, document_.Probe())));
     }
 }
 

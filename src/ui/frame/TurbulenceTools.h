@@ -14,10 +14,14 @@ class TurbulenceTools : public QObject {
     Q_OBJECT
 
   public:
-    using Show = std::function<void(const QString& text)>;
-
-    /// showStatus shows a read-out, showHint what to do next; an empty hint goes.
-    TurbulenceTools(CVorl_ADVDoc& document, PaneGrid& panes, Show showStatus, Show showHint);
+    /// Where the tools speak.
+    struct Voice {
+        std::function<void(const QString& text)> showReadOut;
+        std::function<void(const QString& text)> showHint;    ///< what to do next; an empty hint goes
+        std::function<void(const QString& text)> showReport;  ///< what was accepted
+        std::function<void()> showRest;                       ///< nothing is read any more
+    };
+    TurbulenceTools(CVorl_ADVDoc& document, PaneGrid& panes, Voice voice);
 
     /// ExtractDissipationRate, ExtractScales, TriangleSpectrum or TriangleStructure, in the active view.
     void begin(Command command);
@@ -33,8 +37,7 @@ class TurbulenceTools : public QObject {
 
     CVorl_ADVDoc& document_;
     PaneGrid& panes_;
-    Show showStatus_;
-    Show showHint_;
+    Voice voice_;
 };
 
 }  // namespace vorlan

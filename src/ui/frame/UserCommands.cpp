@@ -9,7 +9,7 @@
 #include <ctime>
 #include <ostream>
 
-#include "analysis/EditingAssessment.h"
+#include "app/CommandReports.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
 #include "io/WorkspaceFile.h"
@@ -43,10 +43,20 @@ void UserCommands::run(Command command) {
     }
 }
 
+bool UserCommands::accepted(QDialog& dialog) {
+    const bool ok = dialog.exec() == QDialog::Accepted;
+    if (!ok) {
+        report_(QString::fromLatin1(kCancelledReport));
+    }
+    return ok;
+}
+
 template <class Dialog, class Method, class... Arguments>
-Outcome UserCommands::ask(Method command, const Arguments&... arguments) {
+void UserCommands::ask(Method command, const Arguments&... arguments) {
     Dialog dialog(arguments..., &window_);
-    return dialog.exec() == QDialog::Accepted ? (document_.*command)(dialog.values()) : Outcome::Cancelled;
+    if (accepted(dialog)) {
+        (document_.*command)(dialog.values());
+    }
 }
 
 void UserCommands::dispatch(Command command) {
@@ -63,11 +73,13 @@ void UserCommands::dispatch(Command command) {
         case Command::PageSetup:
             return pageSetup();
         case Command::PrintPreview:
-            return printer_.preview();
+            printer_.preview();
+            return report_(QStringLiteral("Preview closed"));
         case Command::Print:
             return print();
         case Command::ResultsTable:
-            return document_.ShowTable(!document_.ShowsTable());
+            document_.ShowTable(!document_.ShowsTable());
+            return report_(QLatin1String(document_.ShowsTable() ? "Right bottom: table" : "Right bottom: diagram"));
         case Command::PlotFrameOptions:
             return plotFrameOptions();
         case Command::ZoomAndClipping:
@@ -81,7 +93,8 @@ void UserCommands::dispatch(Command command) {
                               QString::fromLatin1(coordinateSystemText(document_.Probe())));
             return;
         case Command::EditingTimeSeries:
-            return editTimeSeries();
+            ask<CEditTSDlg>(&CVorl_ADVDoc::EditTimeSeries, usable(settings.editing));
+            return;
         case Command::DigitalFiltration:
             ask<CFilterDlg>(&CVorl_ADVDoc::FilterTimeSeries, usable(settings.filter));
             return;
@@ -129,15 +142,13 @@ void UserCommands::dispatch(Command command) {
 void UserCommands::runFileCommand(Command command) {
     switch (command) {
         case Command::NewWorkspace:
-            return files_.newWorkspace();
+            return reportUnless(files_.newWorkspace(), "Cancelled: the workspace is as it was");
         case Command::OpenWorkspace:
-            return files_.open();
+            return reportUnless(files_.open(), "Nothing opened: the workspace is as it was");
         case Command::SaveWorkspace:
-            files_.save();
-            return;
+            return reportUnless(files_.save(), "Not saved");
         case Command::SaveWorkspaceAs:
-            files_.saveAs();
-            return;
+            return reportUnless(files_.saveAs(), "Not saved");
         case Command::CloseFile:
             document_.CloseFile();
             return;
@@ -149,19 +160,16 @@ void UserCommands::runFileCommand(Command command) {
     }
 }
 
-void UserCommands::simulate() {
-    CSimulateDlg dialog(SimulationParameters{}, &window_);
-    if (dialog.exec() == QDialog::Accepted) {
-        document_.SimulateTimeSeries(dialog.values(), seed_ ? seed_() : static_cast<std::uint64_t>(std::time(nullptr)));
+void UserCommands::reportUnless(bool done, const char* otherwise) {
+    if (!done) {
+        report_(QString::fromLatin1(otherwise));
     }
 }
 
-void UserCommands::editTimeSeries() {
-    if (ask<CEditTSDlg>(&CVorl_ADVDoc::EditTimeSeries, usable(document_.Settings().editing)) == Outcome::Done) {
-        const std::string shares = keptSharesText(document_.LastEditing());
-        if (!shares.empty()) {
-            showStatus_(QString::fromStdString(shares));
-        }
+void UserCommands::simulate() {
+    CSimulateDlg dialog(SimulationParameters{}, &window_);
+    if (accepted(dialog)) {
+        document_.SimulateTimeSeries(dialog.values(), seed_ ? seed_() : static_cast<std::uint64_t>(std::time(nullptr)));
     }
 }
 
@@ -192,7 +200,7 @@ void UserCommands::plotFrameOptions() {
     const SAdvProbe* probe = document_.HasProbe() ? &document_.Probe() : nullptr;
     CPlotOptDlg dialog(frameInSlot(document_.GetWorkspace().dataFiles, probe, *slot), diagram->allowedScales,
                        drawnAxesOf(view.geometry()), &window_);
-    if (dialog.exec() != QDialog::Accepted) {
+    if (!accepted(dialog)) {
         return;
     }
     if (slot->inSet) {
@@ -206,22 +214,22 @@ void UserCommands::pageSetup() {
     const Stage stage = document_.CurrentStage();
     CPageDlg dialog(pageOfStage(document_.GetWorkspace(), stage), printer_.paper(), &window_);
     dialog.setPaperPicker([this](QWidget* parent) { return printer_.choosePaper(parent); });
-    const bool accepted = dialog.exec() == QDialog::Accepted;
-    printer_.takeChosenPaper(accepted);
-    if (accepted) {
+    const bool ok = accepted(dialog);
+    printer_.takeChosenPaper(ok);
+    if (ok) {
         document_.SetPage(stage, dialog.values());
     }
 }
 
 void UserCommands::print() {
     const QString done = printer_.print();
-    if (!done.isEmpty()) {
-        showStatus_(done);
-    }
+    report_(done.isEmpty() ? QStringLiteral("Nothing printed") : done);
 }
 
 void UserCommands::copyBitmap() {
-    QApplication::clipboard()->setImage(panes_.view(document_.ActivePane()).bitmap());
+    const Pane pane = document_.ActivePane();
+    QApplication::clipboard()->setImage(panes_.view(pane).bitmap());
+    report_(QStringLiteral("%1 copied").arg(QLatin1String(kPaneTexts[static_cast<std::size_t>(pane)])));
 }
 
 void UserCommands::exportData(ExportKind kind) {
@@ -230,13 +238,13 @@ void UserCommands::exportData(ExportKind kind) {
     bool all = false;
     if (info.dialog == ExportDialog::Options) {
         CExportDlg dialog({}, &window_);
-        if (dialog.exec() != QDialog::Accepted) {
+        if (!accepted(dialog)) {
             return;
         }
         options = dialog.values();
     } else if (info.dialog == ExportDialog::Scope) {
         CExportScopeDlg dialog(false, &window_);
-        if (dialog.exec() != QDialog::Accepted) {
+        if (!accepted(dialog)) {
             return;
         }
         all = dialog.allProbes();
@@ -244,21 +252,21 @@ void UserCommands::exportData(ExportKind kind) {
     const QString path =
         boxes_->chooseExport(&window_, QDir(files_.folder()).filePath(QString::fromLatin1(info.defaultFile)));
     if (path.isEmpty()) {
-        return;
+        return report_(QString::fromLatin1(kCancelledReport));
     }
     const std::string file = QFile::encodeName(path).toStdString();
     const std::string refusal = refusalToReplace(file);
     if (!refusal.empty()) {
         boxes_->refuse(&window_, QFile::decodeName(QByteArray::fromStdString(refusal)) + QLatin1Char('.'));
-        return;
+        return report_(QStringLiteral("Nothing written"));
     }
     files_.setFolderOf(path);
     try {
         writeFileAtomically(file, [&](std::ostream& stream) { document_.Export(stream, kind, options, all); });
-        showStatus_(QStringLiteral("%1 written").arg(QFileInfo(path).fileName()));
+        report_(QStringLiteral("%1 written").arg(QFileInfo(path).fileName()));
     } catch (const FileError&) {
         // An export ends without a box; the line is all that is said.
-        showStatus_(QStringLiteral("Cannot write %1").arg(path));
+        report_(QStringLiteral("Cannot write %1").arg(path));
     }
 }
 

@@ -31,8 +31,8 @@ class UserCommands {
     }
     /// Seed of the generator; the calendar time unless replaced.
     void setSeedSource(std::function<std::uint64_t()> source) { seed_ = std::move(source); }
-    /// Shows a line in the status bar.
-    void setStatusFunction(std::function<void(const QString&)> show) { showStatus_ = std::move(show); }
+    /// Tells how a command ended that the document does not know.
+    void setReportFunction(std::function<void(const QString&)> report) { report_ = std::move(report); }
 
     /// Runs a command that commandState() enables.
     void run(Command command);
@@ -43,8 +43,10 @@ class UserCommands {
     void simulate();
     /// Opens a parameter dialog made of arguments and gives the document's command what the user accepted.
     template <class Dialog, class Method, class... Arguments>
-    Outcome ask(Method command, const Arguments&... arguments);
-    void editTimeSeries();
+    void ask(Method command, const Arguments&... arguments);
+    /// Shows a dialog; false, and told, when it was cancelled.
+    bool accepted(QDialog& dialog);
+    void reportUnless(bool done, const char* otherwise);
     void editGrid();
     void plotFrameOptions();
     void copyBitmap();
@@ -60,7 +62,7 @@ class UserCommands {
     PagePrinter printer_;
     UserBoxes* boxes_ = nullptr;
     std::function<std::uint64_t()> seed_;
-    std::function<void(const QString&)> showStatus_;
+    std::function<void(const QString&)> report_;
 };
 
 }  // namespace vorlan

@@ -57,16 +57,25 @@ void WindowPort::refuse(const std::string& text) {
     boxes_->refuse(front(), QString::fromStdString(text));
 }
 
+void WindowPort::report(const std::string& text) {
+    if (reportListener_) {
+        reportListener_(QString::fromStdString(text));
+    }
+}
+
 void WindowPort::beginRun(Calculation calculation) {
     const std::optional<int> offset = barOffsetOf(calculation);
     if (offset.has_value() && pane_ != nullptr) {
         pane_->showProgress(*offset);
+    } else if (pane_ != nullptr) {
+        pane_->showRun();
     }
     if (running_) {
         return;
     }
     running_ = true;
     cancelled_ = false;
+    status(nameOf(calculation));
     sinceEvents_.start();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     qApp->installEventFilter(this);
@@ -80,7 +89,7 @@ void WindowPort::endRun() {
     qApp->removeEventFilter(this);
     QGuiApplication::restoreOverrideCursor();
     if (pane_ != nullptr) {
-        pane_->hideProgress();
+        pane_->hideRun();
         pane_->setText(QStringLiteral("Ready"));
     }
     if (runListener_) {
@@ -98,6 +107,10 @@ void WindowPort::position(int percent) {
     if (pane_ != nullptr) {
         pane_->setProgress(percent);
     }
+}
+
+void WindowPort::done(double share) {
+    position(static_cast<int>(share * 100.0));
 }
 
 void WindowPort::breathe() {

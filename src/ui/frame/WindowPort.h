@@ -26,15 +26,19 @@ class WindowPort : public QObject, public DocumentPort {
     void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
     /// Told when a calculation begins (true) and has ended (false).
     void setRunListener(std::function<void(bool)> listener) { runListener_ = std::move(listener); }
+    /// Told how a command ended.
+    void setReportListener(std::function<void(const QString&)> listener) { reportListener_ = std::move(listener); }
 
     bool confirm(Question question) override;
     bool accept(const std::string& question) override;
     bool retry(const std::string& text) override;
     void refuse(const std::string& text) override;
+    void report(const std::string& text) override;
     void beginRun(Calculation calculation) override;
     void endRun() override;
     void status(const std::string& text) override;
     void position(int percent) override;
+    void done(double share) override;
     void breathe() override;
 
   protected:
@@ -48,6 +52,7 @@ class WindowPort : public QObject, public DocumentPort {
     UserBoxes* boxes_;
     QPointer<StatusPane> pane_;
     std::function<void(bool)> runListener_;
+    std::function<void(const QString&)> reportListener_;
     QElapsedTimer sinceEvents_;
     bool running_ = false;
     bool cancelled_ = false;

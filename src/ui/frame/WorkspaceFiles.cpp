@@ -34,20 +34,20 @@ void WorkspaceFiles::remember(const QString& path) {
     Q_EMIT recentListChanged();
 }
 
-void WorkspaceFiles::newWorkspace() {
-    if (mayLeave()) {
+bool WorkspaceFiles::newWorkspace() {
+    const bool mayBegin = mayLeave();
+    if (mayBegin) {
         document_.NewWorkspace();
     }
+    return mayBegin;
 }
 
-void WorkspaceFiles::open() {
+bool WorkspaceFiles::open() {
     if (!mayLeave()) {
-        return;
+        return false;
     }
     const QString path = boxes_->chooseWorkspaceToOpen(&window_, folder_);
-    if (!path.isEmpty()) {
-        load(path);
-    }
+    return !path.isEmpty() && load(path);
 }
 
 bool WorkspaceFiles::openPath(const QString& path) {

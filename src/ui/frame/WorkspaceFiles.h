@@ -18,9 +18,11 @@ class WorkspaceFiles : public QObject {
 
     void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
 
-    void newWorkspace();
-    void open();
-    /// Asks about unsaved changes first. False when nothing was opened; the open workspace is then untouched.
+    // False when the user did not want it or it could not be done; the open workspace is then what it was.
+
+    bool newWorkspace();
+    bool open();
+    /// Asks about unsaved changes first.
     bool openPath(const QString& path);
     /// A recent workspace that is gone leaves the list.
     void openRecent(const QString& path);

@@ -17,6 +17,8 @@ namespace {
 constexpr int kFrameWidth = 2;
 // A drag below this many pixels is a click.
 constexpr int kSmallestDrag = 8;
+// Pixels that an edge moves with Ctrl.
+constexpr int kLongStep = 10;
 }  // namespace
 
 CVorl_ADVView::CVorl_ADVView(Pane pane, QWidget* parent) : QWidget(parent), pane_(pane) {
@@ -30,6 +32,7 @@ CVorl_ADVView::~CVorl_ADVView() = default;
 
 void CVorl_ADVView::setContent(PaneContent content) {
     endTool();
+    endDrag();
     content_ = std::move(content);
     geometry_.reset();
     update();
@@ -106,22 +109,66 @@ std::optional<CScreenUtils> CVorl_ADVView::paintContent(QPainter& painter) const
     return paintPane(painter, pageArea(), content_);
 }
 
-void CVorl_ADVView::setIntervalSelection(bool on) {
-    if (intervalSelection_ && !on) {
+void CVorl_ADVView::setIntervalSelection(std::optional<SampleAxis> record) {
+    if (record_ && !record) {
         endDrag();
         unsetCursor();
     }
-    intervalSelection_ = on;
+    record_ = record;
 }
 
-void CVorl_ADVView::showBand(int toX) {
+void CVorl_ADVView::showInterval() {
     if (band_ == nullptr) {
         band_ = new QRubberBand(QRubberBand::Rectangle, this);
     }
-    const int left = std::min(*dragFrom_, toX);
-    const int right = std::max(*dragFrom_, toX);
+    const int left = withinPlot(geometry_->xPixel(interval_.from()));
+    const int right = withinPlot(geometry_->xPixel(interval_.to()));
     band_->setGeometry(left, geometry_->originY - geometry_->height, right - left + 1, geometry_->height);
     band_->show();
+    Q_EMIT intervalDragged(pane_, interval_.from(), interval_.to());
+}
+
+void CVorl_ADVView::chooseInterval() {
+    const IntervalSelection chosen = interval_;
+    endDrag();
+    if (chosen.from() < chosen.to()) {
+        Q_EMIT intervalChosen(pane_, chosen.from(), chosen.to());
+    }
+}
+
+bool CVorl_ADVView::keyOfInterval(const QKeyEvent& event) {
+    if (!record_ || !geometry_) {
+        return false;
+    }
+    IntervalSelection::Step step;
+    switch (event.key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right: {
+            const double tenPixels = kLongStep * std::abs(geometry_->xScale) / record_->interval;
+            const int samples = event.modifiers().testFlag(Qt::ControlModifier)
+                                    ? static_cast<int>(std::clamp(tenPixels, 1.0, 1.0 * record_->count))
+                                    : 1;
+            step.samples = event.key() == Qt::Key_Left ? -samples : samples;
+            break;
+        }
+        case Qt::Key_Home:
+            step.toStart = true;
+            break;
+        case Qt::Key_End:
+            step.toEnd = true;
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (interval_.isOn() && !pressedAt_) {
+                chooseInterval();
+            }
+            return true;
+        default:
+            return false;
+    }
+    interval_.move(step, event.modifiers().testFlag(Qt::ShiftModifier), *record_);
+    showInterval();
+    return true;
 }
 
 int CVorl_ADVView::withinPlot(int x) const {
@@ -129,7 +176,8 @@ int CVorl_ADVView::withinPlot(int x) const {
 }
 
 void CVorl_ADVView::endDrag() {
-    dragFrom_.reset();
+    interval_.end();
+    pressedAt_.reset();
     if (band_ != nullptr) {
         band_->hide();
     }
@@ -143,9 +191,11 @@ void CVorl_ADVView::mousePressEvent(QMouseEvent* event) {
         return;
     }
     const QPoint position = event->position().toPoint();
-    if (intervalSelection_ && event->button() == Qt::LeftButton && geometry_.has_value() &&
+    if (record_ && event->button() == Qt::LeftButton && geometry_.has_value() &&
         geometry_->contains(position.x(), position.y())) {
-        dragFrom_ = position.x();
+        endDrag();
+        pressedAt_ = position.x();
+        interval_.press(geometry_->xValue(position.x()));
         cursor_ = position;
     }
     QWidget::mousePressEvent(event);
@@ -156,20 +206,19 @@ void CVorl_ADVView::mouseMoveEvent(QMouseEvent* event) {
     if (tool_ && tool_->mouseMove(*event)) {
         return;
     }
-    if (dragFrom_.has_value() && !event->buttons().testFlag(Qt::LeftButton)) {
+    if (pressedAt_.has_value() && !event->buttons().testFlag(Qt::LeftButton)) {
         // Released where this window did not see it.
         endDrag();
     }
-    if (intervalSelection_ && geometry_.has_value()) {
+    if (record_ && geometry_.has_value()) {
         setCursor(geometry_->contains(cursor_.x(), cursor_.y()) ? Qt::CrossCursor : Qt::ArrowCursor);
     }
-    if (dragFrom_.has_value() && geometry_.has_value()) {
-        const int to = withinPlot(cursor_.x());
-        showBand(to);
-        Q_EMIT intervalDragged(pane_, *dragFrom_, to);
-        return;
+    if (pressedAt_.has_value() && geometry_.has_value()) {
+        interval_.drag(geometry_->xValue(withinPlot(cursor_.x())));
+        showInterval();
+    } else if (!interval_.isOn()) {
+        Q_EMIT cursorMoved(pane_, cursor_);
     }
-    Q_EMIT cursorMoved(pane_, cursor_);
 }
 
 void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
@@ -177,12 +226,16 @@ void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
         tool_->mouseRelease(*event);
         return;
     }
-    if (event->button() == Qt::LeftButton && dragFrom_.has_value()) {
-        const int from = *dragFrom_;
+    if (event->button() == Qt::LeftButton && pressedAt_.has_value() && geometry_.has_value()) {
         const int to = withinPlot(event->position().toPoint().x());
-        endDrag();
-        if (std::abs(to - from) >= kSmallestDrag) {
-            Q_EMIT intervalChosen(pane_, std::min(from, to), std::max(from, to));
+        const bool click = std::abs(to - *pressedAt_) < kSmallestDrag;
+        if (interval_.isByKeys()) {
+            chooseInterval();
+        } else if (click) {
+            endDrag();
+        } else {
+            interval_.drag(geometry_->xValue(to));
+            chooseInterval();
         }
     }
     QWidget::mouseReleaseEvent(event);
@@ -192,7 +245,10 @@ void CVorl_ADVView::keyPressEvent(QKeyEvent* event) {
     if (tool_ && tool_->keyPress(*event)) {
         return;
     }
-    if (event->key() == Qt::Key_Escape && dragFrom_.has_value()) {
+    if (keyOfInterval(*event)) {
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && interval_.isOn()) {
         endDrag();
         // The interval is forgotten: what is read is under the cursor again, or nothing.
         if (rect().contains(cursor_)) {
@@ -206,8 +262,8 @@ void CVorl_ADVView::keyPressEvent(QKeyEvent* event) {
 }
 
 void CVorl_ADVView::leaveEvent(QEvent* event) {
-    // A tool's values stay: they are not those under the mouse.
-    if (!tool_) {
+    // What a tool or an interval reads stays: it is not what is under the mouse.
+    if (!tool_ && !interval_.isOn()) {
         Q_EMIT cursorLeft(pane_);
     }
     QWidget::leaveEvent(event);
@@ -231,6 +287,7 @@ void CVorl_ADVView::focusOutEvent(QFocusEvent* event) {
 
 void CVorl_ADVView::resizeEvent(QResizeEvent* event) {
     endTool();
+    endDrag();
     QWidget::resizeEvent(event);
 }
 

@@ -9,6 +9,7 @@
 #include "model/Stages.h"
 #include "plot/CScreenUtils.h"
 #include "plot/PaneContent.h"
+#include "ui/views/IntervalSelection.h"
 
 class QRubberBand;
 
@@ -32,8 +33,10 @@ class CVorl_ADVView : public QWidget {
     /// The active view is framed in the desktop's highlight colour.
     void setActive(bool active);
     bool isActive() const { return active_; }
-    /// While on, dragging with the left button over the diagram chooses an interval of the X axis.
-    void setIntervalSelection(bool on);
+    /// While there is a record, dragging with the left button over the diagram chooses a time of it, and so do the
+    /// keys: the arrows move the free edge by a sample, with Ctrl by ten pixels; Home and End move it to the ends of
+    /// the record; with Shift they move the other edge; Return accepts, Esc forgets.
+    void setIntervalSelection(std::optional<SampleAxis> record);
     /// Geometry of the diagram as it was painted last; empty without a diagram.
     const std::optional<CScreenUtils>& geometry() const { return geometry_; }
     /// The pane as a picture of its size on a white page.
@@ -58,9 +61,9 @@ class CVorl_ADVView : public QWidget {
     void activated(vorlan::Pane pane);
     void cursorMoved(vorlan::Pane pane, QPoint position);
     void cursorLeft(vorlan::Pane pane);
-    /// The interval between two pixel columns is being chosen, and was chosen. A click is no interval.
-    void intervalDragged(vorlan::Pane pane, int fromX, int toX);
-    void intervalChosen(vorlan::Pane pane, int fromX, int toX);
+    /// An interval of the X axis is being chosen, and was chosen. A click is no interval.
+    void intervalDragged(vorlan::Pane pane, double from, double to);
+    void intervalChosen(vorlan::Pane pane, double from, double to);
     void menuRequested(vorlan::Pane pane, QPoint globalPosition);
     void toolEnded(vorlan::Pane pane);
 
@@ -78,18 +81,22 @@ class CVorl_ADVView : public QWidget {
 
   private:
     QRect pageArea() const;
-    void showBand(int toX);
+    void showInterval();
     /// A drag that leaves the plot area reaches to its edge.
     int withinPlot(int x) const;
     void endDrag();
+    void chooseInterval();
+    /// True when the key is the interval's.
+    bool keyOfInterval(const QKeyEvent& event);
 
     Pane pane_;
     PaneContent content_;
     std::optional<CScreenUtils> geometry_;
     bool active_ = false;
-    bool intervalSelection_ = false;
-    std::optional<int> dragFrom_;
-    QPoint cursor_;  ///< where the mouse was last
+    std::optional<SampleAxis> record_;
+    IntervalSelection interval_;
+    std::optional<int> pressedAt_;  ///< while the button is held
+    QPoint cursor_;                 ///< where the mouse was last
     QRubberBand* band_ = nullptr;
     std::unique_ptr<PaneTool> tool_;
     bool menuSpent_ = false;  ///< the right button was the tool's: it opens no menu
