@@ -1,0 +1,328 @@
+// A user who does anything at all. VORLAN_RANDOM="seed events" makes another run, and a longer one.
+#include <QAbstractButton>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTest>
+#include <random>
+
+#include "FrameDriver.h"
+#include "model/Archive.h"
+
+using namespace vorlan;
+
+namespace {
+
+class Dice {
+  public:
+    explicit Dice(unsigned seed) : random_(seed) {}
+
+    int below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+    bool once(int in) { return below(in) == 0; }
+    template <class List>
+    auto of(const List& list) {
+        return *(std::begin(list) + below(static_cast<int>(std::size(list))));
+    }
+
+  private:
+    std::mt19937 random_;
+};
+
+const std::array<const char*, 11> kTexts = {"", "0", "1", "2", "7", "3.5", "-1", "0.25", "abc", "12", "1e2"};
+
+/// Answers every box with dice; paths are those of a folder of its own.
+class RandomBoxes : public ScriptedBoxes {
+  public:
+    RandomBoxes(Dice& dice, const QTemporaryDir& folder) : dice_(dice), folder_(folder) {}
+
+    bool confirm(QWidget*, const QString&) override { return !dice_.once(3); }
+    void refuse(QWidget*, const QString&) override {}
+    bool retry(QWidget*, const QString&) override { return false; }
+    SaveAnswer askToSave(QWidget*, const QString&) override { return static_cast<SaveAnswer>(dice_.below(3)); }
+    QString chooseWorkspaceToOpen(QWidget*, const QString&) override { return path({"a.avp", "b.avp", "torn.avp"}); }
+    QString chooseWorkspaceToSave(QWidget*, const QString&) override { return path({"a.avp", "b.avp"}); }
+    QString chooseExport(QWidget*, const QString&) override { return path({"a.dat", "a.avp", "no/where.dat"}); }
+    QString chooseNewBoundary(QWidget*, const QString&) override { return path({"a.bnd", "b.bnd"}); }
+    QString chooseBoundaryToOpen(QWidget*, const QString&) override { return path({"a.bnd", "torn.bnd", "c.bnd"}); }
+    QString chooseBoundaryToSave(QWidget*, const QString&) override { return path({"a.bnd", "b.bnd"}); }
+    bool choosePrinter(QWidget*, QPrinter&, PrintChoice&) override { return false; }
+    bool choosePaper(QWidget*, QPrinter&) override { return false; }
+    void showPreview(QDialog&) override {}
+
+  private:
+    QString path(std::initializer_list<const char*> names) {
+        return dice_.once(5) ? QString() : folder_.filePath(QString::fromUtf8(dice_.of(names)));
+    }
+
+    Dice& dice_;
+    const QTemporaryDir& folder_;
+};
+
+/// A window that anything happens to.
+class RandomUser {
+  public:
+    explicit RandomUser(unsigned seed) : dice_(seed), boxes_(dice_, driver_.folder) {
+        driver_.frame->setBoxes(boxes_);
+        driver_.simulate(8.0);
+        driver_.document().SaveWorkspace(driver_.path("b.avp").toStdString());
+        driver_.simulate(12.0);
+        driver_.document().SaveWorkspace(driver_.path("a.avp").toStdString());
+        for (const char* torn : {"torn.avp", "torn.bnd"}) {
+            QFile file(driver_.path(torn));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("1.59\n1 2\n") > 0);
+        }
+        driver_.frame->files().openPath(driver_.path("a.avp"));
+        loaded_ = stored();
+    }
+
+    /// What was done last, for whoever finds what it led to.
+    QString lastDeeds() const { return deeds_.join(QStringLiteral(", ")); }
+
+    void doSomething() {
+        meetModals();
+        switch (dice_.below(14)) {
+            case 0:
+            case 1:
+                return giveCommand();
+            case 2:
+            case 3:
+                return pressKey(focus());
+            case 4:
+            case 5:
+            case 6:
+                return useMouse(*dice_.of(driver_.frame->panes().views()));
+            case 7:
+                return turnWheel(*dice_.of(driver_.frame->panes().views()));
+            case 8:
+                return useSelector();
+            case 9:
+                return did(QStringLiteral("resize"),
+                           [&] { driver_.frame->resize(300 + dice_.below(1300), 200 + dice_.below(900)); });
+            case 10:
+                return drop();
+            case 11:
+                return did(QStringLiteral("undo"), [&] { driver_.trigger(Command::Undo); });
+            case 12:
+                return did(QStringLiteral("redo"), [&] { driver_.trigger(Command::Redo); });
+            default:
+                return useBorder();
+        }
+    }
+
+    /// The window agrees with its document, and everything can be taken back and done again.
+    void check() {
+        CVorl_ADVDoc& document = driver_.document();
+        QCOMPARE(driver_.frame->isWindowModified(), document.IsModified());
+        QVERIFY(!document.IsRunning());
+        auto* tabs = driver_.frame->findChild<QTabBar*>(QStringLiteral("StageTabs"));
+        QCOMPARE(tabs->count(), document.HasProbe() ? document.Probe().tabItems.GetSize() : 0);
+        const QByteArray done = stored();
+        int steps = 0;
+        while (document.Undo() == Outcome::Done) {
+            ++steps;
+        }
+        QVERIFY2(steps == 0 || stored() == loaded_, qPrintable(lastDeeds()));
+        for (; steps > 0; --steps) {
+            QCOMPARE(document.Redo(), Outcome::Done);
+        }
+        QVERIFY2(stored() == done, qPrintable(lastDeeds()));
+        while (document.Redo() == Outcome::Done) {
+        }
+    }
+
+  private:
+    void did(const QString& deed, const std::function<void()>& work) {
+        deeds_.append(deed);
+        while (deeds_.size() > kRememberedDeeds) {
+            deeds_.removeFirst();
+        }
+        driver_.frame->statusPane().setText({});
+        work();
+        QCoreApplication::processEvents();
+        // Another workspace has other bytes to come back to.
+        const QString status = driver_.status();
+        if (status.endsWith(QLatin1String(" opened")) || status == QLatin1String("Empty workspace")) {
+            if (driver_.document().UndoName() == nullptr && driver_.document().RedoName() == nullptr) {
+                loaded_ = stored();
+            }
+        }
+    }
+
+    QByteArray stored() {
+        Workspace copy = driver_.document().GetWorkspace();
+        Archive archive = Archive::storing();
+        copy.Serialize(archive);
+        const auto bytes = archive.takeBytes();
+        return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+    }
+
+    QWidget* focus() {
+        QWidget* widget = QApplication::focusWidget();
+        return widget != nullptr ? widget : driver_.frame.get();
+    }
+
+    void giveCommand() {
+        const auto command = static_cast<Command>(dice_.below(kCommandCount));
+        if (command != Command::Exit && command != Command::About && command != Command::RecentWorkspace) {
+            did(driver_.frame->actions().of(command)->text(), [&] { driver_.trigger(command); });
+        }
+    }
+
+    void pressKey(QWidget* widget) {
+        static constexpr std::array keys = {
+            Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Up, Qt::Key_Down,   Qt::Key_Home, Qt::Key_End,    Qt::Key_Tab,
+            Qt::Key_F6,    Qt::Key_E,      Qt::Key_Z,  Qt::Key_Return, Qt::Key_C,    Qt::Key_Escape, Qt::Key_F,
+            Qt::Key_Space, Qt::Key_PageUp, Qt::Key_1,  Qt::Key_Period, Qt::Key_Alt,  Qt::Key_Backtab};
+        static constexpr std::array<int, 6> modifiers = {
+            0, 0, 0, Qt::ControlModifier, Qt::ShiftModifier, Qt::ControlModifier | Qt::ShiftModifier};
+        const Qt::Key key = dice_.of(keys);
+        const Qt::KeyboardModifiers held(dice_.of(modifiers));
+        did(QKeySequence(static_cast<int>(key) | static_cast<int>(held)).toString(),
+            [&] { QTest::keyClick(widget, key, held); });
+    }
+
+    QPoint anywhere(const QWidget& widget) {
+        return {dice_.below(widget.width() + 40) - 20, dice_.below(widget.height() + 40) - 20};
+    }
+
+    void useMouse(QWidget& widget) {
+        const Qt::MouseButton button = dice_.once(6) ? Qt::RightButton : Qt::LeftButton;
+        did(QStringLiteral("mouse"), [&] {
+            if (dice_.once(5)) {
+                QTest::mouseDClick(&widget, button, {}, anywhere(widget));
+            }
+            widget.repaint();
+            QTest::mousePress(&widget, button, {}, anywhere(widget));
+            for (int i = dice_.below(4); i > 0; --i) {
+                QMouseEvent move(QEvent::MouseMove, anywhere(widget), widget.mapToGlobal(anywhere(widget)),
+                                 Qt::NoButton, button, Qt::NoModifier);
+                QApplication::sendEvent(&widget, &move);
+                if (dice_.once(4)) {
+                    QTest::keyClick(&widget, dice_.once(2) ? Qt::Key_Left : Qt::Key_Escape);
+                }
+            }
+            QTest::mouseRelease(&widget, button, {}, anywhere(widget));
+        });
+    }
+
+    void turnWheel(QWidget& widget) {
+        did(QStringLiteral("wheel"), [&] {
+            const QPoint place = anywhere(widget);
+            QWheelEvent turn(place, widget.mapToGlobal(place), {}, {0, dice_.once(2) ? 120 : -120}, Qt::NoButton,
+                             Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&widget, &turn);
+        });
+    }
+
+    void useSelector() {
+        if (dice_.once(2)) {
+            auto* tabs = driver_.frame->findChild<QTabBar*>(QStringLiteral("StageTabs"));
+            if (tabs->count() > 0) {
+                did(QStringLiteral("tab"), [&] { tabs->setCurrentIndex(dice_.below(tabs->count())); });
+            }
+            return;
+        }
+        QComboBox* list = dice_.of(driver_.frame->findChildren<QComboBox*>());
+        did(list->objectName(), [&] { QTest::keyClick(list, dice_.once(2) ? Qt::Key_Down : Qt::Key_Up); });
+    }
+
+    void useBorder() {
+        QSplitter* splitter = dice_.of(driver_.frame->panes().findChildren<QSplitter*>());
+        did(QStringLiteral("border"), [&] {
+            if (dice_.once(2)) {
+                QTest::mouseDClick(splitter->handle(1), Qt::LeftButton);
+            } else {
+                splitter->setSizes({dice_.below(9), dice_.below(9)});
+            }
+        });
+    }
+
+    void drop() {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(driver_.path(dice_.once(2) ? "b.avp" : "torn.avp"))});
+        did(QStringLiteral("drop"), [&] {
+            QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(driver_.frame.get(), &event);
+        });
+    }
+
+    /// Does something in the dialog, box or menu that is open, until none is; a patient one is closed.
+    void meetModals() {
+        QTimer::singleShot(0, driver_.frame.get(), [this] {
+            QPointer<QWidget> open = QApplication::activePopupWidget();
+            if (open == nullptr) {
+                open = QApplication::activeModalWidget();
+            }
+            if (open == nullptr) {
+                modalDeeds_ = 0;
+                return;
+            }
+            meetModals();  // in the loop that this one may open
+            if (++modalDeeds_ > kMostModalDeeds) {
+                open->close();
+                modalDeeds_ = 0;
+                return;
+            }
+            workModal(*open);
+        });
+    }
+
+    void workModal(QWidget& open) {
+        const QList<QLineEdit*> fields = open.findChildren<QLineEdit*>();
+        const QList<QAbstractButton*> buttons = open.findChildren<QAbstractButton*>();
+        const int what = dice_.below(8);
+        if (what < 2 && !fields.isEmpty()) {
+            QLineEdit* field = dice_.of(fields);
+            did(QStringLiteral("type"), [&] { field->setText(QString::fromUtf8(dice_.of(kTexts))); });
+        } else if (what < 5 && !buttons.isEmpty()) {
+            QAbstractButton* button = dice_.of(buttons);
+            did(button->text(), [&] { button->click(); });
+        } else if (what == 5) {
+            useMouse(open);
+        } else {
+            QWidget* inside = open.focusWidget();
+            pressKey(inside != nullptr ? inside : &open);
+        }
+    }
+
+    static constexpr int kRememberedDeeds = 30;
+    static constexpr int kMostModalDeeds = 25;
+
+    Dice dice_;
+    FrameDriver driver_;
+    RandomBoxes boxes_;
+    QByteArray loaded_;
+    QStringList deeds_;
+    int modalDeeds_ = 0;
+};
+
+}  // namespace
+
+class FrameRandom : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void anythingMayBeDoneAndTakenBack() {
+        const QStringList chosen = QString::fromLocal8Bit(qgetenv("VORLAN_RANDOM")).split(u' ', Qt::SkipEmptyParts);
+        const unsigned seed = chosen.isEmpty() ? 1U : chosen[0].toUInt();
+        const int events = chosen.size() < 2 ? 1500 : chosen[1].toInt();
+        qInfo("seed %u, %d events", seed, events);
+        RandomUser user(seed);
+        for (int i = 1; i <= events && !QTest::currentTestFailed(); ++i) {
+            user.doSomething();
+            if (i % 100 == 0 || i == events) {
+                user.check();
+            }
+            if (QTest::currentTestFailed()) {
+                qInfo("event %d: %s", i, qPrintable(user.lastDeeds()));
+            }
+        }
+    }
+};
+
+QTEST_MAIN(FrameRandom)
+#include "frameRandom.moc"
