@@ -7,8 +7,8 @@ namespace vorlan {
 
 std::int32_t seriesColour(int index) {
     constexpr auto rgb = [](int r, int g, int b) { return r + 256 * g + 65536 * b; };
-    constexpr std::array<std::int32_t, 5> colours = {rgb(0, 0, 192), rgb(0, 128, 0), rgb(192, 0, 0), rgb(160, 0, 160),
-                                                     rgb(96, 96, 96)};
+    constexpr std::array<std::int32_t, 5> colours = {rgb(0, 0, 160), rgb(200, 40, 30), rgb(60, 180, 110),
+                                                     rgb(160, 0, 160), rgb(96, 96, 96)};
     return colours[static_cast<std::size_t>(std::clamp(index, 0, static_cast<int>(colours.size()) - 1))];
 }
 

@@ -27,7 +27,8 @@ struct SeriesAtrType {
 
 using SSeriesAtrArray = std::vector<SeriesAtrType>;
 
-/// Colours of the series of a diagram, by index (the last for all further ones).
+/// Colours of the series of a diagram, by index (the last for all further ones). The first three are told apart in
+/// grey too.
 std::int32_t seriesColour(int index);
 
 }  // namespace vorlan

@@ -13,7 +13,7 @@ namespace vorlan {
 namespace {
 
 // The colour of what is compared with the bars.
-constexpr int kNormalColour = 2;
+constexpr int kNormalColour = 1;
 constexpr int kNormalPenWidth = 2;
 
 /// The n + 1 ends of n grades over the range of the samples.
