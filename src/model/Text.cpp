@@ -23,6 +23,19 @@ std::string formatted(const char* format, ...) {
     return text;
 }
 
+std::string numberText(double value, int digits) {
+    return withoutEmptySign(formatted("%.*f", digits, value));
+}
+
+std::string withoutEmptySign(std::string number) {
+    // inf keeps its sign: it says on which side.
+    const bool empty = number.find_first_of("123456789i") == std::string::npos;
+    if (empty && number.starts_with('-')) {
+        number.erase(0, 1);
+    }
+    return number;
+}
+
 namespace {
 
 constexpr std::array<double, 8> kPowersOfTen = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7};

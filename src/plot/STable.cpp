@@ -5,12 +5,14 @@
 
 #include "model/Archive.h"
 #include "model/Errors.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
 namespace {
 
 constexpr double kSmallestShare = 0.6;
+constexpr double kSmallestNumberShare = 0.3;  // for numbers, which are never cut
 constexpr double kShareStep = 0.02;
 constexpr int kTextGap = 6;  // kept free beside a row title
 constexpr char kDefaultFormat[] = "%.2f";
@@ -119,7 +121,7 @@ std::string STable::cell(int row, int column) const {
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
     std::snprintf(buffer, sizeof buffer, format, values[index]);
 #pragma GCC diagnostic pop
-    return buffer;
+    return withoutEmptySign(buffer);
 }
 
 int STable::firstColumnWidth(const TextMeasure& measure, double share) const {
@@ -135,7 +137,7 @@ void STable::fitInto(const Box& box, const TextMeasure& measure) {
     top = box.top;
     tableWidth = box.width();
     columnWidth = tableWidth / static_cast<int>(std::max<std::size_t>(headers.size(), 1));
-    rowHeight = measure.height(font, fittingShare(box, measure));
+    rowHeight = measure.height(font, shareOfNumbers(fittingShare(box, measure), measure));
 }
 
 double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
@@ -152,13 +154,37 @@ double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
     return share;
 }
 
+double STable::shareOfNumbers(double share, const TextMeasure& measure) const {
+    while (share > kSmallestNumberShare && !numbersFit(share, measure)) {
+        share = std::max(kSmallestNumberShare, share - kShareStep);
+    }
+    return share;
+}
+
+int STable::valueColumnWidth(const TextMeasure& measure, double share) const {
+    const int columns = static_cast<int>(headers.size());
+    return columns > 1 ? (tableWidth - firstColumnWidth(measure, share)) / (columns - 1) : tableWidth;
+}
+
+bool STable::numbersFit(double share, const TextMeasure& measure) const {
+    const int room = valueColumnWidth(measure, share) - kTextGap;
+    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
+        for (int column = 0; column + 1 < static_cast<int>(headers.size()); ++column) {
+            if (measure.width(cell(row, column), font, share) > room) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
     TableShapes result;
-    const double share = fittingShare(box, measure);
+    const double share = shareOfNumbers(fittingShare(box, measure), measure);
     const int height = measure.height(font, share);
     const int firstWidth = firstColumnWidth(measure, share);
     const int columns = static_cast<int>(headers.size());
-    const int otherWidth = columns > 1 ? (tableWidth - firstWidth) / (columns - 1) : tableWidth;
+    const int otherWidth = valueColumnWidth(measure, share);
     const auto add = [&](const std::string& text, int columnLeft, int width, int y) {
         const std::string shown = shortenedInside(text, font, width - kTextGap, measure, share);
         const int textWidth = measure.width(shown, font, share);
@@ -185,7 +211,9 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         y += rowHeight;
         add(rowTitle(row), columnLeft(0), columnSpan(0), y - rowHeight / 2);
         for (int column = 1; column < columns; ++column) {
-            add(cell(row, column - 1), columnLeft(column), columnSpan(column), y - rowHeight / 2);
+            const std::string number = cell(row, column - 1);
+            result.complete = result.complete && measure.width(number, font, share) <= otherWidth - kTextGap;
+            add(number, columnLeft(column), columnSpan(column), y - rowHeight / 2);
         }
         y += rowHeight;
         result.rules.push_back({{left, y}, {left + tableWidth, y}});

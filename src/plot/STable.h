@@ -52,11 +52,16 @@ class STable : public SObject {
     /// Share of the font's size at which every row fits the height of box; not below 0.6.
     double fittingShare(const Box& box, const TextMeasure& measure) const;
     /// Texts and rules in pixels, from the geometry members on. Every row has its rule, also below box where they do
-    /// not fit; a text without room for a letter is left out. See TableShapes::complete.
+    /// not fit; a text without room for a letter is left out and a number without room makes the table incomplete. See
+    /// TableShapes::complete.
     TableShapes shapes(const Box& box, const TextMeasure& measure) const;
 
   private:
     bool isEmptyCell(int row, std::size_t index) const;
+    /// share, or less where a number would not fit its column.
+    double shareOfNumbers(double share, const TextMeasure& measure) const;
+    bool numbersFit(double share, const TextMeasure& measure) const;
+    int valueColumnWidth(const TextMeasure& measure, double share) const;
     int firstColumnWidth(const TextMeasure& measure, double share) const;
 };
 

@@ -8,14 +8,18 @@ namespace vorlan {
 
 namespace {
 
+std::string shown(double value) {
+    return numberText(value, 2);
+}
+
 std::string axisText(Quantity quantity, double x) {
     switch (quantity) {
         case Quantity::Record:
         case Quantity::Time:
-            return formatted("Time: %.2fs", x);
+            return "Time: " + shown(x) + "s";
         case Quantity::Correlation:
         case Quantity::Lag:
-            return formatted("Lag: %.2fs", x);
+            return "Lag: " + shown(x) + "s";
         case Quantity::Spectrum:
         case Quantity::CrossSpectrum:
         case Quantity::Coherence:
@@ -46,10 +50,11 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
     const double y = geometry.yValue(py);
     switch (quantity) {
         case Quantity::Record:
-            return value == PhysicalValue::Stresses ? formatted("Time: %.2f s   Stress: %.2f (cm/s)^2", x, y)
-                                                    : formatted("Time: %.2f s   Velocity: %.2f cm/s", x, y);
+            return "Time: " + shown(x) + " s   " +
+                   (value == PhysicalValue::Stresses ? "Stress: " + shown(y) + " (cm/s)^2"
+                                                     : "Velocity: " + shown(y) + " cm/s");
         case Quantity::Correlation:
-            return formatted("Lag Time: %.2f s   Correlation : %.2f", x, y);
+            return "Lag Time: " + shown(x) + " s   Correlation : " + shown(y);
         case Quantity::Spectrum:
         case Quantity::CrossSpectrum:
             return formatted("Frequency: %.3f   Spectral density: %.4g", x, y);
@@ -70,7 +75,7 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
 
 std::string dragReadOut(Stage stage, Pane pane, double from, double to) {
     return stage == Stage::PreProcessing && pane == Pane::LeftTop
-               ? formatted("Time interval from: %.2f s   to: %.2f s", from, to)
+               ? "Time interval from: " + shown(from) + " s   to: " + shown(to) + " s"
                : std::string();
 }
 
