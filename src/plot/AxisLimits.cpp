@@ -15,6 +15,8 @@ constexpr double kLargestLimit = 1e300;
 constexpr int kMostMarks = 1000000;
 constexpr double kLabelTolerance = 0.02;
 constexpr int kMostDigits = 9;
+// A decade whose logarithm is off by a rounding error counts as whole.
+constexpr double kDecadeTolerance = 1e-9;
 // Ends that differ by less than their rounding errors count as equal.
 constexpr double kSmallestRelativeRange = 1e-12;
 constexpr double kSmallestRange = 1e-290;
@@ -40,7 +42,11 @@ void partEnds(AxisLimits& limits, const AxisRule& rule, double distance) {
     if (std::fabs(range) > smallest && (range > 0.0 || bothGiven)) {
         return;
     }
-    distance = std::max(distance, magnitude(limits) * 1e-3);
+    // Equal data are widened as told, unless rounding would lose that.
+    const bool equalData = rule.lowerFromData && rule.upperFromData;
+    if (!equalData || distance <= smallest) {
+        distance = std::max(distance, magnitude(limits) * 1e-3);
+    }
     if (rule.lowerFromData) {
         limits.lower = limits.upper - distance;
     } else {
@@ -94,23 +100,42 @@ LinearLimits linearLimits(const AxisRule& rule, const DataInterval& data, const 
     return {ends, true};
 }
 
+double AxisLimits::decadesPer(int length) const {
+    return length / (std::log10(upper) - std::log10(lower));
+}
+
 AxisLimits logarithmicLimits(const AxisRule& rule, const DataInterval& data, int mostDecades) {
-    const auto decade = [](bool fromData, double given, double fallback) {
-        return std::log10(fromData || !(given > 0.0) || !std::isfinite(given) ? fallback : given);
-    };
-    double first = decade(rule.lowerFromData, rule.lower, data.lowest);
-    double last = decade(rule.upperFromData, rule.upper, data.highest);
-    if (last < first) {
-        std::swap(first, last);
+    const auto given = [](bool fromData, double limit) { return !fromData && limit > 0.0 && std::isfinite(limit); };
+    const bool lowerGiven = given(rule.lowerFromData, rule.lower);
+    const bool upperGiven = given(rule.upperFromData, rule.upper);
+    double first = lowerGiven ? std::log10(rule.lower) : std::floor(std::log10(data.lowest));
+    double last = upperGiven ? std::log10(rule.upper) : std::ceil(std::log10(data.highest));
+    if (!upperGiven && last <= first) {
+        last = std::floor(first) + 1.0;
     }
-    // The marks stand on whole decades, so limits between decades would be labelled wrongly.
-    first = std::floor(first);
-    last = std::max(std::ceil(last), first + 1.0);
-    first = std::max(first, last - std::max(mostDecades, 1));
+    if (!lowerGiven && last <= first) {
+        first = std::ceil(last) - 1.0;
+    }
+    if (!lowerGiven) {
+        first = std::max(first, last - std::max(mostDecades, 1));
+    }
+    if (first == last) {
+        last += 1.0;
+    }
+    const auto isWhole = [](double decade) { return std::fabs(decade - std::round(decade)) < kDecadeTolerance; };
     AxisLimits limits;
-    limits.lower = std::pow(10.0, first);
-    limits.upper = std::pow(10.0, last);
-    limits.marks = static_cast<int>(last - first);
+    limits.wholeDecades = isWhole(first) && isWhole(last) && first < last;
+    if (limits.wholeDecades) {
+        first = std::round(first);
+        last = std::round(last);
+        limits.lower = std::pow(10.0, first);
+        limits.upper = std::pow(10.0, last);
+        limits.marks = static_cast<int>(last - first);
+    } else {
+        limits.lower = lowerGiven ? rule.lower : std::pow(10.0, first);
+        limits.upper = upperGiven && rule.upper != rule.lower ? rule.upper : std::pow(10.0, last);
+        limits.marks = std::max(static_cast<int>(std::fabs(last - first)), 1);
+    }
     limits.step = 1.0;
     return limits;
 }

@@ -9,6 +9,12 @@ struct AxisLimits {
     double upper = 1.0;
     double step = 1.0;
     int marks = 1;
+    /// False for a logarithmic axis with an end between two powers of ten; its marks lie inside, and marks counts
+    /// them.
+    bool wholeDecades = true;
+
+    /// Pixels per decade of a logarithmic axis that is length pixels long; negative when it runs backward.
+    double decadesPer(int length) const;
 };
 
 /// What is known about an axis: which ends follow the data, and the values of the others.
@@ -45,8 +51,9 @@ struct LinearLimits {
 /// is ignored.
 LinearLimits linearLimits(const AxisRule& rule, const DataInterval& data, const AxisManner& manner);
 
-/// Decades that enclose the data and the given positive limits; at least one, and no more than mostDecades (the
-/// lower ones are dropped). data must be positive.
+/// Ends from the data lie on the powers of ten that enclose them, at least one decade and no more than mostDecades
+/// apart (the lower ones are dropped). Positive ends that are given stay as they are, also when they run backward or
+/// lie between powers of ten. data must be positive.
 AxisLimits logarithmicLimits(const AxisRule& rule, const DataInterval& data, int mostDecades);
 
 /// Number of intervals that leaves each label its size: n is halved while room < n, never to 0.

@@ -1,9 +1,19 @@
 #pragma once
 
+#include <optional>
+
 #include "model/FrameAttributes.h"
 #include "model/PixelScale.h"
 
 namespace vorlan {
+
+/// Limits that would show series which automatic limits leave out; empty where nothing is left out.
+struct WiderLimits {
+    std::optional<double> xMin;
+    std::optional<double> xMax;
+    std::optional<double> yMin;
+    std::optional<double> yMax;
+};
 
 /// Geometry of a drawn diagram: pixel to value and back. Scale factors are data units per pixel on a linear axis and
 /// pixels per decade on a logarithmic one. The origin is the lower left corner of the plot area; y grows downward.
@@ -22,6 +32,7 @@ class CScreenUtils {
     double xScale = 1.0;
     double yScale = 1.0;
     ScaleType scaleType = ScaleType::Linear;
+    WiderLimits wider = {};
 
     bool logX() const { return scaleType == ScaleType::Logarithmic || scaleType == ScaleType::LogXLinearY; }
     bool logY() const { return scaleType == ScaleType::Logarithmic || scaleType == ScaleType::LinearXLogY; }

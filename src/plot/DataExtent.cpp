@@ -53,25 +53,34 @@ std::size_t pointCount(const PlotSeries& series) {
     return series.x.values.empty() ? values : std::min(values, series.x.values.size());
 }
 
+std::optional<DataExtent> seriesExtent(const PlotSeries& series, bool logX, bool logY) {
+    Extent extent(logX, logY);
+    const std::size_t n = pointCount(series);
+    const std::size_t blocks =
+        series.x.values.empty() && series.blocks.cover(n) ? series.blocks.count() : std::size_t{0};
+    const auto addPoints = [&](std::size_t from, std::size_t to) {
+        for (std::size_t i = from; i < to; ++i) {
+            extent.add(series.x.at(i), series.y[i]);
+        }
+    };
+    for (std::size_t b = 0; b < blocks; ++b) {
+        if (!extent.addBlock(series, b)) {
+            addPoints(b * ValueBlocks::kSize, (b + 1) * ValueBlocks::kSize);
+        }
+    }
+    addPoints(blocks * ValueBlocks::kSize, n);
+    if (series.attributes.style == SeriesStyle::Bars && series.x.values.size() > n && n > 0) {
+        extent.add(series.x.values[n], series.y[n - 1]);
+    }
+    return extent.box();
+}
+
 std::optional<DataExtent> dataExtent(const SPlot& plot, bool logX, bool logY) {
     Extent extent(logX, logY);
     for (const PlotSeries& series : plot.series) {
-        const std::size_t n = pointCount(series);
-        const std::size_t blocks =
-            series.x.values.empty() && series.blocks.cover(n) ? series.blocks.count() : std::size_t{0};
-        const auto addPoints = [&](std::size_t from, std::size_t to) {
-            for (std::size_t i = from; i < to; ++i) {
-                extent.add(series.x.at(i), series.y[i]);
-            }
-        };
-        for (std::size_t b = 0; b < blocks; ++b) {
-            if (!extent.addBlock(series, b)) {
-                addPoints(b * ValueBlocks::kSize, (b + 1) * ValueBlocks::kSize);
-            }
-        }
-        addPoints(blocks * ValueBlocks::kSize, n);
-        if (series.attributes.style == SeriesStyle::Bars && series.x.values.size() > n && n > 0) {
-            extent.add(series.x.values[n], series.y[n - 1]);
+        if (const std::optional<DataExtent> one = seriesExtent(series, logX, logY)) {
+            extent.add(one->x.lowest, one->y.lowest);
+            extent.add(one->x.highest, one->y.highest);
         }
     }
     return extent.box();

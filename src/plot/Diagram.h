@@ -70,6 +70,15 @@ struct Diagram {
     /// Of a plan: its automatic limits enclose the markers, arrows and names at its points, points on one spot get this
     /// room around them, and its labels have the digits that they need. Data units.
     std::optional<double> planRoom;
+    /// Digits of the labels of a diagram that nobody has changed; with them and automatic mark steps, labels get the
+    /// digits that they need.
+    struct UsualDigits {
+        std::int32_t x = FrameAttributesType().xDigits;
+        std::int32_t y = FrameAttributesType().yDigits;
+    };
+    UsualDigits usualDigits = {};
+    /// Remarks on the data, below the diagram.
+    std::vector<std::string> notes = {};
 };
 
 /// What a pane says in the place of a diagram without a value.

@@ -18,7 +18,7 @@ namespace {
 constexpr char kTooSmall[] = "Increase Size to View Data";
 constexpr int kPanelGap = 8;
 constexpr int kPanelLineGap = 2;
-constexpr int kLegendOpacity = 200;  // of 255: curves behind the legend stay visible
+constexpr std::size_t kMostPanelLines = 20;  // that one line of a panel is broken into
 
 std::vector<QLine> qtLines(const std::vector<Line>& lines) {
     std::vector<QLine> result;
@@ -47,11 +47,14 @@ class PanePainter {
         std::vector<PlacedText> texts;
         int top = area_.top() + gap;
         for (const std::string& line : panel.lines) {
-            const std::string shown = shortened(line, panel.font, area_.width() - 2 * gap, measure_);
             const int left = area_.left() + gap;
-            texts.push_back(
-                {shown, {left, top, left + measure_.width(shown, panel.font, 1.0), top + height}, panel.font});
-            top += height + scaled(kPanelLineGap);
+            for (const std::string& shown :
+                 wrapped(line, panel.font, area_.width() - 2 * gap, measure_, kMostPanelLines)) {
+                texts.push_back(
+                    {shown, {left, top, left + measure_.width(shown, panel.font, 1.0), top + height}, panel.font});
+                top += height;
+            }
+            top += (line.find_first_not_of(' ') == std::string::npos ? height : 0) + scaled(kPanelLineGap);
         }
         drawTexts(painter_, texts, measure_, options_.fontScale);
         return std::nullopt;
@@ -81,8 +84,13 @@ class PanePainter {
         drawTexts(painter_, layout.texts, measure_, options_.fontScale);
         const SAxis& axis = layout.axes.front();
         drawLines(layout.grid, linePen(axis.gridColour, axis.gridPenWidth, axis.gridPenStyle, options_.lengthScale));
+        std::vector<int> penStyles;  // of the legend's entries
         for (const PlotSeries& series : diagram.plot.series) {
-            paintSeries(painter_, series, layout.geometry, {options_.lengthScale, options_.background, paneBox()});
+            const int style =
+                paintSeries(painter_, series, layout.geometry, {options_.lengthScale, options_.background, paneBox()});
+            if (!series.attributes.legendText.empty()) {
+                penStyles.push_back(style);
+            }
         }
         for (const SlopeTriangle& triangle : diagram.triangles) {
             drawTriangle(
@@ -92,19 +100,17 @@ class PanePainter {
         painter_.setPen(Qt::black);
         drawTexts(painter_, pointTexts(diagram, layout.geometry, measure_, options_.lengthScale), measure_,
                   options_.fontScale);
-        drawLegend(layout.legend);
+        SLegend legend = layout.legend;
+        for (std::size_t i = 0; i < std::min(legend.entries.size(), penStyles.size()); ++i) {
+            legend.entries[i].attributes.penStyle = penStyles[i];
+        }
+        drawLegend(legend);
         return layout.geometry;
     }
 
   private:
     int scaled(int pixels) const { return static_cast<int>(std::lround(pixels * options_.lengthScale)); }
     Box paneBox() const { return {area_.left(), area_.top(), area_.right() + 1, area_.bottom() + 1}; }
-
-    QColor translucentBackground() const {
-        QColor colour = options_.background;
-        colour.setAlpha(kLegendOpacity);
-        return colour;
-    }
 
     void drawLines(const std::vector<Line>& lines, const QPen& pen) {
         painter_.setPen(pen);
@@ -127,13 +133,14 @@ class PanePainter {
         }
         if (legend.inPlotArea) {
             const Box& box = legend.box;
-            painter_.fillRect(QRect(box.left, box.top, box.width(), box.height()), translucentBackground());
+            painter_.fillRect(QRect(box.left, box.top, box.width(), box.height()), options_.background);
         }
         drawTexts(painter_, legend.title, measure_, options_.fontScale);
         for (const SLegend::Entry& entry : legend.entries) {
             paintLegendSample(painter_, entry, entry.text.box.height(), options_.lengthScale, options_.background);
             painter_.setPen(Qt::black);
             drawTexts(painter_, std::span(&entry.text, 1), measure_, options_.fontScale);
+            drawTexts(painter_, entry.more, measure_, options_.fontScale);
         }
     }
 

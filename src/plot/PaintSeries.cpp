@@ -17,6 +17,7 @@ constexpr int kNarrowBar = 3;
 constexpr double kBarTint = 0.55;  // share of white in the inside of a bar
 constexpr int kLargestPen = 100;
 constexpr int kLargestMarker = 400;
+constexpr double kLongestDashed = 8.0;  // widths of the plot area
 
 int scaledSize(int stored, int largest, double lengthScale) {
     return static_cast<int>(std::lround(std::clamp(stored, 1, largest) * lengthScale));
@@ -74,7 +75,9 @@ void paintMarkers(QPainter& painter, const SeriesAtrType& attributes, const std:
     }
 }
 
-void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box, double lengthScale) {
+// A bar stands on an axis, which closes it; closed: it has a lower border of its own.
+void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box, double lengthScale,
+              bool closed = false) {
     if (box.width() <= 0 || box.height() <= 0) {
         return;
     }
@@ -85,7 +88,7 @@ void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box
     const QRect rect(box.left, box.top, box.width(), box.height());
     painter.fillRect(rect, colour);
     if (box.width() >= kNarrowBar * border && box.height() > border) {
-        painter.fillRect(rect.adjusted(border, border, -border, 0), tint);
+        painter.fillRect(rect.adjusted(border, border, -border, closed ? -border : 0), tint);
     }
 }
 
@@ -121,19 +124,42 @@ bool paintsPixels(const QPainter& painter) {
            painter.deviceTransform().type() <= QTransform::TxTranslate;
 }
 
-void paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
+// Dashes along a curve that winds much cannot be told from its windings.
+bool winds(const Polylines& lines, int width) {
+    double length = 0.0;
+    for (const std::vector<Spot>& part : lines.parts) {
+        for (std::size_t i = 1; i < part.size(); ++i) {
+            length += std::hypot(part[i].x - part[i - 1].x, part[i].y - part[i - 1].y);
+        }
+    }
+    return length > kLongestDashed * width;
+}
+
+// Returns the pen style that was used.
+int paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
     const Polylines lines = polylineEnvelope(series, geometry);
-    const QPen pen = seriesPen(series.attributes, lines.dense ? 0 : series.attributes.penStyle, lengthScale);
+    const int wanted = series.attributes.penStyle;
+    const int style = lines.dense || (wanted != 0 && winds(lines, geometry.width)) ? 0 : wanted;
+    const QPen pen = seriesPen(series.attributes, style, lengthScale);
     if (lines.dense && pen.width() == 1 && paintsPixels(painter)) {
         Box area = plotArea(geometry);
         ++area.right;  // both edges belong to the plot area
         ++area.bottom;
         fillColumnRuns(painter, columnRuns(lines, area), pen);
-        return;
+        return style;
     }
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     strokePolylines(painter, clipsByItself(painter) ? lines : clipped(lines, plotArea(geometry)));
+    return style;
+}
+
+// Fine pictures have room for smooth curves; on a screen whole pixels are sharper.
+void smoothen(QPainter& painter, double lengthScale) {
+    if (lengthScale > 1.0 && paintsPixels(painter)) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(0.5, 0.5);  // coordinates name pixels, whose middle a line follows
+    }
 }
 
 }  // namespace
@@ -200,24 +226,28 @@ void fillColumnRuns(QPainter& painter, const ColumnRuns& runs, const QPen& pen) 
     }
 }
 
-void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry,
-                 const SeriesOptions& options) {
+int paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry,
+                const SeriesOptions& options) {
     const double lengthScale = options.lengthScale;
     const SeriesAtrType& attributes = series.attributes;
+    int penStyle = attributes.penStyle;
     painter.save();
-    if (attributes.style != SeriesStyle::Arrows) {
+    if (attributes.style == SeriesStyle::Line || attributes.style == SeriesStyle::LineAndMarkers) {
+        painter.save();
         painter.setClipRect(
             QRect(geometry.originX, geometry.originY - geometry.height, geometry.width + 1, geometry.height + 1),
             Qt::IntersectClip);
+        smoothen(painter, lengthScale);
+        penStyle = paintLine(painter, series, geometry, lengthScale);
+        painter.restore();
     }
     switch (attributes.style) {
         case SeriesStyle::Line:
-            paintLine(painter, series, geometry, lengthScale);
             break;
         case SeriesStyle::LineAndMarkers:
-            paintLine(painter, series, geometry, lengthScale);
-            [[fallthrough]];
         case SeriesStyle::Markers:
+            // Whole, also on an edge of the plot area.
+            smoothen(painter, lengthScale);
             paintMarkers(painter, attributes, markerSpots(series, geometry), lengthScale, options.background);
             break;
         case SeriesStyle::Bars:
@@ -226,6 +256,7 @@ void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils
             }
             break;
         case SeriesStyle::Arrows: {
+            smoothen(painter, lengthScale);
             std::vector<Arrow> visible;
             for (const Arrow& arrow : arrows(series, geometry, lengthScale)) {
                 visible.push_back(clipped(arrow, options.pane));
@@ -236,6 +267,7 @@ void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils
         }
     }
     painter.restore();
+    return penStyle;
 }
 
 void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale,
@@ -244,11 +276,15 @@ void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineH
     const Spot& start = entry.sampleStart;
     const Spot end{start.x + entry.sampleLength, start.y};
     const Spot middle{start.x + entry.sampleLength / 2, start.y};
+    painter.save();
+    if (attributes.style != SeriesStyle::Bars) {
+        smoothen(painter, lengthScale);
+    }
     painter.setPen(seriesPen(attributes, attributes.penStyle, lengthScale));
     switch (attributes.style) {
         case SeriesStyle::Bars: {
             const int half = lineHeight / 4;
-            paintBar(painter, attributes, {start.x, start.y - half, end.x, start.y + half}, lengthScale);
+            paintBar(painter, attributes, {start.x, start.y - half, end.x, start.y + half}, lengthScale, true);
             break;
         }
         case SeriesStyle::Arrows:
@@ -265,6 +301,7 @@ void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineH
             paintMarkers(painter, attributes, {middle}, lengthScale, background);
             break;
     }
+    painter.restore();
 }
 
 }  // namespace vorlan

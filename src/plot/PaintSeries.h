@@ -30,9 +30,11 @@ struct SeriesOptions {
     Box pane = {};                  ///< where arrows end that are too long
 };
 
-/// Draws one series, clipped to the plot area; arrows from points on the plot area are clipped to the pane.
-void paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry,
-                 const SeriesOptions& options);
+/// Draws one series: lines and bars clipped to the plot area, markers at points on it whole, arrows from there clipped
+/// to the pane. Returns the pen style of its line, which is solid where the dashes of the attributes would not be told
+/// apart.
+int paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry,
+                const SeriesOptions& options);
 
 /// Draws the sample of a legend entry as its series is drawn.
 void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineHeight, double lengthScale,

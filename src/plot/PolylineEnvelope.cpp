@@ -130,11 +130,12 @@ std::size_t columnEnd(const SeriesX& x, const PixelScale& pixels, std::size_t i,
     return end;
 }
 
-void addEvenlySpaced(const PlotSeries& series, Envelope& envelope) {
+// The points from, .., to - 1.
+void addEvenlySpaced(const PlotSeries& series, std::size_t from, std::size_t to, Envelope& envelope) {
     const PixelScale& pixels = envelope.xPixels();
-    const std::size_t n = pointCount(series);
+    const std::size_t n = to;
     std::size_t width = 1;
-    for (std::size_t i = 0; i < n;) {
+    for (std::size_t i = from; i < n;) {
         const std::size_t end = columnEnd(series.x, pixels, i, i + width, n);
         const int offset = pixels.offset(series.x.at(i));
         const bool placed = pixels.places(series.x.at(i)) && pixels.places(series.x.at(end - 1));
@@ -151,19 +152,48 @@ void addEvenlySpaced(const PlotSeries& series, Envelope& envelope) {
     }
 }
 
+// The first of n evenly spaced points that lies in pixel column offset or right of it. Points that have no place on the
+// axis lie at its far left.
+std::size_t firstFrom(const SeriesX& x, const PixelScale& pixels, int offset, std::size_t n) {
+    std::size_t low = 0;
+    while (low < n) {
+        const std::size_t middle = low + (n - low) / 2;
+        if (pixels.offset(x.at(middle)) < offset) {
+            low = middle + 1;
+        } else {
+            n = middle;
+        }
+    }
+    return low;
+}
+
 }  // namespace
 
 Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometry) {
     Envelope envelope(geometry);
     const std::size_t n = pointCount(series);
     if (series.x.values.empty()) {
-        addEvenlySpaced(series, envelope);
+        addEvenlySpaced(series, 0, n, envelope);
     } else {
         for (std::size_t i = 0; i < n; ++i) {
             envelope.addPoint(series.x.values[i], series.y[i]);
         }
     }
     return envelope.finish(n);
+}
+
+Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometry, int left, int right) {
+    const std::size_t n = pointCount(series);
+    Envelope envelope(geometry);
+    const PixelScale& pixels = envelope.xPixels();
+    if (!series.x.values.empty() || n < 2 || pixels.offset(series.x.at(0)) > pixels.offset(series.x.at(n - 1))) {
+        return polylineEnvelope(series, geometry);
+    }
+    // One point more on either side, for the strokes that lead there.
+    const std::size_t from = firstFrom(series.x, pixels, left - geometry.originX, n);
+    const std::size_t to = firstFrom(series.x, pixels, right + 1 - geometry.originX, n);
+    addEvenlySpaced(series, from - std::min<std::size_t>(from, 1), std::min(to + 1, n), envelope);
+    return envelope.finish(to - from);
 }
 
 Polylines fullPolyline(const PlotSeries& series, const CScreenUtils& geometry) {

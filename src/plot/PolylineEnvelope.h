@@ -19,6 +19,9 @@ struct Polylines {
 };
 Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometry);
 
+/// The part of them that may touch the pixel columns left to right; all of them where the points are not evenly spaced.
+Polylines polylineEnvelope(const PlotSeries& series, const CScreenUtils& geometry, int left, int right);
+
 /// The polylines through every point, for comparison.
 Polylines fullPolyline(const PlotSeries& series, const CScreenUtils& geometry);
 

@@ -6,6 +6,7 @@
 
 #include "model/Archive.h"
 #include "model/FrameAttributes.h"
+#include "model/PixelScale.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -14,6 +15,7 @@ namespace {
 
 constexpr double kExponentShare = 0.7;
 constexpr int kMostDigits = 12;
+constexpr double kEndTolerance = 1e-9;  // decades
 
 int decadeOffset(int k, int pixelsPerDecade) {
     return static_cast<int>(std::log10(static_cast<double>(k)) * pixelsPerDecade);
@@ -114,20 +116,71 @@ std::vector<Line> SAxis::linearTicks() const {
     return ticks;
 }
 
+std::vector<SAxis::DecadeStep> SAxis::decadeSteps(int k) const {
+    std::vector<DecadeStep> steps;
+    if (decadeScale == 0.0) {
+        const int first = exponentOf(minimum);
+        for (int i = 0; i < markCount; ++i) {
+            steps.push_back({first + i, i * pixelsPerMark + decadeOffset(k, pixelsPerMark)});
+        }
+        return steps;
+    }
+    const PixelScale pixels(minimum, decadeScale, true);
+    const double lowest = std::log10(std::min(minimum, maximum));
+    const double highest = std::log10(std::max(minimum, maximum));
+    const double above = std::log10(static_cast<double>(k));
+    const auto last = static_cast<int>(std::floor(highest - above + kEndTolerance));
+    for (auto decade = static_cast<int>(std::ceil(lowest - above - kEndTolerance)); decade <= last; ++decade) {
+        steps.push_back({decade, pixels.offset(k * std::pow(10.0, decade))});
+    }
+    return steps;
+}
+
+std::vector<SAxis::DecadeStep> SAxis::decadeMarks() const {
+    std::vector<DecadeStep> steps = decadeSteps(1);
+    if (decadeScale == 0.0) {
+        steps.push_back({exponentOf(minimum) + markCount, markCount * pixelsPerMark});
+    }
+    return steps;
+}
+
+std::vector<int> SAxis::decadeOffsets(int firstDigit) const {
+    std::vector<int> offsets;
+    for (int k = firstDigit; k <= 9; ++k) {
+        for (const DecadeStep& step : decadeSteps(k)) {
+            offsets.push_back(step.offset);
+        }
+    }
+    std::sort(offsets.begin(), offsets.end());
+    return offsets;
+}
+
+std::vector<int> SAxis::markOffsets() const {
+    std::vector<int> offsets;
+    if (decadeScale != 0.0) {
+        for (const DecadeStep& step : decadeMarks()) {
+            offsets.push_back(step.offset);
+        }
+        return offsets;
+    }
+    for (int i = 0; i <= markCount; ++i) {
+        offsets.push_back(i * pixelsPerMark);
+    }
+    return offsets;
+}
+
 std::vector<Line> SAxis::logarithmicTicks() const {
     std::vector<Line> ticks;
-    for (int i = 0; i < markCount; ++i) {
-        for (int k = 1; k <= 9; ++k) {
-            ticks.push_back(strokeAt(i * pixelsPerMark + decadeOffset(k, pixelsPerMark), tickLength));
-        }
+    for (const int offset : decadeOffsets(1)) {
+        ticks.push_back(strokeAt(offset, tickLength));
     }
     return ticks;
 }
 
 std::vector<Line> SAxis::marks() const {
     std::vector<Line> lines;
-    for (int i = 0; i <= markCount; ++i) {
-        lines.push_back(strokeAt(i * pixelsPerMark, markLength));
+    for (const int offset : markOffsets()) {
+        lines.push_back(strokeAt(offset, markLength));
     }
     return lines;
 }
@@ -144,9 +197,7 @@ int SAxis::room(int labelWidth, int labelHeight) const {
 }
 
 std::string SAxis::linearLabel(double value) const {
-    // Zero by accumulated steps is off by rounding errors, which must not show as a sign.
-    const double shown = std::fabs(value) < std::fabs(markStep) * 1e-9 ? 0.0 : value;
-    return formatted("%.*f", std::clamp(decimalDigits, 0, kMostDigits), shown);
+    return numberText(value, std::clamp(decimalDigits, 0, kMostDigits));
 }
 
 AxisLabels SAxis::linearLabels(const TextMeasure& measure) const {
@@ -180,13 +231,12 @@ AxisLabels SAxis::logarithmicLabels(const TextMeasure& measure) const {
     const int raise = height / 2;
     const int tenWidth = measure.width("10", labelFont);
     const int exponentHeight = measure.height(labelFont, kExponentShare);
-    const int first = exponentOf(minimum);
     int widest = 0;
     LabelRow row;
-    for (int i = 0; i <= markCount; ++i) {
-        const std::string exponent = formatted("%d", first + i);
+    for (const DecadeStep& step : decadeMarks()) {
+        const std::string exponent = formatted("%d", step.decade);
         const int exponentWidth = measure.width(exponent, labelFont, kExponentShare);
-        const Box box = labelBox(i * pixelsPerMark, tenWidth + exponentWidth, height);
+        const Box box = labelBox(step.offset, tenWidth + exponentWidth, height);
         if (!row.hasRoom(box)) {
             continue;
         }
@@ -202,8 +252,13 @@ AxisLabels SAxis::logarithmicLabels(const TextMeasure& measure) const {
 }
 
 void SAxis::addGridOnMarks(std::vector<Line>& lines) const {
-    for (int i = 1; i < markCount && gridOn(gridMode, GridMode::Marks); ++i) {
-        lines.push_back(gridLineAt(i * pixelsPerMark));
+    if (!gridOn(gridMode, GridMode::Marks)) {
+        return;
+    }
+    for (const int offset : markOffsets()) {
+        if (offset > 0 && offset < length) {
+            lines.push_back(gridLineAt(offset));
+        }
     }
 }
 
@@ -227,9 +282,9 @@ std::vector<Line> SAxis::logarithmicGrid() const {
     if (!carriesLabels()) {
         return lines;
     }
-    for (int i = 0; i < markCount && gridOn(gridMode, GridMode::Ticks); ++i) {
-        for (int k = 2; k <= 9; ++k) {
-            lines.push_back(gridLineAt(i * pixelsPerMark + decadeOffset(k, pixelsPerMark)));
+    if (gridOn(gridMode, GridMode::Ticks)) {
+        for (const int offset : decadeOffsets(2)) {
+            lines.push_back(gridLineAt(offset));
         }
     }
     addGridOnMarks(lines);

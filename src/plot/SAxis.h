@@ -50,6 +50,9 @@ class SAxis : public SObject {
     std::int32_t gridPenWidth = 1;
     std::int32_t gridPenStyle = 2;
     std::int32_t gridColour = 0;
+    /// Pixels per decade of a logarithmic axis with an end between two powers of ten (negative when it runs backward);
+    /// 0 for one of whole decades, which has pixelsPerMark. Not stored.
+    double decadeScale = 0.0;
 
     const char* ClassName() const override { return "SAxis"; }
     void Serialize(Archive& archive) override;
@@ -57,15 +60,17 @@ class SAxis : public SObject {
     bool horizontal() const;
     /// Sets markCount = |maximum - minimum| / markStep truncated and pixelsPerMark = length div markCount.
     void recomputeMarks();
+    double pixelsPerDecade() const { return decadeScale != 0.0 ? decadeScale : pixelsPerMark; }
 
     Line axisLine() const;
     /// Linear: at i * pixelsPerMark + j * t, j = 0..ticksPerMark, t = length div (markCount * (ticksPerMark + 1)).
     std::vector<Line> linearTicks() const;
-    /// At i * pixelsPerMark + trunc(log10(k) * pixelsPerMark), k = 1..9.
+    /// At i * pixelsPerMark + trunc(log10(k) * pixelsPerMark), k = 1..9; between other ends where the pixel scale of
+    /// the axis puts them.
     std::vector<Line> logarithmicTicks() const;
     std::vector<Line> marks() const;
-    /// "%.*f" of minimum + i * markStep, centred on the marks. None when the mark length is 0. A label that would
-    /// cover the one before it is left out.
+    /// "%.*f" of minimum + i * markStep without the sign of a zero, centred on the marks. None when the mark length is
+    /// 0. A label that would cover the one before it is left out.
     AxisLabels linearLabels(const TextMeasure& measure) const;
     /// "10" with its exponent raised beside it, centred on the decades.
     AxisLabels logarithmicLabels(const TextMeasure& measure) const;
@@ -74,6 +79,16 @@ class SAxis : public SObject {
     std::vector<Line> logarithmicGrid() const;
 
   private:
+    /// A power of ten on the axis, times a digit.
+    struct DecadeStep {
+        int decade;
+        int offset;
+    };
+    /// Those of one digit k, 1..9; of whole decades without the end of the last one.
+    std::vector<DecadeStep> decadeSteps(int k) const;
+    std::vector<DecadeStep> decadeMarks() const;
+    std::vector<int> decadeOffsets(int firstDigit) const;
+    std::vector<int> markOffsets() const;
     Line strokeAt(int offset, int strokeLength) const;
     Line gridLineAt(int offset) const;
     bool carriesLabels() const;

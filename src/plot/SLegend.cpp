@@ -11,17 +11,18 @@ constexpr int kSampleLength = 24;
 constexpr int kSampleGap = 4;  // between sample and text, and around the legend
 constexpr int kEntryGap = 12;  // between entries of one row
 constexpr int kLineGap = 2;
+constexpr std::size_t kMostLines = 3;  // of one entry
 
 class Composer {
   public:
-    Composer(const Diagram& diagram, int maxWidth, const TextMeasure& measure, double lengthScale)
+    Composer(const Diagram& diagram, LegendPosition position, int maxWidth, const TextMeasure& measure,
+             double lengthScale)
         : font_(diagram.frame.legendFont),
           maxWidth_(maxWidth),
           measure_(measure),
           scale_(lengthScale),
-          rows_(diagram.frame.legendPosition == static_cast<std::int32_t>(LegendPosition::Bottom)),
+          rows_(position == LegendPosition::Bottom),
           height_(measure.height(font_)) {
-        legend_.inPlotArea = !rows_;
         x_ = y_ = scaled(kSampleGap);
     }
 
@@ -83,8 +84,17 @@ class Composer {
         entry.attributes = attributes;
         entry.sampleStart = {x_, y_ + height_ / 2};
         entry.sampleLength = sampleLength;
-        entry.text = placed(attributes.legendText, x_ + sampleLength + scaled(kSampleGap));
-        advance(entry.text.box.right);
+        const int left = x_ + sampleLength + scaled(kSampleGap);
+        const int room = std::max(maxWidth_ - scaled(kSampleGap) - left, 0);
+        const std::vector<std::string> lines = wrapped(attributes.legendText, font_, room, measure_, kMostLines);
+        entry.text = placed(lines.empty() ? std::string() : lines.front(), left);
+        int right = entry.text.box.right;
+        for (std::size_t i = 1; i < lines.size(); ++i) {
+            y_ += height_;
+            entry.more.push_back(placed(lines[i], left));
+            right = std::max(right, entry.more.back().box.right);
+        }
+        advance(right);
         legend_.entries.push_back(entry);
     }
 
@@ -111,18 +121,37 @@ void SLegend::move(int dx, int dy) {
     for (Entry& entry : entries) {
         entry.sampleStart = {entry.sampleStart.x + dx, entry.sampleStart.y + dy};
         entry.text.box = entry.text.box.moved(dx, dy);
+        for (PlacedText& text : entry.more) {
+            text.box = text.box.moved(dx, dy);
+        }
     }
 }
 
-SLegend placeLegend(const Diagram& diagram, int maxWidth, const TextMeasure& measure, double lengthScale) {
+bool SLegend::complete() const {
+    const auto whole = [](const Entry& entry) {
+        std::string shown = entry.text.text;
+        for (const PlacedText& text : entry.more) {
+            shown += " " + text.text;
+        }
+        return shown == entry.attributes.legendText;
+    };
+    return !empty() && std::all_of(entries.begin(), entries.end(), whole);
+}
+
+bool hasLegend(const Diagram& diagram) {
     const std::int32_t position = diagram.frame.legendPosition;
     const bool wanted = position == static_cast<std::int32_t>(LegendPosition::Bottom) ||
                         position == static_cast<std::int32_t>(LegendPosition::RightTop);
     const auto hasText = [](const PlotSeries& series) { return !series.attributes.legendText.empty(); };
-    if (!wanted || std::none_of(diagram.plot.series.begin(), diagram.plot.series.end(), hasText)) {
+    return wanted && std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), hasText);
+}
+
+SLegend placeLegend(const Diagram& diagram, LegendPosition position, int maxWidth, const TextMeasure& measure,
+                    double lengthScale) {
+    if (!hasLegend(diagram)) {
         return {};
     }
-    return Composer(diagram, maxWidth, measure, lengthScale).compose(diagram);
+    return Composer(diagram, position, maxWidth, measure, lengthScale).compose(diagram);
 }
 
 }  // namespace vorlan

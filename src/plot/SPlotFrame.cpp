@@ -5,6 +5,8 @@
 
 #include "model/Text.h"
 #include "plot/DataExtent.h"
+#include "plot/EdgeNotes.h"
+#include "plot/LegendRoom.h"
 #include "plot/PlanExtent.h"
 
 namespace vorlan {
@@ -16,20 +18,32 @@ constexpr int kSmallestWidth = 60;
 constexpr int kSmallestHeight = 40;
 constexpr int kLongestStroke = 200;
 constexpr int kMostTicks = 100;
-constexpr double kLargestLegend = 0.25;  // share of the plot area that a legend may cover
-constexpr int kSmallestDecade = 4;       // pixels
+constexpr int kSmallestDecade = 4;  // pixels
 constexpr int kMostPlanLayouts = 8;
+constexpr std::size_t kMostTitleLines = 3;
+constexpr double kLeastBesideLegend = 0.6;  // share of the width that a legend beside the plot area leaves to it
 
-bool blank(const std::string& text) {
-    return text.find_first_not_of(' ') == std::string::npos;
-}
+enum class LegendPlace { Inside, Beside, Below, Nowhere };
+
+// What a layout is asked for besides the diagram itself.
+struct Wishes {
+    LegendPlace legend = LegendPlace::Inside;
+    std::vector<std::string> above;  // lines between title and plot area
+    std::vector<std::string> below;  // lines between labels and axis title
+};
 
 // One layout in the making.
 class Composer {
   public:
     Composer(const Diagram& diagram, const TextMeasure& measure, double scale, const Box& pane,
-             const DataExtent& extent)
-        : diagram_(diagram), frame_(diagram.frame), measure_(measure), scale_(scale), pane_(pane), extent_(extent) {
+             const DataExtent& extent, const Wishes& wishes)
+        : diagram_(diagram),
+          frame_(diagram.frame),
+          measure_(measure),
+          scale_(scale),
+          pane_(pane),
+          extent_(extent),
+          wishes_(wishes) {
         out_.geometry.scaleType = SPlotFrame::effectiveScale(diagram);
         logX_ = out_.geometry.logX();
         logY_ = out_.geometry.logY();
@@ -45,7 +59,7 @@ class Composer {
         finishAxes();
         collectShapes();
         addTitles();
-        placeLegendInPlotArea();
+        placeLegendAtPlotArea();
         out_.state = FrameLayout::State::Drawn;
         return std::move(out_);
     }
@@ -80,6 +94,17 @@ class Composer {
         y_.decimalDigits = frame_.yDigits;
         y_.title = frame_.yTitle;
         labelHeight_ = x_.markLength == 0 ? 0 : measure_.height(frame_.labelFont);
+        const int width = pane_.width() - 2 * gap();
+        title_ = wrapped(frame_.plotTitle, frame_.plotTitleFont, width, measure_, kMostTitleLines);
+        xTitle_ = wrapped(frame_.xTitle, frame_.axisTitleFont, width, measure_, kMostTitleLines);
+        yTitle_ = wrapped(frame_.yTitle, frame_.axisTitleFont, pane_.height() - 2 * gap(), measure_, kMostTitleLines);
+        for (const auto& [notes, lines] : {std::pair(&wishes_.above, &above_), std::pair(&wishes_.below, &below_)}) {
+            for (const std::string& note : *notes) {
+                const std::vector<std::string> parts =
+                    wrapped(note, frame_.labelFont, width, measure_, kMostTitleLines);
+                lines->insert(lines->end(), parts.begin(), parts.end());
+            }
+        }
     }
 
     void chooseLimits() {
@@ -105,14 +130,6 @@ class Composer {
             yLimits_ = chosen.limits;
             yAutomatic_ = chosen.automaticStep;
         }
-        chooseDigits(x_, xLimits_, frame_.xStepMode, frame_.xDigits);
-    }
-
-    // Digits that the user has chosen, or that go with his step, stay.
-    void chooseDigits(SAxis& axis, const AxisLimits& limits, int stepMode, int stored) const {
-        if (diagram_.planRoom && stepMode == 0 && stored == FrameAttributesType().xDigits) {
-            axis.decimalDigits = labelDigits(limits, stored);
-        }
     }
 
     // Size of the labels of an axis before its length is known: those of its two ends.
@@ -124,7 +141,9 @@ class Composer {
         ends.markStep = limits.upper - limits.lower;
         ends.pixelsPerMark = pane_.width() + pane_.height();
         if (logarithmic) {
+            ends.maximum = limits.upper;
             ends.markCount = limits.marks;
+            ends.decadeScale = limits.wholeDecades ? 0.0 : limits.decadesPer(ends.pixelsPerMark);
         }
         int widest = 0;
         if (logarithmic) {
@@ -140,24 +159,34 @@ class Composer {
         return widest;
     }
 
+    int linesHeight(const std::vector<std::string>& lines, const FontDescription& font) const {
+        return static_cast<int>(lines.size()) * measure_.height(font);
+    }
+
     bool placeVertically() {
         int top = pane_.top + gap();
-        if (!blank(frame_.plotTitle)) {
+        if (!title_.empty()) {
             titleTop_ = top;
-            top += measure_.height(frame_.plotTitleFont) + gap();
+            top += linesHeight(title_, frame_.plotTitleFont) + gap();
         }
+        aboveTop_ = top;
+        top += linesHeight(above_, frame_.labelFont);
         top += std::max(labelHeight_ / 2, fullFrame() ? outwardMark() : 0);
         int bottom = pane_.bottom - gap();
-        legend_ = placeLegend(diagram_, pane_.width() - 2 * gap(), measure_, scale_);
-        if (!legend_.empty() && !legend_.inPlotArea) {
+        if (wishes_.legend == LegendPlace::Below) {
+            legend_ = placeLegend(diagram_, LegendPosition::Bottom, pane_.width() - 2 * gap(), measure_, scale_);
             bottom -= legend_.box.height();
             legend_.move(0, bottom - legend_.box.top);
+        } else if (wishes_.legend == LegendPlace::Beside) {
+            legend_ = placeLegend(diagram_, LegendPosition::RightTop, pane_.width() / 2, measure_, scale_);
         }
-        if (!blank(frame_.xTitle)) {
-            bottom -= measure_.height(frame_.axisTitleFont);
+        if (!xTitle_.empty()) {
+            bottom -= linesHeight(xTitle_, frame_.axisTitleFont);
             xTitleTop_ = bottom;
             bottom -= gap();
         }
+        bottom -= linesHeight(below_, frame_.labelFont);
+        belowTop_ = bottom;
         bottom -= x_.labelOffset + outwardMark() + labelHeight_;
         out_.geometry.originY = bottom;
         out_.geometry.height = bottom - top;
@@ -168,7 +197,7 @@ class Composer {
     bool fit(SAxis& axis, AxisLimits limits, bool automatic, int length, int labelSize) {
         const int room = labelSize > 0 ? length / labelSize : length;
         const bool tooFine = limits.marks > length;
-        if (automatic || tooFine) {
+        if (automatic || (tooFine && limits.wholeDecades)) {
             const int most = std::min(room, length);
             limits = withMarks(limits, fittedMarks(limits.marks, most, !axis.horizontal()));
         }
@@ -178,12 +207,25 @@ class Composer {
         axis.markCount = limits.marks;
         axis.pixelsPerMark = length / limits.marks;
         axis.length = axis.pixelsPerMark * limits.marks;
+        if (!limits.wholeDecades) {
+            axis.length = length;
+            axis.pixelsPerMark = std::max(axis.pixelsPerMark, 1);
+            axis.decadeScale = limits.decadesPer(length);
+        }
         return room >= 1 && axis.pixelsPerMark >= 1;
+    }
+
+    // Digits that the user has chosen, or that go with his step, stay.
+    void chooseDigits(SAxis& axis, bool logarithmic, int stepMode, int stored, int usual) const {
+        axis.decimalDigits = stored;
+        if (!logarithmic && stepMode == 0 && stored == usual) {
+            axis.decimalDigits = labelDigits({axis.minimum, axis.maximum, axis.markStep, axis.markCount}, stored);
+        }
     }
 
     bool fitY() {
         const bool fits = fit(y_, yLimits_, yAutomatic_, out_.geometry.height, labelHeight_);
-        chooseDigits(y_, limitsOf(y_), frame_.yStepMode, frame_.yDigits);
+        chooseDigits(y_, logY_, frame_.yStepMode, frame_.yDigits, diagram_.usualDigits.y);
         return fits;
     }
 
@@ -192,13 +234,14 @@ class Composer {
         y_.originX = y_.originY = 0;
         const AxisLabels labels = logY_ ? y_.logarithmicLabels(measure_) : y_.linearLabels(measure_);
         int left = pane_.left + gap();
-        if (!blank(frame_.yTitle)) {
+        if (!yTitle_.empty()) {
             yTitleLeft_ = left;
-            left += measure_.height(frame_.axisTitleFont) + gap();
+            left += linesHeight(yTitle_, frame_.axisTitleFont) + gap();
         }
         left = std::max(left + std::max(labels.room, outwardMark()), pane_.left + gap() + xLabel / 2);
         int right = pane_.right - std::max(xLabel - xLabel / 2 + 1, gap());
         right -= fullFrame() ? std::max(outwardMark() - xLabel / 2, 0) : 0;
+        right -= wishes_.legend == LegendPlace::Beside ? legend_.box.width() : 0;
         out_.geometry.originX = left;
         out_.geometry.width = right - left;
         xLabelWidth_ = xLabel;
@@ -209,19 +252,15 @@ class Composer {
         for (;;) {
             const int measured = x_.decimalDigits;
             const bool fits = fit(x_, xLimits_, xAutomatic_, out_.geometry.width, xLabelWidth_);
-            chooseDigits(x_, limitsOf(x_), frame_.xStepMode, frame_.xDigits);
+            chooseDigits(x_, logX_, frame_.xStepMode, frame_.xDigits, diagram_.usualDigits.x);
             if (!fits || x_.decimalDigits <= measured) {
                 return fits;
             }
-            // A step that was thinned may need longer labels than there was room for.
+            // A thinned step may need longer labels than there was room for.
             if (!placeHorizontally()) {
                 return false;
             }
         }
-    }
-
-    static AxisLimits limitsOf(const SAxis& axis) {
-        return {axis.minimum, axis.maximum, axis.markStep, axis.markCount};
     }
 
     void finishAxes() {
@@ -236,8 +275,8 @@ class Composer {
         g.yMax = y_.maximum;
         g.xStep = x_.markStep;
         g.yStep = y_.markStep;
-        g.xScale = logX_ ? x_.pixelsPerMark : x_.markStep / x_.pixelsPerMark;
-        g.yScale = logY_ ? y_.pixelsPerMark : y_.markStep / y_.pixelsPerMark;
+        g.xScale = logX_ ? x_.pixelsPerDecade() : x_.markStep / x_.pixelsPerMark;
+        g.yScale = logY_ ? y_.pixelsPerDecade() : y_.markStep / y_.pixelsPerMark;
         x_.originX = y_.originX = g.originX;
         x_.originY = y_.originY = g.originY;
         x_.gridLength = g.height;
@@ -291,47 +330,47 @@ class Composer {
         return std::max(std::min(wanted, pane_.right - gap() - width), pane_.left + gap());
     }
 
-    void addCentred(const std::string& title, const FontDescription& font, int top) {
-        const std::string shown = shortened(title, font, pane_.width() - 2 * gap(), measure_);
-        const int width = measure_.width(shown, font);
-        const int left = centredLeft(width);
-        out_.texts.push_back({shown, {left, top, left + width, top + measure_.height(font)}, font});
+    void addCentred(const std::vector<std::string>& lines, const FontDescription& font, int top) {
+        const int height = measure_.height(font);
+        for (const std::string& line : lines) {
+            const int width = measure_.width(line, font);
+            const int left = centredLeft(width);
+            out_.texts.push_back({line, {left, top, left + width, top + height}, font});
+            top += height;
+        }
     }
 
     void addTitles() {
-        if (!blank(frame_.plotTitle)) {
-            addCentred(frame_.plotTitle, frame_.plotTitleFont, titleTop_);
-        }
-        if (!blank(frame_.xTitle)) {
-            addCentred(frame_.xTitle, frame_.axisTitleFont, xTitleTop_);
-        }
-        if (!blank(frame_.yTitle)) {
-            const FontDescription& font = frame_.axisTitleFont;
-            const std::string shown = shortened(frame_.yTitle, font, pane_.height() - 2 * gap(), measure_);
-            const int length = measure_.width(shown, font);
+        addCentred(title_, frame_.plotTitleFont, titleTop_);
+        addCentred(above_, frame_.labelFont, aboveTop_);
+        addCentred(below_, frame_.labelFont, belowTop_);
+        addCentred(xTitle_, frame_.axisTitleFont, xTitleTop_);
+        const FontDescription& font = frame_.axisTitleFont;
+        int left = yTitleLeft_;
+        for (const std::string& line : yTitle_) {
+            const int length = measure_.width(line, font);
             const int wanted = out_.geometry.originY - (out_.geometry.height - length) / 2;
             const int bottom = std::min(std::max(wanted, pane_.top + gap() + length), pane_.bottom - gap());
             out_.texts.push_back(
-                {shown, {yTitleLeft_, bottom - length, yTitleLeft_ + measure_.height(font), bottom}, font, 1.0, true});
+                {line, {left, bottom - length, left + measure_.height(font), bottom}, font, 1.0, true});
+            left += measure_.height(font);
         }
     }
 
-    void placeLegendInPlotArea() {
-        if (legend_.empty()) {
-            return;
-        }
+    void placeLegendAtPlotArea() {
         const CScreenUtils& g = out_.geometry;
-        if (!legend_.inPlotArea) {
+        if (wishes_.legend == LegendPlace::Below) {
             legend_.move(centredLeft(legend_.box.width()) - legend_.box.left, 0);
-            out_.legend = legend_;
-            return;
+        } else if (wishes_.legend == LegendPlace::Beside) {
+            legend_.move(pane_.right - gap() - legend_.box.width(), g.originY - g.height);
+        } else if (wishes_.legend == LegendPlace::Inside) {
+            legend_ = placeLegend(diagram_, LegendPosition::RightTop, g.width - 2 * gap(), measure_, scale_);
+            const int inset = gap() + std::max(-x_.markLength, 0) * (fullFrame() ? 1 : 0);
+            legend_.move(g.originX + g.width - inset - legend_.box.width(), g.originY - g.height + inset);
+            legend_.inPlotArea = true;
         }
-        legend_ = placeLegend(diagram_, g.width - 2 * gap(), measure_, scale_);
-        const int inset = gap() + std::max(-x_.markLength, 0) * (fullFrame() ? 1 : 0);
-        legend_.move(g.originX + g.width - inset - legend_.box.width(), g.originY - g.height + inset);
         const Box plotArea{g.originX, g.originY - g.height, g.originX + g.width, g.originY};
-        const double share = static_cast<double>(legend_.box.width()) * legend_.box.height() / g.width / g.height;
-        if (plotArea.encloses(legend_.box) && share <= kLargestLegend) {
+        if (!legend_.empty() && (legend_.inPlotArea ? plotArea : pane_).encloses(legend_.box)) {
             out_.legend = legend_;
         }
     }
@@ -342,6 +381,7 @@ class Composer {
     double scale_;
     Box pane_;
     const DataExtent& extent_;
+    const Wishes& wishes_;
     FrameLayout out_;
     bool logX_ = false;
     bool logY_ = false;
@@ -352,12 +392,48 @@ class Composer {
     bool xAutomatic_ = true;
     bool yAutomatic_ = true;
     SLegend legend_;
+    std::vector<std::string> title_;
+    std::vector<std::string> xTitle_;
+    std::vector<std::string> yTitle_;
+    std::vector<std::string> above_;
+    std::vector<std::string> below_;
+    int aboveTop_ = 0;
+    int belowTop_ = 0;
     int labelHeight_ = 0;
     int xLabelWidth_ = 0;
     int titleTop_ = 0;
     int xTitleTop_ = 0;
     int yTitleLeft_ = 0;
 };
+
+LegendPlace firstLegendPlace(const Diagram& diagram) {
+    if (!hasLegend(diagram)) {
+        return LegendPlace::Nowhere;
+    }
+    const bool below = diagram.frame.legendPosition == static_cast<std::int32_t>(LegendPosition::Bottom);
+    return below ? LegendPlace::Below : LegendPlace::Inside;
+}
+
+// The layout whose legend stands in the plot area, or one whose legend stands aside where it would cover data.
+template <class Compose>
+FrameLayout withFreeLegend(const Diagram& diagram, double scale, FrameLayout inside, Wishes wishes, Compose compose) {
+    if (!inside.legend.empty() && !coversData(inside.legend.box, diagram, inside.geometry, scale)) {
+        return inside;
+    }
+    wishes.legend = LegendPlace::Beside;
+    FrameLayout beside = compose(wishes);
+    if (beside.state == FrameLayout::State::Drawn && beside.legend.complete() &&
+        beside.geometry.width >= inside.geometry.width * kLeastBesideLegend) {
+        return beside;
+    }
+    wishes.legend = LegendPlace::Below;
+    FrameLayout below = compose(wishes);
+    if (below.state == FrameLayout::State::Drawn && !below.legend.empty()) {
+        return below;
+    }
+    inside.legend = {};
+    return inside;
+}
 
 }  // namespace
 
@@ -396,15 +472,38 @@ FrameLayout SPlotFrame::layout(const Box& pane) const {
     if (!points) {
         return {};
     }
-    if (!diagram_.planRoom) {
-        return Composer(diagram_, measure_, scale_, pane, *points).compose();
+    const auto compose = [&](const Wishes& wishes) {
+        const auto around = [&](const DataExtent& extent) {
+            return Composer(diagram_, measure_, scale_, pane, extent, wishes).compose();
+        };
+        if (!diagram_.planRoom) {
+            return around(*points);
+        }
+        PlanExtent plan(diagram_, measure_, scale_, *points);
+        FrameLayout layout = around(plan.extent());
+        for (int i = 0; i < kMostPlanLayouts && layout.state == FrameLayout::State::Drawn && plan.grow(layout.geometry);
+             ++i) {
+            layout = around(plan.extent());
+        }
+        return layout;
+    };
+    Wishes wishes;
+    wishes.below = diagram_.notes;
+    wishes.legend = firstLegendPlace(diagram_);
+    FrameLayout layout = compose(wishes);
+    if (layout.state != FrameLayout::State::Drawn) {
+        return layout;
     }
-    PlanExtent plan(diagram_, measure_, scale_, *points);
-    FrameLayout layout = Composer(diagram_, measure_, scale_, pane, plan.extent()).compose();
-    for (int i = 0; i < kMostPlanLayouts && layout.state == FrameLayout::State::Drawn && plan.grow(layout.geometry);
-         ++i) {
-        layout = Composer(diagram_, measure_, scale_, pane, plan.extent()).compose();
+    EdgeNotes notes = edgeNotes(diagram_, layout.geometry, layout.axes[0].decimalDigits, layout.axes[1].decimalDigits);
+    if (!notes.empty()) {
+        wishes.above = notes.above;
+        wishes.below.insert(wishes.below.begin(), notes.below.begin(), notes.below.end());
+        layout = compose(wishes);
     }
+    if (layout.state == FrameLayout::State::Drawn && wishes.legend == LegendPlace::Inside) {
+        layout = withFreeLegend(diagram_, scale_, std::move(layout), wishes, compose);
+    }
+    layout.geometry.wider = notes.wider;
     return layout;
 }
 

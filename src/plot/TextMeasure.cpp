@@ -40,4 +40,34 @@ std::string shortened(const std::string& text, const FontDescription& font, int 
     return end == lengths.begin() ? std::string() : cut(*std::prev(end));
 }
 
+std::vector<std::string> wrapped(const std::string& text, const FontDescription& font, int width,
+                                 const TextMeasure& measure, std::size_t mostLines) {
+    std::vector<std::string> lines;
+    if (text.find_first_not_of(' ') == std::string::npos) {
+        return lines;
+    }
+    std::string rest = text;
+    while (lines.size() + 1 < mostLines && measure.width(rest, font) > width) {
+        // The last blank before which the line fits.
+        std::size_t at = std::string::npos;
+        for (std::size_t blank = rest.find(' '); blank != std::string::npos; blank = rest.find(' ', blank + 1)) {
+            if (measure.width(rest.substr(0, blank), font) > width) {
+                break;
+            }
+            at = rest.find_first_not_of(' ') < blank ? blank : at;
+        }
+        const std::size_t next = at == std::string::npos ? at : rest.find_first_not_of(' ', at);
+        if (next == std::string::npos) {
+            break;
+        }
+        lines.push_back(rest.substr(0, at));
+        rest.erase(0, next);
+    }
+    const std::string last = shortened(rest, font, width, measure);
+    if (!last.empty()) {
+        lines.push_back(last);
+    }
+    return lines;
+}
+
 }  // namespace vorlan

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "model/FontDescription.h"
 
@@ -24,5 +25,10 @@ class TextMeasure {
 /// text, shortened with an ellipsis until it is at most width pixels wide; empty when not even that fits.
 std::string shortened(const std::string& text, const FontDescription& font, int width, const TextMeasure& measure,
                       double share = 1.0);
+
+/// text broken at blanks into lines that are at most width pixels wide, at most mostLines of them; what does not fit is
+/// shortened. Not a line for a text of blanks.
+std::vector<std::string> wrapped(const std::string& text, const FontDescription& font, int width,
+                                 const TextMeasure& measure, std::size_t mostLines);
 
 }  // namespace vorlan

@@ -1,5 +1,7 @@
 #include "stages/DiagramParts.h"
 
+#include "model/DefaultFrames.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -24,13 +26,21 @@ Diagram newDiagram(const PaneRequest& request, const SAdvProbe* probe) {
     Diagram diagram;
     if (const auto slot = frameSlotOf(request.stage, request.pane, request.value, request.showTable)) {
         diagram.frame = frameInSlot(request.workspace.dataFiles, probe, *slot);
+        const FrameAttributesType usual =
+            slot->inSet ? defaultPlanFrame(slot->record) : defaultFrame(slot->group, slot->record);
+        diagram.usualDigits = {usual.xDigits, usual.yDigits};
     }
     return diagram;
 }
 
 PaneContent diagramOrMessage(Diagram diagram) {
     if (std::none_of(diagram.plot.series.begin(), diagram.plot.series.end(), holdsNumber)) {
-        return PaneMessage{kNoDataText};
+        // Values that cannot be stored do not come back with a reset.
+        std::string reasons;
+        for (const std::string& note : diagram.notes) {
+            reasons += (reasons.empty() ? "" : "\n") + note;
+        }
+        return PaneMessage{reasons.empty() ? kNoDataText : reasons};
     }
     return diagram;
 }

@@ -21,6 +21,9 @@ struct Decoder {
         for (PlotSeries& series : diagram.plot.series) {
             decode(series.attributes.legendText);
         }
+        for (std::string& note : diagram.notes) {
+            decode(note);
+        }
         for (Diagram::PointLabel& label : diagram.labels) {
             decode(label.text);
         }

@@ -212,9 +212,10 @@ TEST(Layouts, OfLegends) {
         Diagram diagram = usual();
         diagram.frame.legendPosition = position;
         all += formatted("position %d in %d\n", position, width) +
-               textOf(placeLegend(diagram, width, FixedMeasure(), 1.0));
+               textOf(placeLegend(diagram, static_cast<LegendPosition>(position), width, FixedMeasure(), 1.0));
         diagram.frame.legendTitle = " ";
-        all += "without a title\n" + textOf(placeLegend(diagram, width, FixedMeasure(), 2.0));
+        all += "without a title\n" +
+               textOf(placeLegend(diagram, static_cast<LegendPosition>(position), width, FixedMeasure(), 2.0));
     }
     EXPECT_EQ(changeOfApproved("legends", all), "");
 }

@@ -109,7 +109,8 @@ TEST(SLegend, SampleArrowsOfAnyLengthStayInTheLegend) {
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double scale : {-infinity, -2147483648.0, 0.0, std::nan(""), 3.0, 2147483647.0, infinity}) {
         arrows.attributes.arrowScale = scale;
-        const int length = placeLegend(diagram, 400, FixedMeasure(), 1.0).entries[0].sampleLength;
+        const int length =
+            placeLegend(diagram, LegendPosition::RightTop, 400, FixedMeasure(), 1.0).entries[0].sampleLength;
         EXPECT_EQ(length, scale == 3.0 ? 30 : scale > 3.0 ? 200 : 0) << scale;
     }
 }

@@ -1,0 +1,76 @@
+#include "plot/LegendRoom.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "plot/PolylineEnvelope.h"
+#include "plot/SeriesShapes.h"
+
+namespace vorlan {
+
+namespace {
+
+Box grown(const Box& box, int by) {
+    return {box.left - by, box.top - by, box.right + by, box.bottom + by};
+}
+
+bool touches(const Box& box, const Line& line) {
+    return clippedLine(line, box).has_value();
+}
+
+bool linesTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry) {
+    for (const std::vector<Spot>& part : polylineEnvelope(series, geometry, box.left, box.right).parts) {
+        for (std::size_t i = 1; i < part.size(); ++i) {
+            if (touches(box, {part[i - 1], part[i]})) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool markersTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry, int size) {
+    const std::vector<Spot> spots = markerSpots(series, geometry);
+    return std::any_of(spots.begin(), spots.end(), [&](const Spot& s) { return markerBox(s, size).overlaps(box); });
+}
+
+bool barsTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry) {
+    const std::vector<Box> bars = barBoxes(series, geometry);
+    return std::any_of(bars.begin(), bars.end(), [&](const Box& bar) { return bar.overlaps(box); });
+}
+
+bool arrowsTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
+    const std::vector<Arrow> all = arrows(series, geometry, lengthScale);
+    return std::any_of(all.begin(), all.end(), [&](const Arrow& arrow) {
+        return touches(box, arrow.shaft) ||
+               std::any_of(arrow.head.begin(), arrow.head.end(), [&](const Line& line) { return touches(box, line); });
+    });
+}
+
+}  // namespace
+
+bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geometry, double lengthScale) {
+    const auto comesIn = [&](const PlotSeries& series) {
+        const SeriesAtrType& attributes = series.attributes;
+        const auto scaled = [lengthScale](int pixels) { return static_cast<int>(std::ceil(pixels * lengthScale)); };
+        // Pens are wider than the lines that they follow.
+        const Box reach = grown(box, scaled(std::max(attributes.penWidth, 1)) / 2 + 1);
+        const int size = scaled(attributes.markerSize);
+        switch (attributes.style) {
+            case SeriesStyle::Line:
+                return linesTouch(reach, series, geometry);
+            case SeriesStyle::Markers:
+                return markersTouch(reach, series, geometry, size);
+            case SeriesStyle::LineAndMarkers:
+                return linesTouch(reach, series, geometry) || markersTouch(reach, series, geometry, size);
+            case SeriesStyle::Bars:
+                return barsTouch(reach, series, geometry);
+            case SeriesStyle::Arrows:
+                return arrowsTouch(reach, series, geometry, lengthScale);
+        }
+        return false;
+    };
+    return std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), comesIn);
+}
+
+}  // namespace vorlan
