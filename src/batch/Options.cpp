@@ -77,6 +77,24 @@ CLI::Option* addReal(CLI::App& app, const std::string& name, double& target, con
         ->type_name(unit);
 }
 
+CLI::Option* addInteger(CLI::App& app, const std::string& name, int& target, const Range& range,
+                        const std::string& help) {
+    return app
+        .add_option_function<std::string>(
+            name,
+            [&target, name, range](const std::string& text) {
+                const std::optional<long long> value = parseInteger(text);
+                if (!value) {
+                    throw CLI::ValidationError(name, "\"" + text + "\" is not a whole number");
+                }
+                requireInRange(name, static_cast<double>(*value), range);
+                target = static_cast<int>(*value);
+            },
+            help)
+        ->type_name("N")
+        ->default_str(std::to_string(target));
+}
+
 CLI::Option* addTriple(CLI::App& app, const std::string& name, std::array<double, 3>& target, const Ranges& ranges,
                        const std::string& parts, const std::string& help) {
     return app

@@ -24,6 +24,10 @@ CLI::Option* addWorkspaceOutput(CLI::App& app, std::string& path, const std::str
 CLI::Option* addReal(CLI::App& app, const std::string& name, double& target, const Range& range,
                      const std::string& unit, const std::string& help);
 
+/// The same for a whole number.
+CLI::Option* addInteger(CLI::App& app, const std::string& name, int& target, const Range& range,
+                        const std::string& help);
+
 /// Three comma-separated numbers, each in its range.
 using Ranges = std::array<Range, 3>;
 CLI::Option* addTriple(CLI::App& app, const std::string& name, std::array<double, 3>& target, const Ranges& ranges,

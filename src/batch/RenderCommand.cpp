@@ -16,6 +16,7 @@ struct RenderArguments {
     int stage = 0;
     int pane = -1;
     int value = 0;
+    int rightBottom = -1;
     int paper = kUsualPaper;
     bool landscape = false;
 };
@@ -37,6 +38,9 @@ void runRender(RenderArguments& arguments, const CLI::App& app, Console& console
     request.value = static_cast<PhysicalValue>(arguments.value);
     if (arguments.pane >= 0) {
         request.pane = static_cast<Pane>(arguments.pane);
+    }
+    if (arguments.rightBottom >= 0) {
+        request.showTable = arguments.rightBottom == 0;
     }
     if (const std::string fault = faultOfTriangles(request); !fault.empty()) {
         throw usageError("--triangle: " + fault);
@@ -100,6 +104,11 @@ Subcommand addRenderCommand(CLI::App& program) {
            "Width and height, pixels (of 1/96 inch in .svg and .pdf)")
         ->type_name("WxH")
         ->default_str("1200x900");
+    addInteger(*app, "--dpi", arguments->request.dpi, kDpiRange,
+               "Dots per inch of a .png: fonts, ticks and pens grow with it");
+    addChoice(*app, "--right-bottom", arguments->rightBottom, rightBottomNames(),
+              "What the right bottom pane shows that has a table and a\ndiagram; without it what the stage opens with")
+        ->type_name("table|diagram");
     app->add_option_function<std::vector<std::string>>(
            "--triangle",
            [arguments](const std::vector<std::string>& texts) {

@@ -39,6 +39,10 @@ RenderRequest renderRequestOf(const StepValues& values) {
     if (values.has("size")) {
         request.size = parsePictureSize(values.text("size")).value();
     }
+    request.dpi = values.integer("dpi");
+    if (values.has("right_bottom")) {
+        request.showTable = values.choice("right_bottom") == 0;
+    }
     request.paper = paperOf(values.has("paper") ? values.choice("paper") : kUsualPaper,
                             values.has("landscape") && values.boolean("landscape"));
     return request;
@@ -88,7 +92,9 @@ std::vector<StepKind> outputSteps() {
         {.name = "render",
          .keys = {required(choiceKey("stage", stageNames())), choiceKey("pane", paneNames()),
                   choiceKey("values", physicalValueNames(), "velocities"), textKey("size", {}, faultOfPictureSize),
-                  choiceKey("paper", paperNames()), booleanKey("landscape", {}), tripleKey("triangle"),
+                  within(integerKey("dpi", kUsualDpi), kDpiRange.minimum, kDpiRange.maximum),
+                  choiceKey("right_bottom", rightBottomNames()), choiceKey("paper", paperNames()),
+                  booleanKey("landscape", {}), tripleKey("triangle"),
                   required(textKey("out", {}, faultOfPicturePattern))},
          .run = runRender,
          .faultOfValues = faultOfRender},

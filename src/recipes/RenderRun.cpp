@@ -88,6 +88,11 @@ const char* faultOfSize(bool page) {
     return page ? "a printed page has the size of its paper" : "only a .pdf of all panes stands on paper";
 }
 
+const std::vector<std::string>& rightBottomNames() {
+    static const std::vector<std::string> names = {"table", "diagram"};
+    return names;
+}
+
 std::string faultOfPicturePath(const std::string& path) {
     return formatOf(path) ? "" : "must end in .png, .svg or .pdf";
 }
@@ -171,7 +176,7 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
                              request.stage,
                              request.pane.value_or(Pane::LeftTop),
                              request.value,
-                             !selected || document.ShowsTable()};
+                             request.showTable.value_or(!selected || document.ShowsTable())};
     startToolkit();
     if (isPage(request.pane, request.path)) {
         return renderedPage(wanted, document.GetPath(), request.paper);
@@ -188,7 +193,7 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
         addTriangles(pane, request);
     }
     const QByteArray bytes =
-        renderPanes(panes, QSize(request.size.width, request.size.height), formatOf(request.path).value());
+        renderPanes(panes, QSize(request.size.width, request.size.height), formatOf(request.path).value(), request.dpi);
     if (bytes.isEmpty()) {
         throw refusal("a picture of this size cannot be made");
     }

@@ -9,6 +9,7 @@
 
 #include "app/CVorl_ADVDoc.h"
 #include "model/PageLayout.h"
+#include "model/SettingField.h"
 #include "model/Stages.h"
 #include "recipes/TextValues.h"
 #include "stages/PageDescription.h"
@@ -22,11 +23,18 @@ const std::vector<std::string>& paneNames();
 /// Names of the physical values, by their code.
 const std::vector<std::string>& physicalValueNames();
 
+inline constexpr int kUsualDpi = 96;
+inline constexpr Range kDpiRange{10, 2400};
+/// Names of what the right bottom pane shows, the table first.
+const std::vector<std::string>& rightBottomNames();
+
 struct RenderRequest {
     Stage stage = Stage::PreProcessing;
     std::optional<Pane> pane;  ///< all four without one
     PhysicalValue value = PhysicalValue::Velocities;
     PictureSize size;
+    int dpi = kUsualDpi;                           ///< of a PNG
+    std::optional<bool> showTable;                 ///< side of a right bottom pane that has two; as it opens
     std::vector<std::array<double, 3>> triangles;  ///< slope triangles: from, to, y at from
     PaperSize paper;                               ///< of the page that a PDF of all panes is
     std::string path;                              ///< its extension decides the format

@@ -243,6 +243,14 @@ class PaintingTest : public QObject {
         QVERIFY(inked(fromSvg) > 1000);
         QVERIFY(renderPanes(panes, QSize(800, 600), RenderFormat::Pdf).startsWith("%PDF-"));
         QVERIFY(renderPanes({}, QSize(800, 600), RenderFormat::Png).isEmpty());
+        // Twice the dots per inch in twice the pixels: the same picture, drawn finer.
+        const QByteArray printed = renderPanes(std::span(panes).first(1), QSize(1600, 1200), RenderFormat::Png, 192.0);
+        const QImage fine = QImage::fromData(printed, "PNG");
+        const QImage coarse =
+            QImage::fromData(renderPanes(std::span(panes).first(1), QSize(800, 600), RenderFormat::Png), "PNG");
+        QVERIFY(std::abs(fine.dotsPerMeterX() - 7559) <= 1);
+        const double share = static_cast<double>(inked(fine)) / static_cast<double>(inked(coarse));
+        QVERIFY2(share > 3.2 && share < 5.0, qPrintable(QString::number(share)));
         QVERIFY(renderPanes(panes, QSize(0, 600), RenderFormat::Pdf).isEmpty());
         QVERIFY(!renderPanes(panes, QSize(1, 1), RenderFormat::Png).isEmpty());
     }
