@@ -16,7 +16,12 @@ constexpr std::size_t kQuadrants = 4;
 struct Tally {
     std::uint32_t units = 0;
     std::uint32_t samples = 0;
+    std::int64_t whole = 0;  // the units without wrapping
 };
+
+bool leaves32Bits(std::int64_t sum) {
+    return sum != static_cast<std::int32_t>(sum);
+}
 
 /// Number of hole sizes that a magnitude exceeds. bounds holds the rising sizes h * increment from its second element
 /// on, between one that every magnitude exceeds and one that none does: the estimate is put right by the same
@@ -52,7 +57,7 @@ HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::s
     const std::size_t rows = count + 1;
     // One row of tallies per quadrant, by the number of sizes that a sample exceeds.
     std::vector<Tally> tallies(kQuadrants * rows);
-    Tally all{0, static_cast<std::uint32_t>(r.size())};
+    Tally all{0, static_cast<std::uint32_t>(r.size()), 0};
     std::vector<double> bounds(count + 2, -1.0);
     for (std::size_t h = 0; h < count; ++h) {
         bounds[h + 1] = static_cast<double>(h) * increment;
@@ -60,8 +65,10 @@ HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::s
     bounds.back() = std::numeric_limits<double>::infinity();
     const double perIncrement = 1.0 / increment;
     for (std::size_t j = 0; j < r.size(); ++j) {
-        const auto units = static_cast<std::uint32_t>(truncateToInt32(r[j] / unit));
+        const std::int32_t whole = truncateToInt32(r[j] / unit);
+        const auto units = static_cast<std::uint32_t>(whole);
         all.units += units;
+        all.whole += whole;
         const int quadrant = quadrantOf(a[j], b[j]);
         if (quadrant == kHole) {
             continue;
@@ -69,6 +76,7 @@ HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::s
         const std::size_t exceeded = sizesExceeded(std::fabs(r[j]), perIncrement, sizes, bounds.data());
         Tally& tally = tallies[static_cast<std::size_t>(quadrant) * rows + exceeded];
         tally.units += units;
+        tally.whole += whole;
         ++tally.samples;
     }
 
@@ -78,11 +86,15 @@ HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::s
         for (std::size_t q = 0; q < kQuadrants; ++q) {
             outside[q].units += tallies[q * rows + h + 1].units;
             outside[q].samples += tallies[q * rows + h + 1].samples;
+            outside[q].whole += tallies[q * rows + h + 1].whole;
+            sums.exceeded = sums.exceeded || leaves32Bits(outside[q].whole);
             sums.units[q][h] = outside[q].units;
             sums.samples[q][h] = outside[q].samples;
             hole.units -= outside[q].units;
             hole.samples -= outside[q].samples;
+            hole.whole -= outside[q].whole;
         }
+        sums.exceeded = sums.exceeded || leaves32Bits(hole.whole);
         sums.units[kHole][h] = hole.units;
         sums.samples[kHole][h] = hole.samples;
     }

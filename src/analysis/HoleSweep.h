@@ -24,6 +24,7 @@ inline int quadrantOf(double a, double b) {
 struct HoleSums {
     std::array<std::vector<std::uint32_t>, kQuadrantBuckets> units;    ///< of trunc(r / unit), modulo 2^32
     std::array<std::vector<std::uint32_t>, kQuadrantBuckets> samples;  ///< number of samples
+    bool exceeded = false;                                             ///< a sum of units has left 32 bits with sign
 };
 
 /// Sweeps the hole sizes h * increment, h = 0..sizes-1, over the samples in one pass: a sample with |r| > h * increment

@@ -183,4 +183,22 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
     return {};
 }
 
+bool contributionSumsExceed(const SAdvProbe& probe) {
+    const int type = static_cast<int>(probe.quadrantStress);
+    const SMultiArray& stresses = probe.Stresses();
+    const int sizes = SAdvProbe::ColumnLength(probe.Contributions());
+    const double increment = probe.statistics[SAdvProbe::kQuadrantRun];
+    if (!probe.IsDone(DoneMark::Quadrants) || sizes < 1 || type < 0 || type >= kStressPairs ||
+        type >= stresses.GetSize() || stresses.GetAt(type).GetSize() != probe.WorkingSamples() || !(increment > 0.0)) {
+        return false;
+    }
+    try {
+        const PairRecord record = pairRecord(probe, type, noProgress());
+        return sweepHoles(record.r, record.a, record.b, increment, sizes, kShareResolution).exceeded;
+    } catch (const InvalidArgument&) {
+        // Columns of a damaged workspace.
+        return false;
+    }
+}
+
 }  // namespace vorlan

@@ -31,4 +31,11 @@ inline constexpr const char* kQuadrantStatus = "Conditional Quadrants and Averag
 /// length or for an unknown stress type.
 std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings, Progress& progress);
 
+inline constexpr const char* kContributionsExceed =
+    "Contribution sums exceed what can be stored: the rates are not reliable.";
+
+/// Whether a sum behind the probe's contribution set has left the 32 bits in which it is kept: its shares are then
+/// those of a wrapped sum. Judged by the record as it is now; false while there is no such set, or no record to it.
+bool contributionSumsExceed(const SAdvProbe& probe);
+
 }  // namespace vorlan

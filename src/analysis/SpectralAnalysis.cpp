@@ -1,11 +1,14 @@
 #include "analysis/SpectralAnalysis.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
 #include "analysis/ProgressPart.h"
 #include "analysis/SpectralFunctions.h"
+#include "model/Text.h"
 
 namespace vorlan {
 
@@ -95,6 +98,21 @@ std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& p
     probe.spectralUnit = static_cast<std::uint32_t>(run.unitSelector);
     probe.SetDone(DoneMark::Spectral);
     return {};
+}
+
+std::vector<std::string> spectrumOverflows(const SAdvProbe& probe) {
+    constexpr std::array<const char*, SAdvProbe::kComponents> names = {"Ux", "Uy", "Uz"};
+    std::vector<std::string> texts;
+    for (int c = 0; c < SAdvProbe::kComponents; ++c) {
+        const SArray& spectrum = probe.Series(c).spectrum;
+        const auto lost = std::count(spectrum.begin(), spectrum.end(), std::numeric_limits<std::int32_t>::min());
+        if (lost > 0) {
+            texts.push_back(formatted("%s: %d value%s above %.4g cannot be stored", names[static_cast<std::size_t>(c)],
+                                      static_cast<int>(lost), lost == 1 ? "" : "s",
+                                      std::numeric_limits<std::int32_t>::max() * spectrum.GetScale()));
+        }
+    }
+    return texts;
 }
 
 }  // namespace vorlan

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "analysis/Progress.h"
 #include "analysis/SpectralSettings.h"
@@ -32,5 +33,8 @@ bool truncationPointFits(int lags, int samples);
 /// Returns why it is refused (the truncation point does not fit; only the analysed series are then new), empty when
 /// done.
 std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress);
+
+/// What of the stored spectra is missing, a text per component: "Uy: 20 values above 214.7 cannot be stored".
+std::vector<std::string> spectrumOverflows(const SAdvProbe& probe);
 
 }  // namespace vorlan

@@ -8,6 +8,7 @@
 #include "analysis/DissipationRate.h"
 #include "analysis/EditingAssessment.h"
 #include "analysis/MicroScales.h"
+#include "analysis/Quadrants.h"
 #include "analysis/RotationSettings.h"
 #include "model/Printable.h"
 #include "model/ProbeInformation.h"
@@ -211,6 +212,9 @@ std::string probeAsText(const SAdvProbe& probe, const WorkspaceSettings& setting
     }
     for (int i = 0; i < SAdvProbe::kComponents; ++i) {
         text += momentsRow(kStressNames[i], probe.StressMoments(i));
+    }
+    if (contributionSumsExceed(probe)) {
+        text += std::string("    ") + kContributionsExceed + "\n";
     }
     return text + resultsText(probe);
 }

@@ -1,4 +1,6 @@
 // Steps of the stages after pre-processing.
+#include "analysis/Quadrants.h"
+#include "analysis/SpectralAnalysis.h"
 #include "model/RangeText.h"
 #include "recipes/RecipeSteps.h"
 #include "recipes/StepsOfCommands.h"
@@ -25,7 +27,16 @@ Outcome runSpectral(StepContext& context, const StepValues& values) {
     if (settings.percentFlag && !values.has("percent")) {
         settings.percent = SpectralSettings().percent;
     }
-    return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.SpectralAnalysis(settings);
+    if (context.refuses(refusalOf(settings))) {
+        return Outcome::Refused;
+    }
+    const Outcome outcome = context.document.SpectralAnalysis(settings);
+    if (outcome == Outcome::Done) {
+        for (const std::string& text : spectrumOverflows(context.document.Probe())) {
+            context.port.tell(text);
+        }
+    }
+    return outcome;
 }
 
 std::string faultOfSpectral(const StepValues& values) {
@@ -38,7 +49,14 @@ Outcome runCrossSpectral(StepContext& context, const StepValues&) {
 
 Outcome runQuadrants(StepContext& context, const StepValues& values) {
     const auto settings = settingsOf<QuadrantSettings>(values);
-    return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.QuadrantsAnalysis(settings);
+    if (context.refuses(refusalOf(settings))) {
+        return Outcome::Refused;
+    }
+    const Outcome outcome = context.document.QuadrantsAnalysis(settings);
+    if (outcome == Outcome::Done && contributionSumsExceed(context.document.Probe())) {
+        context.port.tell(kContributionsExceed);
+    }
+    return outcome;
 }
 
 constexpr Range kMeanVelocities{MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum};

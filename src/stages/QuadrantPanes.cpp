@@ -1,6 +1,7 @@
 // Contribution of the quadrants to a stress by hole size, and the velocities around its events.
 #include <algorithm>
 
+#include "analysis/Quadrants.h"
 #include "analysis/ResultAxes.h"
 #include "analysis/Stresses.h"
 #include "stages/DiagramParts.h"
@@ -18,6 +19,9 @@ Diagram byHoleSize(const PaneRequest& request, const SAdvProbe& probe, const SMu
     for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
         diagram.plot.series.push_back(
             curve(plotColumn(table, q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));
+    }
+    if (contributionSumsExceed(probe)) {
+        diagram.notes.push_back(kContributionsExceed);
     }
     return diagram;
 }

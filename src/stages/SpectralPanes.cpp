@@ -1,5 +1,6 @@
 // Correlation functions, power spectra and structure functions of the velocity components, and the quantities read
 // off them.
+#include "analysis/SpectralAnalysis.h"
 #include "analysis/SpectralScale.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
@@ -35,6 +36,7 @@ PaneContent powerSpectra(const PaneRequest& request, const SAdvProbe& probe) {
         diagram.plot.series.push_back(
             curve(plotValues(spectrum), SeriesX{0.0, step, {}}, c, kVelocityLabels[static_cast<std::size_t>(c)]));
     }
+    diagram.notes = spectrumOverflows(probe);
     return diagramOrMessage(std::move(diagram));
 }
 
