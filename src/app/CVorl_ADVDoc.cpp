@@ -5,7 +5,6 @@
 #include "app/CommandReports.h"
 #include "app/RecomputeChain.h"
 #include "io/WorkspaceFile.h"
-#include "model/DefaultFrames.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -14,7 +13,6 @@ namespace {
 
 /// No state of a history.
 constexpr std::uint64_t kNeverSaved = std::numeric_limits<std::uint64_t>::max();
-constexpr const char* kFrameCommand = "Plot Frame Options";
 
 /// Holds the running state of document and port; leaving the scope ends both, whatever happened.
 class RunningScope {
@@ -37,14 +35,6 @@ class RunningScope {
 
 std::string fileNameText(const std::filesystem::path& path) {
     return utf8Text(path.filename().string());
-}
-
-void setFrame(SFrameAtrArray& frames, int record, const FrameAttributesType& frame,
-              const std::function<FrameAttributesType(int)>& defaultOf) {
-    for (int i = frames.GetSize(); i < record; ++i) {
-        frames.Add(defaultOf(i));
-    }
-    frames.SetAt(record, frame);
 }
 
 }  // namespace
@@ -241,28 +231,6 @@ void CVorl_ADVDoc::ApplyChangeRule(SAdvProbe& copy, Progress& progress) {
     for (const std::string& reason : recomputeAll(copy, workspace_.settings, progress)) {
         port_->refuse(reason);
     }
-}
-
-void CVorl_ADVDoc::SetFrame(int group, int record, const FrameAttributesType& frame) {
-    if (!HasProbe()) {
-        throw InvalidArgument();
-    }
-    SAdvProbe probe = Probe();
-    if (!(frameOrDefault(probe, group, record) == frame)) {
-        setFrame(probe.frameAttributes.at(static_cast<std::size_t>(group)), record, frame,
-                 [group](int i) { return defaultFrame(group, i); });
-        Write(kFrameCommand, PatchOf(std::move(probe)));
-        Tell(Change::Content);
-    }
-    port_->report(frameReport(ActivePane()));
-}
-
-void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
-    SFrameAtrArray frames = workspace_.dataFiles.frameAttributes;
-    setFrame(frames, record, frame, defaultPlanFrame);
-    Write(kFrameCommand, {.planFrames = std::move(frames)});
-    Tell(Change::Content);
-    port_->report(frameReport(ActivePane()));
 }
 
 void CVorl_ADVDoc::Export(std::ostream& stream, ExportKind kind, ExportOptions options, bool all) const {

@@ -17,6 +17,7 @@
 #include "app/WrittenBoundaries.h"
 #include "export/ExportKind.h"
 #include "io/FileStamp.h"
+#include "model/FrameSlot.h"
 #include "model/Workspace.h"
 
 namespace vorlan {
@@ -188,6 +189,10 @@ class CVorl_ADVDoc {
     void SetFrame(int group, int record, const FrameAttributesType& frame);
     /// The same for the plans that span all files.
     void SetPlanFrame(int record, const FrameAttributesType& frame);
+    /// Changes the attributes in these slots, of the active probe or of every probe of every file. Slots of the plans
+    /// need no probe.
+    using FrameChange = std::function<void(const FrameSlot& slot, FrameAttributesType& frame)>;
+    void ChangeFrames(const std::vector<FrameSlot>& slots, const FrameChange& change, bool allProbes);
 
     /// Writes an export of the active probe, or of all files and probes where the kind has such a form. Needs what the
     /// kind needs; InvalidArgument without a probe and for columns of a damaged workspace that should be of one length.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
+#include "model/FrameAttributes.h"
 #include "model/Stages.h"
 
 namespace vorlan {
@@ -17,5 +19,12 @@ struct FrameSlot {
 
 /// The slot of the pane's diagram; empty when the pane shows a table or text.
 std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value, bool showTable);
+
+/// The slots of every diagram of a stage, those of the stresses included.
+std::vector<FrameSlot> frameSlotsOf(Stage stage);
+
+/// Gives a diagram what says how another one is drawn: scale, frame, ticks and marks, fonts and legend. Titles, limits,
+/// digits and grid stay.
+void takeStyle(FrameAttributesType& frame, const FrameAttributesType& other);
 
 }  // namespace vorlan

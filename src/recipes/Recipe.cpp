@@ -150,6 +150,15 @@ TakenValue takeChoices(const KeyRule& key, const toml::node& node) {
     return {indexes, {}};
 }
 
+TakenValue takeRealOrAuto(const toml::node& node) {
+    const auto* text = node.as_string();
+    if (text != nullptr && text->get() == "auto") {
+        return {text->get(), {}};
+    }
+    const std::optional<double> real = realOf(node);
+    return real ? TakenValue{*real, {}} : wrong("must be a finite number or \"auto\"");
+}
+
 TakenValue takeValue(const KeyRule& key, const toml::node& node) {
     switch (key.type) {
         case KeyType::Boolean:
@@ -168,6 +177,8 @@ TakenValue takeValue(const KeyRule& key, const toml::node& node) {
             return takeNumbers<2>(node, "two");
         case KeyType::Choices:
             return takeChoices(key, node);
+        case KeyType::RealOrAuto:
+            return takeRealOrAuto(node);
     }
     return wrong("is not known");
 }

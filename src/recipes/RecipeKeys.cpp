@@ -67,6 +67,15 @@ KeyRule choicesKey(std::string name, std::vector<std::string> choices) {
     return {.name = std::move(name), .type = KeyType::Choices, .choices = std::move(choices)};
 }
 
+KeyRule realOrAutoKey(std::string name) {
+    return {.name = std::move(name), .type = KeyType::RealOrAuto};
+}
+
+std::optional<double> StepValues::realOrAuto(const std::string& name) const {
+    const auto* number = std::get_if<double>(&values_.at(name));
+    return number != nullptr ? std::optional(*number) : std::nullopt;
+}
+
 KeyRule keyOf(const SettingField& field, const StoredFlag& fallback) {
     return booleanKey(field.name, fallback);
 }

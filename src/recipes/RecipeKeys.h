@@ -15,7 +15,7 @@ namespace vorlan {
 using KeyValue =
     std::variant<bool, int, double, std::string, std::array<double, 3>, std::array<double, 2>, std::vector<int>>;
 
-enum class KeyType { Boolean, Integer, Real, Choice, Text, Triple, Pair, Choices };
+enum class KeyType { Boolean, Integer, Real, Choice, Text, Triple, Pair, Choices, RealOrAuto };
 
 /// One key of a step: type, allowed values, and the value that stands for an absent key.
 struct KeyRule {
@@ -42,6 +42,8 @@ class StepValues {
     /// Index in the key's choices.
     int choice(const std::string& name) const { return get<int>(name); }
     const std::string& text(const std::string& name) const { return get<std::string>(name); }
+    /// Empty for "auto".
+    std::optional<double> realOrAuto(const std::string& name) const;
     const std::array<double, 3>& triple(const std::string& name) const { return get<std::array<double, 3>>(name); }
     const std::array<double, 2>& pair(const std::string& name) const { return get<std::array<double, 2>>(name); }
     /// Indexes in the key's choices.
@@ -69,6 +71,8 @@ KeyRule tripleKey(std::string name);
 KeyRule pairKey(std::string name);
 /// A list of the choices, in any order.
 KeyRule choicesKey(std::string name, std::vector<std::string> choices);
+/// A number, or "auto".
+KeyRule realOrAutoKey(std::string name);
 
 // Keys that hold a field of a settings value; the field's value is what an absent key stands for.
 

@@ -9,8 +9,8 @@ namespace vorlan {
 const std::vector<StepKind>& stepTable() {
     static const std::vector<StepKind> table = [] {
         std::vector<StepKind> rows;
-        for (const std::vector<StepKind>& part :
-             {preProcessingSteps(), analysisSteps(), turbulenceSteps(), gridSteps(), pageSteps(), outputSteps()}) {
+        for (const std::vector<StepKind>& part : {preProcessingSteps(), analysisSteps(), turbulenceSteps(), gridSteps(),
+                                                  pageSteps(), frameSteps(), outputSteps()}) {
             rows.insert(rows.end(), part.begin(), part.end());
         }
         return rows;

@@ -57,6 +57,7 @@ std::vector<StepKind> turbulenceSteps();
 std::vector<StepKind> gridSteps();
 std::vector<StepKind> pageSteps();
 std::vector<StepKind> outputSteps();
+std::vector<StepKind> frameSteps();
 
 /// All steps, in the order of the manual.
 const std::vector<StepKind>& stepTable();

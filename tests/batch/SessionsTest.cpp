@@ -116,7 +116,7 @@ TEST_P(Sessions, AnswerAsApproved) {
 INSTANTIATE_TEST_SUITE_P(Approved, Sessions,
                          testing::Values("session-usage", "session-recipes", "session-refusals", "session-outputs",
                                          "session-import", "session-run", "session-tables", "session-hostile",
-                                         "session-turbulence", "session-paper"));
+                                         "session-turbulence", "session-paper", "session-frames"));
 
 }  // namespace
 

@@ -397,6 +397,7 @@ void CGridEdit::changeFrame() {
     }
     const ScaleType scales[] = {ScaleType::Linear};
     CPlotOptDlg dialog(editor_.frame(), scales, drawnAxesOf(preview_->geometry()), this);
+    dialog.setOfStage(false);
     if (dialog.exec() == QDialog::Accepted) {
         editor_.setFrame(dialog.values());
     }

@@ -58,10 +58,11 @@ std::int32_t gridModeOf(bool onMarks, bool onTicks) {
 DrawnAxes drawnAxesOf(const std::optional<CScreenUtils>& geometry) {
     DrawnAxes axes;
     if (geometry.has_value()) {
-        axes.xMin = geometry->xMin;
-        axes.xMax = geometry->xMax;
-        axes.yMin = geometry->yMin;
-        axes.yMax = geometry->yMax;
+        // A user who frees an end wants to see what the automatic one leaves out.
+        axes.xMin = geometry->wider.xMin.value_or(geometry->xMin);
+        axes.xMax = geometry->wider.xMax.value_or(geometry->xMax);
+        axes.yMin = geometry->wider.yMin.value_or(geometry->yMin);
+        axes.yMax = geometry->wider.yMax.value_or(geometry->yMax);
         if (!geometry->logX()) {
             axes.xStep = std::fabs(geometry->xStep);
         }
@@ -86,6 +87,12 @@ CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const Scale
     right->addWidget(fontsBox());
     right->addWidget(gridBox());
     right->addWidget(legendBox());
+    giveToAll_ = new QPushButton(QStringLiteral("&Give to All Diagrams of the Stage"), this);
+    giveToAll_->setAutoDefault(false);
+    giveToAll_->setToolTip(
+        QStringLiteral("OK, and scale, fonts, frame, ticks and legend to every diagram of the stage"));
+    connect(giveToAll_, &QPushButton::clicked, this, &CPlotOptDlg::acceptForAll);
+    right->addWidget(giveToAll_);
     right->addStretch();
     auto* columns = new QHBoxLayout;
     columns->addLayout(left);
@@ -141,6 +148,15 @@ void CPlotOptDlg::chooseColour() {
         chosen_.gridColour = *picked;
         showColour();
     }
+}
+
+void CPlotOptDlg::setOfStage(bool ofStage) {
+    giveToAll_->setVisible(ofStage);
+}
+
+void CPlotOptDlg::acceptForAll() {
+    accept();
+    forAllDiagrams_ = result() == Accepted;
 }
 
 void CPlotOptDlg::AutomaticValue::read(FieldReader& reader, double& into, std::int32_t& mode) const {

@@ -47,6 +47,11 @@ class CPlotOptDlg : public CParameterDialog {
     CPlotOptDlg(const FrameAttributesType& frame, std::span<const ScaleType> allowedScales, const DrawnAxes& drawn = {},
                 QWidget* parent = nullptr);
     const FrameAttributesType& values() const { return values_; }
+    /// True when the dialog was left by the button that gives scale, fonts, frame, ticks and legend to all diagrams of
+    /// the stage.
+    bool forAllDiagrams() const { return forAllDiagrams_; }
+    /// False for a diagram that belongs to no stage: there is nothing to give its attributes to.
+    void setOfStage(bool ofStage);
 
     static constexpr Range kCounts{0, 32767};  ///< of ticks and their lengths
     static constexpr Range kDigits{0, 9};      ///< of the labels
@@ -89,7 +94,11 @@ class CPlotOptDlg : public CParameterDialog {
     static bool gridDrawnOn(std::int32_t gridMode, GridMode part);
     void readChoices(FrameAttributesType& read) const;
 
+    void acceptForAll();
+
     FrameAttributesType values_;
+    bool forAllDiagrams_ = false;
+    QPushButton* giveToAll_ = nullptr;
     DrawnAxes drawn_;
     FrameAttributesType chosen_;  ///< holds the fonts and the colour that were picked
     FontPicker pickFont_ = pickFont;

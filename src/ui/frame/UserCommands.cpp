@@ -5,10 +5,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <cmath>
 #include <ctime>
 #include <ostream>
 
+#include "analysis/Quadrants.h"
+#include "analysis/SpectralAnalysis.h"
 #include "app/CommandReports.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
@@ -105,13 +106,18 @@ void UserCommands::dispatch(Command command) {
             ask<CHistDlg>(&CVorl_ADVDoc::Distributions, usable(settings.histograms));
             return;
         case Command::SpectralAnalysis:
-            ask<CSpAnalDlg>(&CVorl_ADVDoc::SpectralAnalysis, spectralSettingsOf(settings));
+            if (ask<CSpAnalDlg>(&CVorl_ADVDoc::SpectralAnalysis, spectralSettingsOf(settings)) == Outcome::Done) {
+                warn(spectrumOverflows(document_.Probe()));
+            }
             return;
         case Command::CrossSpectralAnalysis:
             document_.CrossSpectralAnalysis();
             return;
         case Command::QuadrantsAnalysis:
-            ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, usable(settings.quadrants));
+            if (ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, usable(settings.quadrants)) == Outcome::Done &&
+                contributionSumsExceed(document_.Probe())) {
+                warn({kContributionsExceed});
+            }
             return;
         case Command::ExtractDissipationRate:
         case Command::ExtractScales:
@@ -137,6 +143,16 @@ void UserCommands::dispatch(Command command) {
         return exportData(*kind);
     }
     runFileCommand(command);
+}
+
+void UserCommands::warn(const std::vector<std::string>& texts) {
+    QStringList lines;
+    for (const std::string& text : texts) {
+        lines.append(QString::fromStdString(text));
+    }
+    if (!lines.isEmpty()) {
+        showStatus_(lines.join(QStringLiteral("; ")));
+    }
 }
 
 void UserCommands::runFileCommand(Command command) {
@@ -203,11 +219,16 @@ void UserCommands::plotFrameOptions() {
     if (!accepted(dialog)) {
         return;
     }
-    if (slot->inSet) {
-        document_.SetPlanFrame(slot->record, dialog.values());
-    } else {
-        document_.SetFrame(slot->group, slot->record, dialog.values());
-    }
+    const auto change = [&](const FrameSlot& changed, FrameAttributesType& frame) {
+        if (changed == *slot) {
+            frame = dialog.values();
+        } else {
+            takeStyle(frame, dialog.values());
+        }
+    };
+    document_.ChangeFrames(
+        dialog.forAllDiagrams() ? frameSlotsOf(document_.CurrentStage()) : std::vector<FrameSlot>{*slot}, change,
+        false);
 }
 
 void UserCommands::pageSetup() {
