@@ -62,6 +62,7 @@ bool clip(SAdvProbe& probe, double tStart, double tEnd, Progress& progress) {
             }
         }
     }
+    probe.marksMoved = probe.marksMoved || samples < probe.sampleFlags.GetSize();
     cut(probe.sampleFlags, i0, i1);
     formStresses(probe, StressResolution::SamePosition, progress);
     setRecordTitle(probe, "Sampled Velocities (Zoom)");

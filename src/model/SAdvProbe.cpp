@@ -86,6 +86,7 @@ void SAdvProbe::Reset() {
     workTables[kWorkCompass] = sampledTables[kSampledCompass];
     workTables[kWorkPressure] = sampledTables[kSampledPressure];
     scalarResults[0] = 0.0;
+    marksMoved = false;
     const int samples = ColumnLength(sampledTables[kVelocities]);
     if (sampleFlags.GetSize() < samples) {
         sampleFlags.SetSize(samples);

@@ -206,6 +206,9 @@ class SAdvProbe : public SObject {
     std::array<bool, 7> resultsAreOld{};
     /// By done mark; not stored either.
     std::array<bool, 6> stageIsOld{};
+    /// Whether a record that a filter had shortened was clipped: the marks are then those of other samples. Not stored:
+    /// known while the workspace is open.
+    bool marksMoved = false;
 
     friend bool operator==(const SAdvProbe&, const SAdvProbe&) = default;
 

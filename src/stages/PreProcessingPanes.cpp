@@ -39,7 +39,7 @@ void addRecord(Diagram& diagram, const SAdvProbe& probe, std::vector<double> val
 }
 
 /// Markers where samples were found bad and replaced, over the lines of all components. Left out when bad samples are
-/// gaps anyway, and after a filter, whose samples are no longer those that the marks speak of.
+/// gaps anyway, and where a filter has left samples that are no longer those that the marks speak of.
 void addRejected(Diagram& diagram, const SAdvProbe& probe) {
     const auto marks = probe.sampleFlags.view();
     PlotSeries rejected;
@@ -75,7 +75,9 @@ Diagram recordDiagram(const PaneRequest& request, const SAdvProbe& probe, const 
 
 PaneContent velocities(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = recordDiagram(request, probe, probe.Velocities(), kVelocityLabels);
-    addRejected(diagram, probe);
+    if (!probe.marksMoved) {
+        addRejected(diagram, probe);
+    }
     // The probe's caption tells more than the title it begins with (how many spikes were removed).
     std::string& title = diagram.frame.plotTitle;
     if (!title.empty() && probe.title.starts_with(title)) {
@@ -86,7 +88,9 @@ PaneContent velocities(const PaneRequest& request, const SAdvProbe& probe) {
 
 PaneContent stresses(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = recordDiagram(request, probe, probe.Stresses(), kStressLabels);
-    addRejected(diagram, probe);
+    if (!probe.marksMoved) {
+        addRejected(diagram, probe);
+    }
     return diagramOrMessage(std::move(diagram));
 }
 

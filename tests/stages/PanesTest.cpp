@@ -8,6 +8,7 @@
 
 #include "Approved.h"
 #include "analysis/AnalysedSeries.h"
+#include "analysis/Clipping.h"
 #include "analysis/CrossSpectralAnalysis.h"
 #include "analysis/Histogram.h"
 #include "analysis/Quadrants.h"
@@ -155,6 +156,15 @@ TEST(Panes, ShowWhatWasChanged) {
              for (SArray& column : p.workTables[SAdvProbe::kVelocities]) {
                  column.SetSize(40);
              }
+         }},
+        {"such a record clipped",
+         [](Workspace&, SAdvProbe& p) {
+             p.sampleFlags.SetAt(15, 0);
+             for (SArray& column : p.workTables[SAdvProbe::kVelocities]) {
+                 column.SetSize(40);
+             }
+             NoProgress progress;
+             clip(p, 0.4, 0.8, progress);
          }},
         {"an empty record",
          [](Workspace&, SAdvProbe& p) {
