@@ -99,14 +99,11 @@ void CVorl_ADVView::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), active_ ? palette().highlight() : palette().mid());
     painter.save();
     painter.setClipRect(pageArea());
-    if (!tool_ || !tool_->paint(painter)) {
-        geometry_ = paintContent(painter);
+    geometry_ = paintPane(painter, pageArea(), content_);
+    if (tool_) {
+        tool_->paint(painter);
     }
     painter.restore();
-}
-
-std::optional<CScreenUtils> CVorl_ADVView::paintContent(QPainter& painter) const {
-    return paintPane(painter, pageArea(), content_);
 }
 
 void CVorl_ADVView::setIntervalSelection(std::optional<SampleAxis> record) {

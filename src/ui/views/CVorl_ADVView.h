@@ -41,8 +41,6 @@ class CVorl_ADVView : public QWidget {
     const std::optional<CScreenUtils>& geometry() const { return geometry_; }
     /// The pane as a picture of its size on a white page.
     QImage bitmap() const;
-    /// Paints the content where it stands in the pane; geometry of its diagram.
-    std::optional<CScreenUtils> paintContent(QPainter& painter) const;
 
     /// Gives the mouse and the keys of the pane to a tool. Other content, another size, another active view and
     /// endTool() end it.

@@ -24,13 +24,7 @@ DissipationTool::DissipationTool(CVorl_ADVView& view, DissipationSource source, 
     : PaneTool(view), source_(source), unitSelector_(unitSelector), convectiveVelocity_(convectiveVelocity) {}
 
 void DissipationTool::begin() {
-    image_ = QImage(view().size(), QImage::Format_RGB32);
-    image_.fill(Qt::white);
-    std::optional<CScreenUtils> geometry;
-    {
-        QPainter painter(&image_);
-        geometry = view().paintContent(painter);
-    }
+    const std::optional<CScreenUtils> geometry = view().geometry();
     if (!geometry) {
         Q_EMIT left();
         return;
@@ -40,6 +34,8 @@ void DissipationTool::begin() {
                           unitSelector_, convectiveVelocity_);
     anchor_ = {g.originX + g.width / 3, g.originY - g.height / 2};
     offset_.reset();
+    image_ = QImage(view().size(), QImage::Format_ARGB32_Premultiplied);
+    image_.fill(Qt::transparent);
     PixelImage pixels = pixelsOf(image_);
     extractor_.SaveBackground(source_, pixels, anchor_.x(), anchor_.y());
     extractor_.DrawLine(source_, pixels, anchor_.x(), anchor_.y(), kLineColour);
@@ -47,9 +43,8 @@ void DissipationTool::begin() {
     tell();
 }
 
-bool DissipationTool::paint(QPainter& painter) {
+void DissipationTool::paint(QPainter& painter) {
     painter.drawImage(0, 0, image_);
-    return true;
 }
 
 void DissipationTool::moveAnchor(QPoint to) {

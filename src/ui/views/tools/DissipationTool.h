@@ -9,8 +9,8 @@
 namespace vorlan {
 
 /// Moves a line of the inertial range's slope over a spectrum or a structure function and tells the dissipation rate
-/// at its anchor. The line is drawn into a picture of the pane with one pixel per logical pixel, so that what is read
-/// does not depend on the screen.
+/// at its anchor. The line is drawn into a picture that lies over the pane with one pixel per logical pixel, so that
+/// what is read does not depend on the screen.
 class DissipationTool : public PaneTool {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ class DissipationTool : public PaneTool {
     DissipationTool(CVorl_ADVView& view, DissipationSource source, int unitSelector, double convectiveVelocity);
 
     void begin() override;
-    bool paint(QPainter& painter) override;
+    void paint(QPainter& painter) override;
 
   Q_SIGNALS:
     /// The user wants to keep the rate at the line's anchor. slopes tells how the drawn curves run along the line.

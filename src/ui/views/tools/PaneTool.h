@@ -25,8 +25,8 @@ class PaneTool : public QObject {
 
     /// The mode has come on: the pane is laid out and has the focus.
     virtual void begin() = 0;
-    /// Paints what stands in the place of the pane's content; false when the content is painted as ever.
-    virtual bool paint(QPainter&) { return false; }
+    /// Paints over the pane's content.
+    virtual void paint(QPainter&) {}
     /// Gives up what a pressed button has begun: the button is gone, or the focus.
     virtual void giveUpDrag() {}
 
