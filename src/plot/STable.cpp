@@ -12,7 +12,7 @@ namespace vorlan {
 namespace {
 
 constexpr double kSmallestShare = 0.6;
-constexpr double kSmallestNumberShare = 0.3;  // for numbers, which are never cut
+constexpr double kLeastShare = 0.3;  // for numbers, title and headers, which are not cut
 constexpr double kShareStep = 0.02;
 constexpr int kTextGap = 6;  // kept free beside a row title
 constexpr char kDefaultFormat[] = "%.2f";
@@ -154,9 +154,16 @@ double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
     return share;
 }
 
+double STable::shareFor(const std::string& text, int width, double share, const TextMeasure& measure) const {
+    while (share > kLeastShare && measure.width(text, font, share) > width) {
+        share = std::max(kLeastShare, share - kShareStep);
+    }
+    return share;
+}
+
 double STable::shareOfNumbers(double share, const TextMeasure& measure) const {
-    while (share > kSmallestNumberShare && !numbersFit(share, measure)) {
-        share = std::max(kSmallestNumberShare, share - kShareStep);
+    while (share > kLeastShare && !numbersFit(share, measure)) {
+        share = std::max(kLeastShare, share - kShareStep);
     }
     return share;
 }
@@ -185,15 +192,22 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
     const int firstWidth = firstColumnWidth(measure, share);
     const int columns = static_cast<int>(headers.size());
     const int otherWidth = valueColumnWidth(measure, share);
-    const auto add = [&](const std::string& text, int columnLeft, int width, int y) {
-        const std::string shown = shortenedInside(text, font, width - kTextGap, measure, share);
-        const int textWidth = measure.width(shown, font, share);
+    const auto place = [&](const std::string& text, int columnLeft, int width, int y, double own) {
+        const std::string shown = shortenedInside(text, font, width - kTextGap, measure, own);
+        const int textWidth = measure.width(shown, font, own);
         const int x = columnLeft + width / 2 - textWidth / 2;
+        const int ownTop = y + (height - measure.height(font, own)) / 2;
         if (!shown.empty()) {
-            result.texts.push_back({shown, {x, y, x + textWidth, y + height}, font, share});
+            result.texts.push_back({shown, {x, ownTop, x + textWidth, ownTop + measure.height(font, own)}, font, own});
         } else if (!text.empty()) {
             result.complete = false;
         }
+    };
+    const auto add = [&](const std::string& text, int columnLeft, int width, int y) {
+        place(text, columnLeft, width, y, share);
+    };
+    const auto addWhole = [&](const std::string& text, int columnLeft, int width, int y) {
+        place(text, columnLeft, width, y, shareFor(text, width - kTextGap, share, measure));
     };
     const auto columnLeft = [&](int column) {
         return column == 0 ? left : left + firstWidth + (column - 1) * otherWidth;
@@ -201,10 +215,10 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
     const auto columnSpan = [&](int column) { return column == 0 ? firstWidth : otherWidth; };
 
     int y = top + rowHeight / 2;
-    add(title, left, tableWidth, y);
+    addWhole(title, left, tableWidth, y);
     y += rowHeight + rowHeight / 2;
     for (int column = 0; column < columns; ++column) {
-        add(header(column), columnLeft(column), columnSpan(column), y);
+        addWhole(header(column), columnLeft(column), columnSpan(column), y);
     }
     y += rowHeight;
     for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
@@ -219,7 +233,7 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         result.rules.push_back({{left, y}, {left + tableWidth, y}});
     }
     if (!note.empty()) {
-        add(note, left, tableWidth, y + rowHeight / 2);
+        addWhole(note, left, tableWidth, y + rowHeight / 2);
         y += 2 * rowHeight;
     }
     result.complete = result.complete && y <= box.bottom;

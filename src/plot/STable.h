@@ -58,6 +58,8 @@ class STable : public SObject {
 
   private:
     bool isEmptyCell(int row, std::size_t index) const;
+    /// share, or less where the text would not fit the width.
+    double shareFor(const std::string& text, int width, double share, const TextMeasure& measure) const;
     /// share, or less where a number would not fit its column.
     double shareOfNumbers(double share, const TextMeasure& measure) const;
     bool numbersFit(double share, const TextMeasure& measure) const;
