@@ -33,8 +33,8 @@ std::string planReadOut(const Diagram& plan, const CScreenUtils& geometry, int p
             !title.empty() && title[0] >= 'X' && title[0] <= 'Z' && (title.size() == 1 || title[1] == ',');
         return known ? title.substr(0, 1) : std::string(other);
     };
-    return formatted("%s: %.3f m   %s: %.3f m", letter(plan.frame.xTitle, "Horizontal").c_str(), geometry.xValue(px),
-                     letter(plan.frame.yTitle, "Vertical").c_str(), geometry.yValue(py));
+    return letter(plan.frame.xTitle, "Horizontal") + ": " + numberText(geometry.xValue(px), 3) + " m   " +
+           letter(plan.frame.yTitle, "Vertical") + ": " + numberText(geometry.yValue(py), 3) + " m";
 }
 
 }  // namespace vorlan

@@ -8,28 +8,29 @@ namespace vorlan {
 
 namespace {
 
-std::string shown(double value) {
-    return numberText(value, 2);
+// A quantity's name, its value and its unit.
+std::string told(const char* name, double value, const char* unit = "", int digits = 2) {
+    return name + numberText(value, digits) + unit;
 }
 
 std::string axisText(Quantity quantity, double x) {
     switch (quantity) {
         case Quantity::Record:
         case Quantity::Time:
-            return "Time: " + shown(x) + "s";
+            return told("Time: ", x, "s");
         case Quantity::Correlation:
         case Quantity::Lag:
-            return "Lag: " + shown(x) + "s";
+            return told("Lag: ", x, "s");
         case Quantity::Spectrum:
         case Quantity::CrossSpectrum:
         case Quantity::Coherence:
         case Quantity::Phase:
-            return formatted("Frequency: %.3f", x);
+            return told("Frequency: ", x, "", 3);
         case Quantity::Density:
-            return formatted("Velocity: %.2f cm/s", x);
+            return told("Velocity: ", x, " cm/s");
         case Quantity::ContributionRate:
         case Quantity::TimeRate:
-            return formatted("Hole size: %.2f", x);
+            return told("Hole size: ", x);
         case Quantity::Nothing:
             break;
     }
@@ -50,24 +51,23 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
     const double y = geometry.yValue(py);
     switch (quantity) {
         case Quantity::Record:
-            return "Time: " + shown(x) + " s   " +
-                   (value == PhysicalValue::Stresses ? "Stress: " + shown(y) + " (cm/s)^2"
-                                                     : "Velocity: " + shown(y) + " cm/s");
+            return told("Time: ", x, " s") + (value == PhysicalValue::Stresses ? told("   Stress: ", y, " (cm/s)^2")
+                                                                               : told("   Velocity: ", y, " cm/s"));
         case Quantity::Correlation:
-            return "Lag Time: " + shown(x) + " s   Correlation : " + shown(y);
+            return told("Lag Time: ", x, " s") + told("   Correlation : ", y);
         case Quantity::Spectrum:
         case Quantity::CrossSpectrum:
-            return formatted("Frequency: %.3f   Spectral density: %.4g", x, y);
+            return axisText(quantity, x) + "   Spectral density: " + withoutEmptySign(formatted("%.4g", y));
         case Quantity::Coherence:
-            return formatted("Frequency: %.3f   Coherence: %.2f", x, y);
+            return axisText(quantity, x) + told("   Coherence: ", y);
         case Quantity::Phase:
-            return formatted("Frequency: %.3f   Phase: %.1f deg", x, y);
+            return axisText(quantity, x) + told("   Phase: ", y, " deg", 1);
         case Quantity::Density:
-            return formatted("Velocity: %.2f cm/s   Density: %.4f", x, y);
+            return axisText(quantity, x) + told("   Density: ", y, "", 4);
         case Quantity::ContributionRate:
-            return formatted("Hole size: %.2f   Contribution rate: %.2f", x, y);
+            return axisText(quantity, x) + told("   Contribution rate: ", y);
         case Quantity::TimeRate:
-            return formatted("Hole size: %.2f   Fractional time: %.2f", x, y);
+            return axisText(quantity, x) + told("   Fractional time: ", y);
         default:
             return axisText(quantity, x);
     }
@@ -75,7 +75,7 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
 
 std::string dragReadOut(Stage stage, Pane pane, double from, double to) {
     return stage == Stage::PreProcessing && pane == Pane::LeftTop
-               ? "Time interval from: " + shown(from) + " s   to: " + shown(to) + " s"
+               ? told("Time interval from: ", from, " s") + told("   to: ", to, " s")
                : std::string();
 }
 
