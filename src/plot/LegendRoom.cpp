@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plot/PointNames.h"
 #include "plot/PolylineEnvelope.h"
 #include "plot/SeriesShapes.h"
 
@@ -49,7 +50,8 @@ bool arrowsTouch(const Box& box, const PlotSeries& series, const CScreenUtils& g
 
 }  // namespace
 
-bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geometry, double lengthScale) {
+bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geometry, const TextMeasure& measure,
+                double lengthScale) {
     const auto comesIn = [&](const PlotSeries& series) {
         const SeriesAtrType& attributes = series.attributes;
         const auto scaled = [lengthScale](int pixels) { return static_cast<int>(std::ceil(pixels * lengthScale)); };
@@ -70,7 +72,9 @@ bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geom
         }
         return false;
     };
-    return std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), comesIn);
+    const std::vector<PlacedText> names = pointTexts(diagram, geometry, measure, lengthScale);
+    return std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), comesIn) ||
+           std::any_of(names.begin(), names.end(), [&](const PlacedText& name) { return name.box.overlaps(box); });
 }
 
 }  // namespace vorlan

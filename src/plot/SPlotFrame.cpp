@@ -416,8 +416,9 @@ LegendPlace firstLegendPlace(const Diagram& diagram) {
 
 // The layout whose legend stands in the plot area, or one whose legend stands aside where it would cover data.
 template <class Compose>
-FrameLayout withFreeLegend(const Diagram& diagram, double scale, FrameLayout inside, Wishes wishes, Compose compose) {
-    if (!inside.legend.empty() && !coversData(inside.legend.box, diagram, inside.geometry, scale)) {
+FrameLayout withFreeLegend(const Diagram& diagram, const TextMeasure& measure, double scale, FrameLayout inside,
+                           Wishes wishes, Compose compose) {
+    if (!inside.legend.empty() && !coversData(inside.legend.box, diagram, inside.geometry, measure, scale)) {
         return inside;
     }
     wishes.legend = LegendPlace::Beside;
@@ -501,7 +502,7 @@ FrameLayout SPlotFrame::layout(const Box& pane) const {
         layout = compose(wishes);
     }
     if (layout.state == FrameLayout::State::Drawn && wishes.legend == LegendPlace::Inside) {
-        layout = withFreeLegend(diagram_, scale_, std::move(layout), wishes, compose);
+        layout = withFreeLegend(diagram_, measure_, scale_, std::move(layout), wishes, compose);
     }
     layout.geometry.wider = notes.wider;
     return layout;
