@@ -4,6 +4,8 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# Programs have the same bytes wherever they were built.
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 add_library(vorlan_flags INTERFACE)
 target_include_directories(vorlan_flags INTERFACE "${CMAKE_SOURCE_DIR}/src")

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "batch/Interrupt.h"
+#include "batch/LoadPictures.h"
 #include "batch/WorkspaceAccess.h"
 #include "io/ReadFile.h"
 #include "recipes/RecipeRun.h"
@@ -21,7 +22,7 @@ class Runner {
           console_(console),
           port_(console, options),
           document_(port_),
-          run_(document_, port_, input) {}
+          run_(document_, port_, input, loadPictures) {}
 
     void run(const std::filesystem::path& target) {
         if (!target.empty() && identityOf(target) == identityOf(input_)) {

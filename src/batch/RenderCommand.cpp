@@ -1,3 +1,4 @@
+#include "batch/LoadPictures.h"
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
 #include "recipes/Outputs.h"
@@ -52,7 +53,7 @@ void runRender(RenderArguments& arguments, const CLI::App& app, Console& console
     SilentPort port;
     CVorl_ADVDoc document(port);
     openDocument(document, arguments.input);
-    Renderer renderer;
+    Renderer renderer(loadPictures);
     std::string bytes;
     try {
         selectPlace(document, arguments.place);

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "batch/ConsolePort.h"
+#include "batch/LoadPictures.h"
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
 #include "model/Text.h"
@@ -68,7 +69,7 @@ void runReport(const ReportArguments& arguments, Console& console) {
     port.setContext(arguments.input);
     CVorl_ADVDoc document(port);
     openDocument(document, arguments.input);
-    Renderer renderer;
+    Renderer renderer(loadPictures);
     std::string bytes;
     try {
         const Workspace& workspace = document.GetWorkspace();

@@ -13,14 +13,6 @@
 
 namespace vorlan {
 
-/// An entry of the outline that pages stand under; equal texts with other numbers are entries of their own.
-struct OutlineEntry {
-    int number = 0;
-    std::string text;
-
-    friend bool operator==(const OutlineEntry&, const OutlineEntry&) = default;
-};
-
 /// Printed pages as one PDF: lines and letters, fonts embedded, an outline, no date. The same pages give the same
 /// bytes. Needs a QGuiApplication. Texts are UTF-8.
 class PdfDocument {

@@ -4,13 +4,9 @@
 #include <QSize>
 #include <span>
 
-#include "plot/PaneContent.h"
+#include "plot/Pictures.h"
 
 namespace vorlan {
-
-enum class RenderFormat { Png, Svg, Pdf };
-
-inline constexpr double kScreenDpi = 96.0;
 
 /// A picture of size pixels (1/96 inch each in SVG and PDF) as the bytes of a file. Fonts, ticks and pens of a PNG grow
 /// with its dots per inch; above 96 its curves are smooth. SVG and PDF are titled by what they show. One pane fills the

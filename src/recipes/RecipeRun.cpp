@@ -79,8 +79,8 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
 
 }  // namespace
 
-RecipeRun::RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input)
-    : document_(document), port_(port), input_(std::move(input)) {
+RecipeRun::RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input, PicturesSource pictures)
+    : document_(document), port_(port), input_(std::move(input)), renderer_(std::move(pictures)) {
     port_.setContext(printable(input_.string()));
     document_.SetBoundaryStorage(boundaries_);
 }

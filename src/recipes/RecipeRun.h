@@ -14,8 +14,8 @@ namespace vorlan {
 class RecipeRun {
   public:
     /// input names the workspace in messages and in the outputs of steps. The document keeps reading and writing its
-    /// boundary files through this run.
-    RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input);
+    /// boundary files through this run. pictures is asked when a step draws.
+    RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input, PicturesSource pictures);
 
     /// RunError for everything that ends the run; refusals have gone to the port then. target is the workspace that is
     /// written afterwards, if there is one: no step may write it, too.

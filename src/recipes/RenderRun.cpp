@@ -1,17 +1,11 @@
 #include "recipes/RenderRun.h"
 
-#include <QGuiApplication>
 #include <algorithm>
-#include <clocale>
-#include <cstdio>
 #include <filesystem>
 
 #include "model/StageTable.h"
 #include "model/Text.h"
-#include "plot/PdfDocument.h"
-#include "plot/RenderFile.h"
 #include "recipes/ProbePlace.h"
-#include "recipes/ProgramName.h"
 #include "recipes/RunError.h"
 #include "stages/PaneDescription.h"
 #include "stages/TurbulenceReadOut.h"
@@ -36,25 +30,19 @@ std::optional<RenderFormat> formatOf(const std::string& path) {
     return std::nullopt;
 }
 
-// What the toolkit remarks about the machine it runs on is of no use to a script.
-void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtCriticalMsg || type == QtFatalMsg) {
-        std::fprintf(stderr, "%s: %s\n", kBatchName, text.toUtf8().constData());
-    }
-}
-
 void requirePrintable(const std::string& refused) {
     if (!refused.empty()) {
         throw refusal(refused);
     }
 }
 
-std::string renderedPage(const PaneRequest& request, const std::filesystem::path& workspace, const PaperSize& paper) {
+std::string renderedPage(Pictures& pictures, const PaneRequest& request, const std::filesystem::path& workspace,
+                         const PaperSize& paper) {
     requirePrintable(refusalOf(pageOfStage(request.workspace, request.stage), paper).text);
-    PdfDocument document(utf8Text(workspace.stem().string()) + ": " + stageRow(request.stage).text, paper);
-    document.add(describePage(request, paper),
-                 placeOf(request.workspace, {request.file, request.probe, request.stage}));
-    return document.finish().toStdString();
+    const std::string title = utf8Text(workspace.stem().string()) + ": " + stageRow(request.stage).text;
+    return pictures.document(title, paper, 1, [&](std::size_t) -> PlacedPage {
+        return {describePage(request, paper), placeOf(request.workspace, {request.file, request.probe, request.stage})};
+    });
 }
 
 }  // namespace
@@ -128,41 +116,6 @@ void addTriangles(PaneContent& content, const RenderRequest& request) {
 
 }  // namespace
 
-/// The application object that fonts and painting need. A program that has one keeps it.
-class Renderer::Toolkit {
-  public:
-    Toolkit() {
-        if (QCoreApplication::instance() != nullptr) {
-            return;
-        }
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
-        handler_ = qInstallMessageHandler(keepQuiet);
-        application_ = std::make_unique<QGuiApplication>(argumentCount_, arguments_);
-        // The application takes over the desktop's language; numbers keep their point.
-        std::setlocale(LC_NUMERIC, "C");
-    }
-    ~Toolkit() {
-        if (application_ != nullptr) {
-            application_.reset();
-            qInstallMessageHandler(handler_);
-        }
-    }
-    Toolkit(const Toolkit&) = delete;
-    Toolkit& operator=(const Toolkit&) = delete;
-
-  private:
-    QtMessageHandler handler_ = nullptr;
-    std::string name_ = kBatchName;
-    int argumentCount_ = 1;
-    char* arguments_[2] = {name_.data(), nullptr};
-    std::unique_ptr<QGuiApplication> application_;
-};
-
-Renderer::Renderer() = default;
-Renderer::~Renderer() = default;
-
 std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& request) {
     // The plans show what every probe has; the other stages exist once they were run.
     const bool selected = selectStage(document, request.stage);
@@ -177,9 +130,8 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
                              request.pane.value_or(Pane::LeftTop),
                              request.value,
                              request.showTable.value_or(!selected || document.ShowsTable())};
-    startToolkit();
     if (isPage(request.pane, request.path)) {
-        return renderedPage(wanted, document.GetPath(), request.paper);
+        return renderedPage(pictures(), wanted, document.GetPath(), request.paper);
     }
     std::vector<PaneContent> panes;
     for (int pane = 0; pane < kPaneCount; ++pane) {
@@ -192,30 +144,28 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
     for (PaneContent& pane : panes) {
         addTriangles(pane, request);
     }
-    const QByteArray bytes =
-        renderPanes(panes, QSize(request.size.width, request.size.height), formatOf(request.path).value(), request.dpi);
-    if (bytes.isEmpty()) {
+    std::string bytes =
+        pictures().panes(panes, request.size.width, request.size.height, formatOf(request.path).value(), request.dpi);
+    if (bytes.empty()) {
         throw refusal("a picture of this size cannot be made");
     }
-    return bytes.toStdString();
+    return bytes;
 }
 
 std::string Renderer::report(const Workspace& workspace, const std::string& title, const std::vector<ReportPage>& pages,
                              const PaperSize& paper, const std::function<void(std::size_t)>& told) {
     requirePrintable(refusalOf(workspace, pages, paper));
-    startToolkit();
-    PdfDocument document(title, paper);
-    for (std::size_t i = 0; i < pages.size(); ++i) {
+    return pictures().document(title, paper, pages.size(), [&](std::size_t i) -> PlacedPage {
         told(i);
-        document.add(describePage(requestFor(workspace, pages[i]), paper), placeOf(workspace, pages[i]));
-    }
-    return document.finish().toStdString();
+        return {describePage(requestFor(workspace, pages[i]), paper), placeOf(workspace, pages[i])};
+    });
 }
 
-void Renderer::startToolkit() {
-    if (!toolkit_) {
-        toolkit_ = std::make_unique<Toolkit>();
+Pictures& Renderer::pictures() {
+    if (!pictures_) {
+        pictures_ = source_();
     }
+    return *pictures_;
 }
 
 }  // namespace vorlan

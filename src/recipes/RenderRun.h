@@ -11,6 +11,7 @@
 #include "model/PageLayout.h"
 #include "model/SettingField.h"
 #include "model/Stages.h"
+#include "plot/Pictures.h"
 #include "recipes/TextValues.h"
 #include "stages/PageDescription.h"
 
@@ -54,14 +55,11 @@ std::string faultOfTriangles(const RenderRequest& request);
 /// What the tool of the window would tell about the points where the request's triangles begin.
 std::vector<std::string> triangleReadOuts(const CVorl_ADVDoc& document, const RenderRequest& request);
 
-/// Draws what the window's panes show. Holds the toolkit, which is started with the first picture: processes that
-/// work on several workspaces are started before.
+/// Draws what the window's panes show. The toolkit is loaded with the first picture: processes that work on several
+/// workspaces are started before.
 class Renderer {
   public:
-    Renderer();
-    ~Renderer();
-    Renderer(const Renderer&) = delete;
-    Renderer& operator=(const Renderer&) = delete;
+    explicit Renderer(PicturesSource source) : source_(std::move(source)) {}
 
     /// The bytes of the picture of the selected probe. Selects the stage; RunError Refused when the probe has not
     /// got it.
@@ -72,10 +70,10 @@ class Renderer {
                        const PaperSize& paper, const std::function<void(std::size_t)>& told);
 
   private:
-    class Toolkit;
-    void startToolkit();
+    Pictures& pictures();
 
-    std::unique_ptr<Toolkit> toolkit_;
+    PicturesSource source_;
+    std::unique_ptr<Pictures> pictures_;
 };
 
 }  // namespace vorlan

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "plot/PdfDocument.h"
+#include "plot/PageContent.h"
 #include "stages/PaneDescription.h"
 
 namespace vorlan {

@@ -40,7 +40,7 @@ done
 
 while IFS=: read -r file line include; do
     complain "$file:$line: a toolkit header in a room without toolkit: $include"
-done < <(grep -rnE '^#include <Q[A-Z]' model io analysis export app || true)
+done < <(grep -rnE '^#include <Q[A-Z]' model io analysis export app stages recipes batch || true)
 
 [ "$faults" -eq 0 ] || exit 1
 echo "All includes point downward."
