@@ -2,17 +2,25 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <limits>
 
 #include "Records.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
+#include "model/StoreValue.h"
 
 namespace vorlan::test {
 namespace {
 
 TEST(Rotation, EachTurnReadsWhatTheOneBeforeStored) {
-    SAdvProbe probe = velocityRecord(257);
+    SAdvProbe probe = velocityRecord(2057);
+    // Turns that end on whole units, or a rounding beside them, and what does not fit.
+    velocity(probe, 0).SetValue(3, 0.0);
+    velocity(probe, 1).SetValue(3, 0.0);
+    velocity(probe, 0).view()[1000] = std::numeric_limits<std::int32_t>::min();
+    velocity(probe, 1).view()[1001] = std::numeric_limits<std::int32_t>::max();
     auto u = unitsOf(velocity(probe, 0));
     auto v = unitsOf(velocity(probe, 1));
     auto w = unitsOf(velocity(probe, 2));
@@ -20,18 +28,21 @@ TEST(Rotation, EachTurnReadsWhatTheOneBeforeStored) {
         const double x = a * scaleA;
         const double y = b * scaleB;
         const double phi = std::atan2(y, x) + angle * 3.141592653589 / 180.0;
-        a = static_cast<std::int32_t>(std::sqrt(x * x + y * y) * std::cos(phi) / scaleA);
-        b = static_cast<std::int32_t>(std::sqrt(x * x + y * y) * std::sin(phi) / scaleB);
+        a = truncateToInt32(std::sqrt(x * x + y * y) * std::cos(phi) / scaleA);
+        b = truncateToInt32(std::sqrt(x * x + y * y) * std::sin(phi) / scaleB);
     };
-    for (std::size_t i = 0; i < u.size(); ++i) {
-        turn(u[i], 0.001, v[i], 0.01, 33.0);
-        turn(v[i], 0.01, w[i], 0.002, -20.5);
-        turn(u[i], 0.001, w[i], 0.002, 400.0);
+    const std::array<double, 3> turns[] = {{33.0, -20.5, 400.0}, {90.0, -180.0, 45.0}, {1e-13, 1e9, 60.0}};
+    for (const auto& [heading, pitch, roll] : turns) {
+        for (std::size_t i = 0; i < u.size(); ++i) {
+            turn(u[i], 0.001, v[i], 0.01, heading);
+            turn(v[i], 0.01, w[i], 0.002, pitch);
+            turn(u[i], 0.001, w[i], 0.002, roll);
+        }
+        rotateProbe(probe, heading, pitch, roll);
+        EXPECT_EQ(unitsOf(velocity(probe, 0)), u);
+        EXPECT_EQ(unitsOf(velocity(probe, 1)), v);
+        EXPECT_EQ(unitsOf(velocity(probe, 2)), w);
     }
-    rotateProbe(probe, 33.0, -20.5, 400.0);
-    EXPECT_EQ(unitsOf(velocity(probe, 0)), u);
-    EXPECT_EQ(unitsOf(velocity(probe, 1)), v);
-    EXPECT_EQ(unitsOf(velocity(probe, 2)), w);
 }
 
 TEST(Rotation, CommandWithoutAnglesKeepsTheSamplesAndFormsTheRest) {
