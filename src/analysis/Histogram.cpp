@@ -98,7 +98,8 @@ std::string analyseDistributions(SAdvProbe& probe, const HistogramSettings& sett
     const bool earlier = !probe.seriesU.histogram.IsEmpty();
     const std::array<Moments, 3> moments =
         columnMoments({ColumnSamples::of(probe.seriesU.values), ColumnSamples::of(probe.seriesV.values),
-                       ColumnSamples::of(probe.seriesW.values)});
+                       ColumnSamples::of(probe.seriesW.values)},
+                      progress);
     progress.breathe();
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);

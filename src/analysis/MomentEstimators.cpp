@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/kernels/KernelSet.h"
+
 namespace vorlan {
 
 namespace {
@@ -21,12 +23,20 @@ std::size_t commonSize(const ThreeColumns& columns) {
     return std::min({columns[0].units.size(), columns[1].units.size(), columns[2].units.size()});
 }
 
-std::array<UnitColumn, 3> unitColumns(const ThreeColumns& columns, const std::array<double, 3>& means) {
-    std::array<UnitColumn, 3> summed;
-    for (std::size_t c = 0; c < summed.size(); ++c) {
-        summed[c] = {columns[c].units.data(), columns[c].scale, means[c]};
+/// Hands the samples that all columns have to a kernel, in order and in pieces: the kernels go on with their sums.
+template <class Sum>
+void inPieces(const ThreeColumns& columns, const std::array<double, 3>& means, Progress& progress, Sum sum) {
+    // Less than a millisecond.
+    constexpr std::size_t kPiece = std::size_t{1} << 17;
+    const std::size_t common = commonSize(columns);
+    for (std::size_t first = 0; first < common; first += kPiece) {
+        std::array<UnitColumn, 3> summed;
+        for (std::size_t c = 0; c < summed.size(); ++c) {
+            summed[c] = {columns[c].units.data() + first, columns[c].scale, means[c]};
+        }
+        sum(summed.data(), std::min(kPiece, common - first));
+        progress.breathe();
     }
-    return summed;
 }
 
 }  // namespace
@@ -45,10 +55,12 @@ Moments momentsOf(std::span<const double> samples) {
     return momentsFrom(mean, sums, n);
 }
 
-std::array<double, 3> columnMeans(const ThreeColumns& columns, const KernelSet& kernels) {
+std::array<double, 3> columnMeans(const ThreeColumns& columns, Progress& progress) {
     const std::size_t common = commonSize(columns);
     ColumnSums totals{};
-    kernels.columnTotals(unitColumns(columns, {}).data(), common, totals);
+    inPieces(columns, {}, progress, [&totals](const UnitColumn* summed, std::size_t count) {
+        kernelsInUse().columnTotals(summed, count, totals);
+    });
     std::array<double, 3> means{};
     for (std::size_t c = 0; c < means.size(); ++c) {
         const auto& [units, scale] = columns[c];
@@ -61,11 +73,13 @@ std::array<double, 3> columnMeans(const ThreeColumns& columns, const KernelSet& 
     return means;
 }
 
-std::array<Moments, 3> columnMoments(const ThreeColumns& columns, const KernelSet& kernels) {
-    const std::array<double, 3> means = columnMeans(columns, kernels);
+std::array<Moments, 3> columnMoments(const ThreeColumns& columns, Progress& progress) {
+    const std::array<double, 3> means = columnMeans(columns, progress);
     const std::size_t common = commonSize(columns);
     std::array<ColumnSums, 3> powers{};
-    kernels.columnPowers(unitColumns(columns, means).data(), common, powers.data());
+    inPieces(columns, means, progress, [&powers](const UnitColumn* summed, std::size_t count) {
+        kernelsInUse().columnPowers(summed, count, powers.data());
+    });
     std::array<Moments, 3> moments;
     for (std::size_t c = 0; c < moments.size(); ++c) {
         const auto& [units, scale] = columns[c];

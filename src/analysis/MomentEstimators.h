@@ -3,7 +3,7 @@
 #include <array>
 #include <span>
 
-#include "analysis/kernels/KernelSet.h"
+#include "analysis/Progress.h"
 #include "model/STimeSeries.h"
 
 namespace vorlan {
@@ -38,8 +38,8 @@ struct ColumnSamples {
 /// Three columns at once, of any sizes: means, or all moments, each as momentsOf() gives them. The sums of one column
 /// need not wait for those of another, and no column is turned into doubles in memory.
 using ThreeColumns = std::array<ColumnSamples, 3>;
-std::array<double, 3> columnMeans(const ThreeColumns& columns, const KernelSet& kernels = kernelsInUse());
-std::array<Moments, 3> columnMoments(const ThreeColumns& columns, const KernelSet& kernels = kernelsInUse());
+std::array<double, 3> columnMeans(const ThreeColumns& columns, Progress& progress = noProgress());
+std::array<Moments, 3> columnMoments(const ThreeColumns& columns, Progress& progress = noProgress());
 
 /// Deviations from mean, in index order.
 std::vector<double> deviationsFrom(std::span<const double> samples, double mean);

@@ -20,14 +20,14 @@ std::array<Moments, 3> countedMoments(const SAdvProbe& probe, const std::array<c
     return columnMoments(samplesOf(countedColumns(probe, columns)));
 }
 
-std::array<Moments, 3> probeMoments(const SAdvProbe& probe) {
+std::array<Moments, 3> probeMoments(const SAdvProbe& probe, Progress& progress) {
     const SMultiArray& velocities = probe.Velocities();
     if (velocities.IsEmpty()) {
         return {};
     }
     const std::array<SArray, 3> columns =
         countedColumns(probe, {&velocities.GetAt(0), &velocities.GetAt(1), &velocities.GetAt(2)});
-    std::array<Moments, 3> moments = columnMoments(samplesOf(columns));
+    std::array<Moments, 3> moments = columnMoments(samplesOf(columns), progress);
     for (std::size_t c = 0; c < moments.size(); ++c) {
         if (columns[c].GetSize() <= kTooFewSamples) {
             moments[c] = {};
@@ -37,7 +37,7 @@ std::array<Moments, 3> probeMoments(const SAdvProbe& probe) {
 }
 
 void computeProbeMoments(SAdvProbe& probe, Progress& progress) {
-    const std::array<Moments, 3> moments = probeMoments(probe);
+    const std::array<Moments, 3> moments = probeMoments(probe, progress);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         probe.SetVelocityMoments(component, moments[static_cast<std::size_t>(component)]);
     }

@@ -10,7 +10,7 @@ namespace vorlan {
 void computeProbeMoments(SAdvProbe& probe, Progress& progress = noProgress());
 
 /// The moments alone, U, V, W, without touching the probe.
-std::array<Moments, 3> probeMoments(const SAdvProbe& probe);
+std::array<Moments, 3> probeMoments(const SAdvProbe& probe, Progress& progress = noProgress());
 
 /// Moments of the samples that count in three columns, null for none.
 std::array<Moments, 3> countedMoments(const SAdvProbe& probe, const std::array<const SArray*, 3>& columns);

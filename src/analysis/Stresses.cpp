@@ -28,7 +28,8 @@ ThreeColumns workingVelocities(const SAdvProbe& probe) {
 }
 
 /// (x - mean of x) (y - mean of y) of every sample and pair, stored in the resolution of the pair's column.
-void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std::array<double, 3>& means) {
+void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std::array<double, 3>& means,
+                   Progress& progress) {
     const std::size_t samples = columns.front().units.size();
     std::array<std::span<std::int32_t>, kStressPairs> stored;
     for (int pair = 0; pair < kStressPairs; ++pair) {
@@ -38,7 +39,11 @@ void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std
     }
     // Some samples at a time, which stay near for the pairs to come.
     constexpr std::size_t kPart = 4096;
+    constexpr std::size_t kPartsPerBreath = 64;
     for (std::size_t first = 0; first < samples; first += kPart) {
+        if (first / kPart % kPartsPerBreath == 0) {
+            progress.breathe();
+        }
         const std::size_t count = std::min(kPart, samples - first);
         const auto part = [&](std::size_t c) {
             return UnitColumn{columns[c].units.data() + first, columns[c].scale, means[c]};
@@ -56,7 +61,7 @@ void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std
 
 void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progress) {
     const ThreeColumns columns = workingVelocities(probe);
-    const std::array<double, 3> means = columnMeans(columns);
+    const std::array<double, 3> means = columnMeans(columns, progress);
     std::copy(means.begin(), means.end(), probe.scalarResults.begin() + SAdvProbe::kFluctuationMeans);
     progress.breathe();
 
@@ -67,13 +72,13 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
         const int lender = resolution == StressResolution::SamePosition ? pair : 0;
         stresses.ElementAt(pair).SetScale(velocities.GetAt(lender).GetScale());
     }
-    storeProducts(stresses, columns, means);
+    storeProducts(stresses, columns, means, progress);
     progress.breathe();
 
     // The moments are those of the stored products, of the samples that count.
     std::array<SArray, 3> counted = countedColumns(probe, {&stresses.GetAt(0), &stresses.GetAt(1), &stresses.GetAt(2)});
-    const std::array<Moments, 3> moments =
-        columnMoments({ColumnSamples::of(counted[0]), ColumnSamples::of(counted[1]), ColumnSamples::of(counted[2])});
+    const std::array<Moments, 3> moments = columnMoments(
+        {ColumnSamples::of(counted[0]), ColumnSamples::of(counted[1]), ColumnSamples::of(counted[2])}, progress);
     for (int pair = 0; pair < kStressPairs; ++pair) {
         STimeSeries& series = probe.Series(STimeSeries::UV + pair);
         series.samplingInterval = probe.samplingInterval;
@@ -86,12 +91,13 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
 }
 
 void computeStressStatistics(SAdvProbe& probe, Progress& progress) {
-    const std::array<Moments, 3> velocities = columnMoments(workingVelocities(probe));
+    const std::array<Moments, 3> velocities = columnMoments(workingVelocities(probe), progress);
     progress.breathe();
     const SMultiArray& stresses = probe.Stresses();
     const std::array<double, 3> means =
         columnMeans({ColumnSamples::of(stresses.GetAt(0)), ColumnSamples::of(stresses.GetAt(1)),
-                     ColumnSamples::of(stresses.GetAt(2))});
+                     ColumnSamples::of(stresses.GetAt(2))},
+                    progress);
     for (std::size_t c = 0; c < velocities.size(); ++c) {
         probe.statistics[SAdvProbe::kVelocityVariances + c] = velocities[c].variance;
         probe.statistics[SAdvProbe::kMeanStresses + c] = means[c];

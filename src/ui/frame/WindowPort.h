@@ -17,8 +17,9 @@ class WindowPort : public QObject, public DocumentPort {
     Q_OBJECT
 
   public:
-    /// Events are taken this often during a run: well below 20 ms, with what lies between two breaths on top.
-    static constexpr int kMillisecondsBetweenEvents = 8;
+    /// Events are taken this often during a run: well below 20 ms, with what lies between two breaths and what the
+    /// machine does meanwhile on top.
+    static constexpr int kMillisecondsBetweenEvents = 4;
 
     WindowPort(QWidget& window, UserBoxes& boxes) : window_(window), boxes_(&boxes) {}
 
