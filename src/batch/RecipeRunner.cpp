@@ -5,7 +5,6 @@
 #include "batch/Interrupt.h"
 #include "batch/LoadPictures.h"
 #include "batch/WorkspaceAccess.h"
-#include "io/ReadFile.h"
 #include "recipes/RecipeRun.h"
 #include "recipes/RunError.h"
 
@@ -49,12 +48,7 @@ class Runner {
             update_ ? update_->save() : saveDocument(document_, target);
             return;
         }
-        try {
-            const FileContent content = readFile(input_);
-            writeOutput(target.string(), content.text(), console_.out);
-        } catch (const FileError& error) {
-            throw unreadable(textOf(error));
-        }
+        copyWorkspace(input_, target);
     }
 
     const Recipe& recipe_;

@@ -1,9 +1,13 @@
 #include "batch/WorkspaceAccess.h"
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
+#include <vector>
 
 #include "batch/Interrupt.h"
+#include "io/AtomicFile.h"
+#include "io/ReadFile.h"
 #include "io/WorkspaceFile.h"
 #include "recipes/RunError.h"
 
@@ -30,6 +34,35 @@ void saveDocument(CVorl_ADVDoc& document, const std::filesystem::path& path) {
     } catch (const FileError& error) {
         throw unwritable(textOf(error));
     }
+}
+
+void copyWorkspace(const std::filesystem::path& from, const std::filesystem::path& to) {
+    constexpr std::size_t kPiece = std::size_t{1} << 18;
+    const auto reading = [](auto read) {
+        try {
+            return read();
+        } catch (const FileError& error) {
+            throw unreadable(textOf(error));
+        }
+    };
+    const auto writing = [](auto write) {
+        try {
+            return write();
+        } catch (const FileError& error) {
+            throw unwritable(textOf(error));
+        }
+    };
+    InputFile source = reading([&] { return InputFile(from); });
+    AtomicFile target = writing([&] { return AtomicFile(to); });
+    std::vector<std::byte> buffer(std::min(source.size(), kPiece));
+    for (std::size_t left = source.size(); left > 0;) {
+        const std::span<std::byte> piece = std::span(buffer).first(std::min(left, buffer.size()));
+        const std::size_t held = reading([&] { return source.read(piece); });
+        writing([&] { target.write(piece.first(held)); });
+        // Less than there should be: somebody has shortened the file.
+        left = held < piece.size() ? 0 : left - held;
+    }
+    writing([&] { target.commit(); });
 }
 
 WorkspaceUpdate::WorkspaceUpdate(CVorl_ADVDoc& document, std::filesystem::path path, Console& console)

@@ -17,6 +17,8 @@ void openDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
 void requireReplaceable(const std::filesystem::path& path);
 /// Saves it; RunError Unwritable, the file at path is then what it was.
 void saveDocument(CVorl_ADVDoc& document, const std::filesystem::path& path);
+/// Copies a workspace byte for byte; RunError Unreadable or Unwritable, as above.
+void copyWorkspace(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// A workspace that is opened, changed and saved over itself. Runs of this program that do so at the same time wait for
 /// each other; when any other program has written the file meanwhile, it is not saved over.
