@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the HTML manual of the pages in docs/. Needs pandoc.
+# Makes the HTML manual of the pages in docs/, to be installed beside them: it shares their pictures. Needs pandoc.
 # Usage: build.sh PROJECT_FOLDER OUTPUT_FOLDER
 set -euo pipefail
 project=$1
@@ -7,7 +7,7 @@ out=$2
 tools=$project/packaging/manual
 
 rm -rf "$out"
-mkdir -p "$out/pictures"
+mkdir -p "$out"
 for page in "$project"/docs/*.md; do
     name=$(basename "$page" .md)
     [ "$name" != README ] || name=index
@@ -15,6 +15,7 @@ for page in "$project"/docs/*.md; do
         --template "$tools/page.html" --output "$out/$name.html" "$page"
 done
 cp "$tools/manual.css" "$project/packaging/vorlan.svg" "$out"
-cp "$project"/docs/pictures/*.png "$out/pictures"
-# What the pages link to beside pages and pictures.
-cp "$project"/docs/*.toml "$project"/docs/*.sh "$out"
+# What the pages link to beside pages.
+for linked in pictures "$project"/docs/*.toml "$project"/docs/*.sh; do
+    ln -s "../docs/$(basename "$linked")" "$out"
+done
