@@ -59,7 +59,8 @@ void writeExport(std::ostream& stream, ExportKind kind, const ExportJob& job) {
         return info.writeAll(stream, job.set);
     }
     const SAdvFile& file = job.set.files.GetAt(job.file);
-    info.write(stream, {file.fileName, job.probe + 1, file.probes.GetAt(job.probe)}, job.options);
+    const std::string name = nameForFiles(file.fileName);
+    info.write(stream, {name, job.probe + 1, file.probes.GetAt(job.probe)}, job.options);
 }
 
 }  // namespace vorlan

@@ -3,6 +3,7 @@
 #include <iosfwd>
 
 #include "export/ExportOptions.h"
+#include "model/Printable.h"
 #include "model/SAdvSet.h"
 
 // What stands behind the rows of the export table, in their order.
@@ -64,9 +65,10 @@ void writePatterns(std::ostream& stream, const ExportSource& source, const Expor
 template <class Block>
 void forEachProbe(const SAdvSet& set, Block block) {
     for (const SAdvFile& file : set.files) {
+        const std::string name = nameForFiles(file.fileName);
         int position = 1;
         for (const SAdvProbe& probe : file.probes) {
-            block(ExportSource{file.fileName, position, probe});
+            block(ExportSource{name, position, probe});
             ++position;
         }
     }

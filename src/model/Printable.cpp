@@ -1,6 +1,16 @@
 #include "model/Printable.h"
 
+#include <algorithm>
+
 namespace vorlan {
+
+namespace {
+
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+
+}  // namespace
 
 std::string printable(std::string_view text) {
     std::string result;
@@ -9,9 +19,15 @@ std::string printable(std::string_view text) {
         const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
         // U+0080 to U+009F are two bytes of UTF-8.
         const bool high = byte(i) == 0xC2 && i + 1 < text.size() && byte(i + 1) >= 0x80 && byte(i + 1) < 0xA0;
-        result += byte(i) < 0x20 || byte(i) == 0x7F || high ? '?' : text[i];
+        result += isControl(text[i]) || high ? '?' : text[i];
         i += high ? 1 : 0;
     }
+    return result;
+}
+
+std::string nameForFiles(std::string_view text) {
+    std::string result(text);
+    std::replace_if(result.begin(), result.end(), isControl, '?');
     return result;
 }
 

@@ -34,11 +34,11 @@ SAdvProbe analysed(BandMode mode = BandMode::Fixed, int unit = 0) {
 }
 
 /// The probe is the second one of the second file.
-SAdvSet setOf(const SAdvProbe& probe) {
+SAdvSet setOf(const SAdvProbe& probe, const std::string& name = "flume.adv") {
     SAdvSet set;
     set.files.Add(SAdvFile());
     SAdvFile file;
-    file.fileName = "flume.adv";
+    file.fileName = name;
     file.probes.Add(SAdvProbe());
     file.probes.Add(probe);
     set.files.Add(file);
@@ -108,6 +108,17 @@ TEST(Exports, FollowOptionsAndProbes) {
     }
     EXPECT_EQ(changeOfApproved("exports-changed", all), "");
     EXPECT_TRUE(other.workTables[SAdvProbe::kStresses].IsEmpty()) << "a probe without stresses keeps none";
+}
+
+TEST(Exports, HoldNoControlCharactersOfNames) {
+    const SAdvSet set = setOf(analysed(), std::string("a\x1b[7m\n\0\x7f \xC2\x85 \xE9", 13));
+    for (const ExportKindInfo& info : exportKinds()) {
+        for (const bool all : {false, true}) {
+            std::ostringstream stream;
+            writeExport(stream, info.kind, {set, 1, 1, {.header = true}, all});
+            EXPECT_NE(stream.str().find("a?[7m??? \xC2\x85 \xE9"), std::string::npos) << info.name;
+        }
+    }
 }
 
 TEST(Exports, OfLongColumnsArePrintedNumbers) {
