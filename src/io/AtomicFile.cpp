@@ -11,6 +11,7 @@
 #include <ctime>
 #include <ostream>
 #include <streambuf>
+#include <utility>
 
 #include "io/FileError.h"
 
@@ -99,7 +100,8 @@ AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), target_
         fail(errno);
     }
     if (exists && !S_ISREG(status.st_mode)) {
-        file_ = FileDescriptor(::open(target_.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
+        file_ =
+            FileDescriptor(uninterrupted([this] { return ::open(target_.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY); }));
         if (!file_.isOpen()) {
             fail(errno);
         }
@@ -117,23 +119,25 @@ AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), target_
 
 void AtomicFile::openTemporary(unsigned mode) {
     // Where the file system can, the file has no name before it is complete: a program that is killed leaves nothing.
-    file_ = FileDescriptor(::open(folder().c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
+    file_ =
+        FileDescriptor(uninterrupted([&] { return ::open(folder().c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode); }));
     if (file_.isOpen() && ::access(ownPath().c_str(), F_OK) == 0) {
         nameless_ = true;
         return;
     }
     file_ = FileDescriptor();
     tryNames([&](const char* name) {
-        file_ = FileDescriptor(::open(name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+        file_ =
+            FileDescriptor(uninterrupted([&] { return ::open(name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); }));
         return file_.isOpen();
     });
 }
 
 void AtomicFile::tryNames(const std::function<bool(const char*)>& take) {
     for (int i = 0; i < kNamesTried; ++i) {
-        const std::filesystem::path candidate = folder() / temporaryName();
+        std::filesystem::path candidate = folder() / temporaryName();
         if (take(candidate.c_str())) {
-            temporary_ = candidate;
+            temporary_ = std::move(candidate);  // a copy might find no memory, and the file would stay
             return;
         }
         if (errno != EEXIST) {
@@ -160,10 +164,7 @@ AtomicFile::~AtomicFile() {
 
 void AtomicFile::write(std::span<const std::byte> bytes) {
     while (!bytes.empty()) {
-        const ssize_t written = ::write(file_.get(), bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t written = uninterrupted([&] { return ::write(file_.get(), bytes.data(), bytes.size()); });
         if (written <= 0) {
             fail(written < 0 ? errno : ENOSPC);
         }
@@ -173,12 +174,13 @@ void AtomicFile::write(std::span<const std::byte> bytes) {
 
 void AtomicFile::commit() {
     if (temporary_.empty() && !nameless_) {
-        if (file_.close() != 0) {
+        // Interrupted, it is closed all the same.
+        if (file_.close() != 0 && errno != EINTR) {
             fail(errno);
         }
         return;
     }
-    if (::fsync(file_.get()) != 0) {
+    if (uninterrupted([this] { return ::fsync(file_.get()); }) != 0) {
         fail(errno);
     }
     takePlace();
@@ -201,7 +203,7 @@ void AtomicFile::takePlace() {
     const SignalsHeld held;
     if (nameless_) {
         tryNames(link);
-    } else if (file_.close() != 0) {
+    } else if (file_.close() != 0 && errno != EINTR) {
         fail(errno);
     }
     if (::rename(temporary_.c_str(), target_.c_str()) != 0) {

@@ -1,13 +1,16 @@
 #include "io/BoundaryFile.h"
 
 #include <locale.h>
-#include <sys/stat.h>
 
 #include <cstdio>
 #include <memory>
 #include <new>
+#include <optional>
+#include <span>
+#include <string>
 
 #include "io/AtomicFile.h"
+#include "io/ReadFile.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -41,11 +44,6 @@ struct FileCloser {
 
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-bool isFolder(std::FILE* file) {
-    struct stat status {};
-    return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
 void readNodes(SBndFile& boundary, std::FILE* file) {
     const CNumbers numbers;
     // The end mark is set only by a read that meets it: without this look ahead an empty file would be a bad line.
@@ -71,11 +69,15 @@ BoundaryFormatError::BoundaryFormatError(const std::string& path)
     : FileError(Kind::Format, path, "Format of the file " + path + " is invalid !") {}
 
 void readBoundary(SBndFile& boundary) {
-    const File file(std::fopen(boundary.path.c_str(), "rb"));
-    if (file == nullptr || isFolder(file.get())) {
+    std::optional<InputFile> file;
+    try {
+        file.emplace(boundary.path);
+    } catch (const FileError&) {
         throw BoundaryOpenError(boundary.path);
     }
-    readNodes(boundary, file.get());
+    std::string text(file->size(), '\0');
+    text.resize(file->read(std::as_writable_bytes(std::span(text))));
+    readBoundary(boundary, text);
 }
 
 void readBoundary(SBndFile& boundary, std::string_view text) {

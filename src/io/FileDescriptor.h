@@ -30,6 +30,16 @@ class FileDescriptor {
     int descriptor_ = -1;
 };
 
+/// Repeats a call of the system that a signal interrupted.
+template <class Call>
+auto uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
 /// The system's words for an error number, without capitals at the start so that they fit into a sentence.
 inline std::string systemReason(int error) {
     std::string reason = std::strerror(error);

@@ -12,7 +12,7 @@ bool FileLock::take() {
         if (!file_.isOpen()) {
             return true;
         }
-        if (::flock(file_.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (uninterrupted([this] { return ::flock(file_.get(), LOCK_EX | LOCK_NB); }) != 0) {
             return errno != EWOULDBLOCK;
         }
         // A file that was replaced meanwhile is another one: its lock is not held.

@@ -39,7 +39,7 @@ void wantLargePages([[maybe_unused]] std::span<std::byte> bytes) {
 
 InputFile::InputFile(const std::filesystem::path& path)
     // Not to wait for the other end of a pipe: what is no regular file is refused below.
-    : path_(path), file_(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
+    : path_(path), file_(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); })) {
     struct stat status {};
     if (!file_.isOpen() || ::fstat(file_.get(), &status) != 0) {
         throw readError(path, errno);
@@ -55,10 +55,8 @@ std::size_t InputFile::read(std::span<std::byte> bytes) {
     wantLargePages(bytes);
     std::size_t held = 0;
     while (held < bytes.size()) {
-        const ssize_t got = ::read(file_.get(), bytes.data() + held, bytes.size() - held);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t got =
+            uninterrupted([&] { return ::read(file_.get(), bytes.data() + held, bytes.size() - held); });
         if (got < 0) {
             throw readError(path_, errno);
         }
