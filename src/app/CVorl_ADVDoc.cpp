@@ -76,11 +76,15 @@ void CVorl_ADVDoc::RecoverWorkspace(const std::filesystem::path& copy, const std
 }
 
 void CVorl_ADVDoc::Replace(Workspace workspace, std::filesystem::path path, std::optional<FileStamp> stamp) {
+    // Whatever needs memory comes first.
+    WrittenBoundaries written;
+    written.restart(workspace.boundaries);
+    History history;
     workspace_ = std::move(workspace);
     path_ = std::move(path);
     stamp_ = stamp;
-    written_.restart(workspace_.boundaries);
-    history_ = History();
+    written_ = std::move(written);
+    history_ = std::move(history);
     savedState_ = history_.State();
 }
 

@@ -1,11 +1,16 @@
 #include "app/WorkspacePatch.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 namespace vorlan {
 
 namespace {
+
+static_assert(std::is_nothrow_move_constructible_v<SAdvProbe> && std::is_nothrow_move_assignable_v<SAdvFile> &&
+                  std::is_nothrow_move_constructible_v<SBndSet> && std::is_nothrow_move_constructible_v<SPageAtrArray>,
+              "a patch is exchanged as a whole or not at all");
 
 template <class T>
 void exchange(std::optional<T>& part, T& held) {
@@ -63,12 +68,13 @@ bool WorkspacePatch::IsEmpty() const {
 }
 
 void WorkspacePatch::Exchange(Workspace& workspace) {
+    // First what needs memory, then what needs none.
+    if (file.has_value()) {
+        exchangeFile(file->file, file->index, workspace.dataFiles.files);
+    }
     exchange(settings, workspace.settings);
     for (ProbePart& part : probes) {
         std::swap(part.value, workspace.dataFiles.files.ElementAt(part.file).probes.ElementAt(part.probe));
-    }
-    if (file.has_value()) {
-        exchangeFile(file->file, file->index, workspace.dataFiles.files);
     }
     exchange(planFrames, workspace.dataFiles.frameAttributes);
     exchange(boundaries, workspace.boundaries);

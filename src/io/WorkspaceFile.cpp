@@ -43,10 +43,11 @@ Workspace openWorkspace(const std::filesystem::path& path) {
     if (file.size() == 0) {
         throw FileError::cannotRead(FileError::Kind::Empty, path, "it is empty");
     }
-    Archive archive = Archive::loading(file);
-    Workspace workspace;
     try {
+        Archive archive = Archive::loading(file);
+        Workspace workspace;
         workspace.Serialize(archive);
+        return workspace;
     } catch (const InvalidVersionError& error) {
         throw FileError(FileError::Kind::Format, path, error.what(), error.what(), error.offset());
     } catch (const EndOfFileError& error) {
@@ -58,7 +59,6 @@ Workspace openWorkspace(const std::filesystem::path& path) {
     } catch (const std::bad_alloc&) {
         throw FileError::cannotRead(FileError::Kind::Unreadable, path, "not enough memory");
     }
-    return workspace;
 }
 
 FileKind kindOfFile(const std::filesystem::path& path) {

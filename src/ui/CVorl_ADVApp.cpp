@@ -5,9 +5,11 @@
 #include <QSvgRenderer>
 #include <QTimer>
 #include <clocale>
+#include <new>
 
 #include "model/Workspace.h"
 #include "ui/DocumentTypeRegistration.h"
+#include "ui/frame/UserBoxes.h"
 
 namespace vorlan {
 
@@ -125,6 +127,20 @@ void CVorl_ADVApp::start(const std::optional<QString>& workspace) {
     }
     if (workspace.has_value()) {
         frame_->files().openPath(*workspace);
+    }
+}
+
+bool CVorl_ADVApp::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::bad_alloc&) {
+        // Not from here: the event may be one of the box that would tell it.
+        QTimer::singleShot(0, this, [this] {
+            if (frame_ && activeModalWidget() == nullptr) {
+                UserBoxes().refuse(frame_.get(), QStringLiteral("Out of memory."));
+            }
+        });
+        return false;
     }
 }
 

@@ -32,6 +32,8 @@ class CVorl_ADVApp : public QApplication {
     CMainFrame& frame() { return *frame_; }
     /// Shows the window and, when one is named, opens the workspace in it.
     void start(const std::optional<QString>& workspace);
+    /// An event that finds no memory is told and left; the window stays.
+    bool notify(QObject* receiver, QEvent* event) override;
 
   private:
     void showSplash();

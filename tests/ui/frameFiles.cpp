@@ -109,9 +109,13 @@ class FrameFiles : public QObject {
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("\x05Hello");
         file.close();
+        QStringList waits;
+        QObject::connect(&driver.frame->files(), &WorkspaceFiles::waiting, driver.frame.get(),
+                         [&](const QString& text) { waits.append(text); });
         QVERIFY(!driver.frame->files().openPath(driver.path("bad.avp")));
         QVERIFY2(driver.boxes.refusals.last().startsWith(QLatin1String("Invalid Workspace format.")),
                  qPrintable(driver.boxes.refusals.last()));
+        QCOMPARE(waits, QStringList({QStringLiteral("Reading bad.avp ..."), QString()}));
         QVERIFY(driver.document().HasProbe());
         QVERIFY(recentTexts(driver).isEmpty());
     }

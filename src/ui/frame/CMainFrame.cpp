@@ -145,6 +145,10 @@ void CMainFrame::connectWidgets() {
     connect(actions_, &CommandActions::recentChosen, &files_, &WorkspaceFiles::openRecent);
     connect(&files_, &WorkspaceFiles::recentListChanged, this,
             [this] { actions_->setRecentFiles(files_.recentPaths()); });
+    connect(&files_, &WorkspaceFiles::waiting, this, [this](const QString& text) {
+        statusPane_->setText(text.isEmpty() ? QStringLiteral("Ready") : text);
+        statusPane_->repaint();
+    });
     connect(selectionBar_, &SelectionBar::fileChosen, this, [this](int index) { document_.SelectFile(index); });
     connect(selectionBar_, &SelectionBar::probeChosen, this, [this](int index) { document_.SelectProbe(index); });
     connect(selectionBar_, &SelectionBar::valueChosen, this,

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <ctime>
+#include <new>
 #include <ostream>
 
 #include "analysis/Quadrants.h"
@@ -41,6 +42,8 @@ void UserCommands::run(Command command) {
     } catch (const InvalidArgument& error) {
         // A damaged workspace: columns that should be of one length are not.
         boxes_->refuse(&window_, QString::fromUtf8(error.what()));
+    } catch (const std::bad_alloc&) {
+        boxes_->refuse(&window_, QStringLiteral("Out of memory."));
     }
 }
 

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <new>
 
 #include "io/FileError.h"
 
@@ -17,6 +19,24 @@ std::filesystem::path toPath(const QString& path) {
 QString toText(const std::filesystem::path& path) {
     return QFile::decodeName(QByteArray::fromStdString(path.string()));
 }
+
+/// Tells what is waited for while it lives.
+class Waiting {
+  public:
+    Waiting(WorkspaceFiles& files, const char* what, const QString& path) : files_(files) {
+        Q_EMIT files_.waiting(QString::fromLatin1(what).arg(QFileInfo(path).fileName()));
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~Waiting() {
+        QGuiApplication::restoreOverrideCursor();
+        Q_EMIT files_.waiting(QString());
+    }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+
+  private:
+    WorkspaceFiles& files_;
+};
 
 }  // namespace
 
@@ -63,9 +83,13 @@ void WorkspaceFiles::openRecent(const QString& path) {
 
 bool WorkspaceFiles::load(const QString& path) {
     try {
+        const Waiting waiting(*this, "Reading %1 ...", path);
         document_.OpenWorkspace(toPath(path));
     } catch (const FileError& error) {
         boxes_->refuse(&window_, QString::fromUtf8(error.what()));
+        return false;
+    } catch (const std::bad_alloc&) {
+        boxes_->refuse(&window_, QStringLiteral("Out of memory."));
         return false;
     }
     remember(path);
@@ -96,9 +120,13 @@ bool WorkspaceFiles::saveAs() {
 
 bool WorkspaceFiles::saveTo(const QString& path) {
     try {
+        const Waiting waiting(*this, "Writing %1 ...", path);
         document_.SaveWorkspace(toPath(path));
     } catch (const FileError& error) {
         boxes_->refuse(&window_, QString::fromUtf8(error.what()));
+        return false;
+    } catch (const std::bad_alloc&) {
+        boxes_->refuse(&window_, QStringLiteral("Out of memory."));
         return false;
     }
     remember(path);

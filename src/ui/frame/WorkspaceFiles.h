@@ -39,6 +39,8 @@ class WorkspaceFiles : public QObject {
 
   Q_SIGNALS:
     void recentListChanged();
+    /// What the window waits for: a folder of another machine may take its time. Empty when it is done.
+    void waiting(const QString& text);
 
   private:
     bool saveTo(const QString& path);

@@ -6,6 +6,7 @@
 #include <QRubberBand>
 #include <algorithm>
 #include <cstdlib>
+#include <new>
 #include <utility>
 
 #include "plot/PaintPane.h"
@@ -99,7 +100,14 @@ void CVorl_ADVView::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), active_ ? palette().highlight() : palette().mid());
     painter.save();
     painter.setClipRect(pageArea());
-    geometry_ = paintPane(painter, pageArea(), content_);
+    try {
+        geometry_ = paintPane(painter, pageArea(), content_);
+    } catch (const std::bad_alloc&) {
+        // Nobody can be told while a widget is painted.
+        painter.fillRect(pageArea(), Qt::white);
+        painter.drawText(pageArea(), Qt::AlignCenter, QStringLiteral("Out of memory."));
+        geometry_.reset();
+    }
     if (tool_) {
         tool_->paint(painter);
     }
