@@ -14,14 +14,14 @@ namespace {
 
 class Runner {
   public:
-    Runner(const Recipe& recipe, const std::filesystem::path& input, const ConsolePort::Options& options,
-           Console& console)
+    Runner(const Recipe& recipe, const std::filesystem::path& input, const OutputFolders& folders,
+           const ConsolePort::Options& options, Console& console)
         : recipe_(recipe),
           input_(input),
           console_(console),
           port_(console, options),
           document_(port_),
-          run_(document_, port_, input, loadPictures) {}
+          run_(document_, port_, input, loadPictures, folders) {}
 
     void run(const std::filesystem::path& target) {
         if (!target.empty() && identityOf(target) == identityOf(input_)) {
@@ -63,8 +63,8 @@ class Runner {
 }  // namespace
 
 void runRecipe(const Recipe& recipe, const std::filesystem::path& input, const std::filesystem::path& target,
-               const ConsolePort::Options& options, Console& console) {
-    Runner(recipe, input, options, console).run(target);
+               const OutputFolders& folders, const ConsolePort::Options& options, Console& console) {
+    Runner(recipe, input, folders, options, console).run(target);
 }
 
 }  // namespace vorlan

@@ -15,6 +15,7 @@ struct RunArguments {
     std::string recipe;
     std::string out;
     std::string outDir;
+    std::vector<std::string> writeBelow;
     bool inPlace = false;
     int jobs = 1;
     int noRepeat = 0;  ///< 0 yes, 1 no
@@ -107,6 +108,18 @@ void requireDistinctOutputs(const RunArguments& arguments, const Recipe& recipe,
     }
 }
 
+/// The folders that the command line names, beside that of the input.
+OutputFolders foldersOf(const RunArguments& arguments) {
+    OutputFolders folders;
+    for (const std::string& folder : arguments.writeBelow) {
+        folders.add(folder);
+    }
+    folders.add(std::filesystem::path(arguments.recipe).parent_path());
+    folders.add(arguments.outDir);
+    folders.add(std::filesystem::path(arguments.out).parent_path());
+    return folders;
+}
+
 void requireFolder(const std::string& folder) {
     std::error_code error;
     if (!folder.empty() && !std::filesystem::is_directory(folder, error)) {
@@ -120,6 +133,7 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
     const std::vector<std::filesystem::path> targets = targetsOf(arguments);
     requireDistinctOutputs(arguments, recipe, targets);
     requireFolder(arguments.outDir);
+    const OutputFolders folders = foldersOf(arguments);
 
     const int count = static_cast<int>(arguments.inputs.size());
     const bool processes = arguments.jobs > 1 && count > 1;
@@ -130,7 +144,7 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
     const InterruptWatch watch;
     const auto task = [&](int index, Console& own) {
         const auto i = static_cast<std::size_t>(index);
-        runRecipe(recipe, arguments.inputs[i], targets[i], options, own);
+        runRecipe(recipe, arguments.inputs[i], targets[i], folders, options, own);
     };
     if (processes) {
         return runInProcesses(count, arguments.jobs, console, task);
@@ -154,6 +168,10 @@ Subcommand addRunCommand(CLI::App& program) {
     needsName(
         app->add_option("--out-dir", arguments->outDir, "An existing folder for the workspaces, under their own names"))
         ->type_name("DIR");
+    needsName(app->add_option("--write-below", arguments->writeBelow,
+                              "Another folder that steps of the recipe may write into; may be repeated"))
+        ->type_name("DIR")
+        ->allow_extra_args(false);
     app->add_flag("--in-place", arguments->inPlace, "Write every workspace over its input");
     app->add_option("--jobs", arguments->jobs, "Workspaces to work on at once")
         ->type_name("N")

@@ -78,6 +78,21 @@ void requireOtherThanWorkspace(const std::string& output) {
     }
 }
 
+void OutputFolders::require(const std::string& output) const {
+    const std::filesystem::path file = identityOf(output);
+    for (const std::filesystem::path& folder : folders_) {
+        const auto [end, below] = std::mismatch(folder.begin(), folder.end(), file.begin(), file.end());
+        if (end == folder.end()) {
+            if (std::any_of(below, file.end(), [](const auto& name) { return name.string().starts_with('.'); })) {
+                throw usageError(output + " is hidden: no recipe writes there");
+            }
+            return;
+        }
+    }
+    throw usageError(output +
+                     " is outside of the folders that the command line names; --write-below DIR names another one");
+}
+
 void PendingOutputs::add(const std::string& path, std::string bytes) {
     const auto same =
         std::find_if(outputs_.begin(), outputs_.end(), [&](const Output& output) { return output.path == path; });

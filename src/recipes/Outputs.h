@@ -25,6 +25,18 @@ void requireOtherThanInput(const std::string& output, const std::string& input);
 /// Refuses to put a table or a picture in the place of a workspace.
 void requireOtherThanWorkspace(const std::string& output);
 
+/// The folders that the steps of a recipe may write into. A recipe, and a workspace with the path of a boundary in it,
+/// may come from a stranger: neither reaches what its reader has not named.
+class OutputFolders {
+  public:
+    void add(const std::filesystem::path& folder) { folders_.push_back(identityOf(folder.empty() ? "." : folder)); }
+    /// RunError Usage for a file outside of them, or a hidden one.
+    void require(const std::string& output) const;
+
+  private:
+    std::vector<std::filesystem::path> folders_;
+};
+
 /// The files that a run makes. They are held back until everything succeeded, so a refused step leaves all of them as
 /// they were.
 class PendingOutputs {

@@ -17,6 +17,7 @@ void PendingBoundaries::read(SBndFile& boundary) {
 }
 
 void PendingBoundaries::write(const SBndFile& boundary) {
+    folders_.require(boundary.path);
     outputs_.addBoundary(boundary.path, boundaryText(boundary));
 }
 

@@ -44,7 +44,7 @@ std::vector<ProbePlace> selectedPlaces(const Recipe& recipe, const Workspace& wo
 /// One step must not overwrite what another step, or the same one for another probe, has written, and none a workspace,
 /// be it there or still to be written as target.
 void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input, const std::filesystem::path& target,
-                        const std::vector<ProbePlace>& places) {
+                        const OutputFolders& folders, const std::vector<ProbePlace>& places) {
     std::map<std::string, const RecipeStep*> writers;
     for (const ProbePlace& place : places) {
         for (const RecipeStep& step : recipe.steps) {
@@ -53,6 +53,7 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
                 continue;
             }
             const std::string path = output->expand(input, place);
+            folders.require(path);
             const auto [earlier, isNew] = writers.emplace(identityOf(path), &step);
             const bool sameTable = earlier->second == &step && writesForAllProbes(step.values);
             if (!isNew && !sameTable) {
@@ -70,6 +71,7 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
         if (!path) {
             continue;
         }
+        folders.require(*path);
         if (writers.count(identityOf(*path)) != 0 || (!target.empty() && identityOf(*path) == identityOf(target))) {
             throw usageError(*path + " would be written more than once: a boundary needs another name");
         }
@@ -79,8 +81,15 @@ void requireFreeOutputs(const Recipe& recipe, const std::filesystem::path& input
 
 }  // namespace
 
-RecipeRun::RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input, PicturesSource pictures)
-    : document_(document), port_(port), input_(std::move(input)), renderer_(std::move(pictures)) {
+RecipeRun::RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input, PicturesSource pictures,
+                     OutputFolders folders)
+    : document_(document),
+      port_(port),
+      input_(std::move(input)),
+      renderer_(std::move(pictures)),
+      folders_(std::move(folders)) {
+    folders_.add(".");
+    folders_.add(input_.parent_path());
     port_.setContext(printable(input_.string()));
     document_.SetBoundaryStorage(boundaries_);
 }
@@ -103,7 +112,7 @@ void RecipeRun::apply(const Recipe& recipe, const std::filesystem::path& target)
 std::vector<ProbePlace> RecipeRun::placesOf(const Recipe& recipe, const std::filesystem::path& target) {
     try {
         const std::vector<ProbePlace> places = selectedPlaces(recipe, document_.GetWorkspace());
-        requireFreeOutputs(recipe, input_, target, places);
+        requireFreeOutputs(recipe, input_, target, folders_, places);
         const auto needsProbe = [](const RecipeStep& step) { return !step.kind->onWorkspace; };
         if (places.empty() && std::any_of(recipe.steps.begin(), recipe.steps.end(), needsProbe)) {
             port_.tell("there is no probe to work on");

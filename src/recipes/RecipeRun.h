@@ -14,8 +14,10 @@ namespace vorlan {
 class RecipeRun {
   public:
     /// input names the workspace in messages and in the outputs of steps. The document keeps reading and writing its
-    /// boundary files through this run. pictures is asked when a step draws.
-    RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input, PicturesSource pictures);
+    /// boundary files through this run. pictures is asked when a step draws. Steps write below folders, the working
+    /// folder and that of the input.
+    RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::path input, PicturesSource pictures,
+              OutputFolders folders = {});
 
     /// RunError for everything that ends the run; refusals have gone to the port then. target is the workspace that is
     /// written afterwards, if there is one: no step may write it, too.
@@ -29,8 +31,9 @@ class RecipeRun {
     CVorl_ADVDoc& document_;
     RecipePort& port_;
     std::filesystem::path input_;
+    OutputFolders folders_;
     PendingOutputs outputs_;
-    PendingBoundaries boundaries_{outputs_};
+    PendingBoundaries boundaries_{outputs_, folders_};
     std::optional<GridEditor> grid_;
     Renderer renderer_;
 };
