@@ -1,0 +1,127 @@
+// Memory runs out at one request after another: whoever asked is told, and what was there stays as it was.
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include "app/CVorl_ADVDoc.h"
+#include "batch/BatchTest.h"
+#include "faults/Faults.h"
+#include "plot/PaintPane.h"
+#include "stages/PaneDescription.h"
+
+namespace vorlan {
+namespace {
+
+/// The next request to fail; the first ones one by one, later ones by a share of what was counted so far.
+int after(int request) {
+    return request + 1 + request / 24;
+}
+
+class Port : public SilentPort {
+  public:
+    void refuse(const std::string& text) override { refusals.push_back(text); }
+    std::vector<std::string> refusals;
+};
+
+std::string stored(const CVorl_ADVDoc& document) {
+    Workspace copy = document.GetWorkspace();
+    Archive archive = Archive::storing();
+    copy.Serialize(archive);
+    return std::string(test::asText(archive.bytes()));
+}
+
+class MemoryOfFiles : public BatchTest {};
+
+TEST_F(MemoryOfFiles, LeavesWhatIsOpenAndWhatIsSaved) {
+    const std::string file = simulated("a.avp");
+    const std::string bytes = read(file);
+    for (const bool saving : {true, false}) {
+        for (int request = 0;; request = after(request)) {
+            Port port;
+            CVorl_ADVDoc document(port);
+            document.SimulateTimeSeries({.length = 4.0}, 1);
+            const std::string before = stored(document);
+            test::failAllocation(request);
+            bool told = false;
+            try {
+                saving ? document.SaveWorkspace(file) : document.OpenWorkspace(file);
+            } catch (const std::bad_alloc&) {
+                told = true;
+            } catch (const FileError& error) {
+                told = std::string(error.what()) == "File cannot be read: " + file + " (not enough memory)";
+            }
+            const bool failed = test::allocationFailed();
+            EXPECT_EQ(told, failed);
+            EXPECT_EQ(names().size(), 1U);
+            if (!failed) {
+                break;
+            }
+            EXPECT_TRUE(stored(document) == before);
+            EXPECT_TRUE(saving ? read(file) == bytes || read(file) == before : document.GetPath().empty()) << request;
+            write("a.avp", bytes);
+        }
+        write("a.avp", bytes);
+    }
+}
+
+TEST_F(MemoryOfFiles, EndsARunWithItsMessage) {
+    const std::string in = simulated("in.avp");
+    const std::string old = "old";
+    const std::vector<std::string> arguments = {"export", "velocities", "--out", write("e.dat", old), in};
+    for (int request = 0;; request = after(request)) {
+        std::ostringstream out;
+        std::ostringstream err;
+        test::failAllocation(request);
+        int status = 0;
+        try {
+            status = runBatch(arguments, out, err);
+        } catch (const std::bad_alloc&) {
+            status = -1;  // before anything was read: the command line itself
+        }
+        if (!test::allocationFailed()) {
+            EXPECT_EQ(status, 0);
+            EXPECT_NE(read(path("e.dat")), old);
+            return;
+        }
+        EXPECT_EQ(names().size(), 2U);
+        if (status != 0) {
+            EXPECT_EQ(read(path("e.dat")), old);
+            EXPECT_TRUE(status == -1 || holds(err.str(), "memory")) << request;
+        }
+        write("e.dat", old);
+    }
+}
+
+TEST_F(MemoryOfFiles, IsNotMissedByPainting) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int count = 1;
+    char name[] = "faults";
+    char* arguments[] = {name, nullptr};
+    const QGuiApplication application(count, arguments);
+    const Workspace workspace = openWorkspace(simulated("a.avp"));
+    QImage image(300, 200, QImage::Format_RGB32);
+    const auto paint = [&](Stage stage) {
+        QPainter painter(&image);
+        paintPane(painter, image.rect(), describePane({workspace, 0, 0, stage, Pane::RightBottom}));
+    };
+    for (const Stage stage : {Stage::PreProcessing, Stage::MeanVelocityVectors}) {
+        image.fill(Qt::white);
+        paint(stage);
+        const QImage painted = image.copy();
+        for (int request = 0;; request = after(request)) {
+            test::failAllocation(request);
+            try {
+                paint(stage);
+            } catch (const std::bad_alloc&) {
+            }
+            if (!test::allocationFailed()) {
+                break;
+            }
+            paint(stage);
+            ASSERT_TRUE(image == painted);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vorlan
