@@ -1,0 +1,56 @@
+// Any bytes as the commands of a user: whatever was done is saved and read again, taken back, and done again.
+#include <cstdlib>
+
+#include "DocumentUse.h"
+
+namespace {
+
+constexpr int kMostCommands = 30;
+
+const vorlan::SAdvFile& record() {
+    static const vorlan::SAdvFile file = [] {
+        vorlan::SimulationParameters parameters;
+        parameters.length = 2.4;
+        parameters.whiteNoise = true;
+        return vorlan::simulate(parameters, 1);
+    }();
+    return file;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    vorlan::startToolkit(argc, *argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    using namespace vorlan;
+    FuzzPort port;
+    MemoryBoundaries boundaries;
+    CVorl_ADVDoc document(port);
+    document.SetBoundaryStorage(boundaries);
+    const std::vector<std::byte> opened = storedBytes(document.GetWorkspace());
+    document.AppendFile(record());
+    document.SelectProbe(0);
+    Choices choices(bytes, size);
+    for (int i = 0; i < kMostCommands && !choices.empty(); ++i) {
+        giveCommand(document, port, choices);
+    }
+    show(document, choices);
+    exportOne(document, choices);
+    const std::vector<std::byte> done = storedBytes(document.GetWorkspace());
+    requireSameAfterReading(done);
+    int steps = 0;
+    for (; document.Undo() == Outcome::Done; ++steps) {
+    }
+    if (storedBytes(document.GetWorkspace()) != opened || document.IsModified()) {
+        std::abort();
+    }
+    while (steps-- > 0 && document.Redo() == Outcome::Done) {
+    }
+    if (storedBytes(document.GetWorkspace()) != done) {
+        std::abort();
+    }
+    return 0;
+}
