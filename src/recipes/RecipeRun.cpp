@@ -86,8 +86,8 @@ RecipeRun::RecipeRun(CVorl_ADVDoc& document, RecipePort& port, std::filesystem::
     : document_(document),
       port_(port),
       input_(std::move(input)),
-      renderer_(std::move(pictures)),
-      folders_(std::move(folders)) {
+      folders_(std::move(folders)),
+      renderer_(std::move(pictures)) {
     folders_.add(".");
     folders_.add(input_.parent_path());
     port_.setContext(printable(input_.string()));
