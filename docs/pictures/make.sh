@@ -19,22 +19,7 @@ for tool in Xvfb openbox xdotool xprop xwininfo import convert; do
     command -v "$tool" >/dev/null || { echo "make.sh: $tool is missing" >&2; exit 1; }
 done
 
-work=$(mktemp -d)
-processes=()
-leave() {
-    for process in "${processes[@]}"; do
-        kill "$process" 2>/dev/null || true
-    done
-    rm -rf "$work"
-}
-trap leave EXIT
-cd "$work"
-
-# keep FILE.png NAME [COLOURS]: into the manual, with few colours and no remarks about when it was made
-keep() {
-    convert "$1" -strip +dither -colors "${3:-48}" -define png:compression-level=9 \
-        -define png:exclude-chunks=date,time "PNG8:$pictures/$2.png"
-}
+source "$pictures/screen.sh"
 
 # --- diagrams of made records ------------------------------------------------------------------------------------
 
@@ -103,44 +88,11 @@ fi
 
 # --- the window and its dialogs ----------------------------------------------------------------------------------
 
-# Settings, recent files and the document type of the user stay as they are.
-export HOME=$work/home XDG_CONFIG_HOME=$work/home/config XDG_DATA_HOME=$work/home/data XDG_CACHE_HOME=$work/home/cache
-mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
-export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
-unset WAYLAND_DISPLAY
-
-exec 3<>display
-Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp 2>/dev/null &
-processes+=($!)
-until [ -s display ]; do sleep 0.1; done
-DISPLAY=:$(head -n1 display)
-export DISPLAY
+begin_display
 openbox --sm-disable 2>/dev/null &
 processes+=($!)
 sleep 1
 
-program=
-open_window() {
-    "$window" "$1" 2>/dev/null &
-    program=$!
-    processes+=("$program")
-    sleep 3  # until the splash picture has left
-    main=$(xdotool search --onlyvisible --pid "$program" --name ' - Vorlan' | tail -n1)
-    xdotool windowsize "$main" 1160 800
-    xdotool windowmove "$main" 40 40
-    xdotool windowactivate "$main"
-    sleep 1
-}
-close_window() {
-    kill "$program" 2>/dev/null || true
-    wait "$program" 2>/dev/null || true
-}
-keys() {
-    for key in "$@"; do
-        xdotool key --clearmodifiers "$key"
-        sleep 0.25
-    done
-}
 # The active window with its frame, cut out of the screen.
 shot() {
     xdotool mousemove 1275 955
@@ -164,7 +116,7 @@ dialog() {
 }
 
 # getting-started.md
-open_window started.avp
+open_window started.avp 40 40
 shot getting-started-record
 keys alt+t i alt+w alt+a
 xdotool type 5
@@ -194,7 +146,7 @@ percent = 20
 do = "quadrants"
 RECIPE
 "$batch" run --recipe settings.toml --out settings.avp sample.avp
-open_window settings.avp
+open_window settings.avp 40 40
 keys ctrl+Tab ctrl+shift+Tab alt+p c alt+r Tab
 xdotool type 178.56
 shot dialog-coordinates
@@ -214,7 +166,7 @@ dialog export-scope alt+f e i
 close_window
 
 # The editor of grid-editor.md on the section of vectors.md, its limits left to the data.
-open_window flume.avp
+open_window flume.avp 40 40
 keys alt+t g
 # the plane X-Z, then every limit and step of the frame left to the data
 keys alt+p Tab Tab Tab Tab Left Tab Tab space
@@ -230,7 +182,7 @@ do = "spectral"
 percent = 8
 RECIPE
 "$batch" run --recipe sample.toml --out sampled.avp sample.avp
-open_window sampled.avp
+open_window sampled.avp 40 40
 keys ctrl+Tab
 shot window
 keys ctrl+shift+Tab alt+p

@@ -8,18 +8,9 @@ set -euo pipefail
 
 pictures=$(cd "$(dirname "$0")" && pwd)
 build=$(cd "$1" && pwd)
+window=$build/src/ui/vorlan
 record=$(realpath "$2")
-
-work=$(mktemp -d)
-processes=()
-leave() {
-    for process in "${processes[@]}"; do
-        kill "$process" 2>/dev/null || true
-    done
-    rm -rf "$work"
-}
-trap leave EXIT
-cd "$work"
+source "$pictures/screen.sh"
 
 cat >spectra.toml <<'RECIPE'
 [[step]]
@@ -40,42 +31,18 @@ RECIPE
 "$build/src/batch/vorlan-batch" import --out tidal.avp --interval 0.03125 "$record"
 "$build/src/batch/vorlan-batch" run --recipe spectra.toml --out spectra.avp tidal.avp
 
-export HOME=$work/home XDG_CONFIG_HOME=$work/home/config XDG_DATA_HOME=$work/home/data XDG_CACHE_HOME=$work/home/cache
-mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
-export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
-unset WAYLAND_DISPLAY
-
-exec 3<>display
-Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp 2>/dev/null &
-processes+=($!)
-until [ -s display ]; do sleep 0.1; done
-DISPLAY=:$(head -n1 display)
-export DISPLAY
-"$build/src/ui/vorlan" spectra.avp 2>/dev/null &
-processes+=($!)
-sleep 4 # until the splash picture has left
-main=$(xdotool search --onlyvisible --pid $! --name ' - Vorlan' | tail -n1)
-xdotool windowsize "$main" 1160 800
-xdotool windowmove "$main" 0 0
-xdotool windowfocus "$main"
-sleep 1
+begin_display
+open_window spectra.avp 0 0
 
 # at X Y: the mouse goes there
 at() {
     xdotool mousemove "$1" "$2"
     sleep 0.3
 }
-keys() {
-    for key in "$@"; do
-        xdotool key "$key" # clearing modifiers would let go of the mouse
-        sleep 0.2
-    done
-}
 shot() {
     sleep 0.5
     import -silent -window "$main" shot.png
-    convert shot.png -strip +dither -colors 64 -define png:compression-level=9 -define png:exclude-chunks=date,time \
-        "PNG8:$pictures/$1.png"
+    keep shot.png "$1" 64
 }
 
 keys ctrl+Tab # the tab of the spectra
