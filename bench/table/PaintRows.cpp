@@ -59,7 +59,7 @@ struct Picture {
     }
     void paintColumns() {
         QPainter painter(&columns);
-        paintSeries(painter, series, geometry, 1.0);
+        paintSeries(painter, series, geometry, {});
     }
     Cell difference() const {
         long inked = 0;
