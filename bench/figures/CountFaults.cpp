@@ -134,8 +134,9 @@ class Inspector {
         const SeriesStyle style = series.attributes.style;
         if (style == SeriesStyle::Line || style == SeriesStyle::LineAndMarkers) {
             for (const std::vector<Spot>& part : fullPolyline(series, geometry).parts) {
-                for (std::size_t i = 1; i < part.size(); ++i) {
-                    onLine(Line{part[i - 1], part[i]});
+                // A point without neighbours is a dot.
+                for (std::size_t i = 0; i < part.size(); ++i) {
+                    onLine(Line{part[i > 0 ? i - 1 : 0], part[i]});
                 }
             }
         }

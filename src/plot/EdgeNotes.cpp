@@ -32,7 +32,12 @@ struct DrawnAxis {
         return (direction > 0 ? std::floor(steps) + 1.0 : std::ceil(steps) - 1.0) * std::fabs(step);
     }
     std::string text(double value) const {
-        return logarithmic ? formatted("%.3g", value) : numberText(value, digits + 1);
+        if (logarithmic) {
+            return formatted("%.3g", value);
+        }
+        // One digit more than the labels have, where it tells something.
+        const std::string finer = numberText(value, digits + 1);
+        return finer.back() == '0' ? numberText(value, digits) : finer;
     }
 };
 
@@ -111,18 +116,27 @@ EdgeNotes edgeNotes(const Diagram& diagram, const CScreenUtils& g, int xDigits, 
     PassedEnds onX;
     PassedEnds onY;
     std::string absent;
+    std::string flat;
+    const auto addTo = [](std::string& names, const std::string& name) { names += (names.empty() ? "" : ", ") + name; };
     for (const PlotSeries& series : diagram.plot.series) {
         const std::string& name = series.attributes.legendText;
         if (const std::optional<DataExtent> extent = seriesExtent(series, g.logX(), g.logY())) {
             onX.add(x, extent->x, name);
             onY.add(y, extent->y, name);
+            if (series.attributes.style == SeriesStyle::Bars && !name.empty() &&
+                y.pixels.offset(extent->y.highest) == 0) {
+                addTo(flat, name);
+            }
         } else if (!name.empty()) {
-            absent += (absent.empty() ? "" : ", ") + name;
+            addTo(absent, name);
         }
     }
     EdgeNotes notes;
     if (!absent.empty()) {
         notes.below.push_back("\u25bc " + absent + (g.logY() ? ": no value above 0" : ": no value to draw"));
+    }
+    if (!flat.empty()) {
+        notes.below.push_back("\u25bc " + flat + ": no bar above " + numberText(g.yMin, yDigits));
     }
     const auto note = [](const PassedEnd& passed, const char* arrow, const DrawnAxis& axis,
                          std::vector<std::string>& into) {

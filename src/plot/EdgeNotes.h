@@ -17,9 +17,9 @@ struct EdgeNotes {
     bool empty() const { return above.empty() && below.empty(); }
 };
 
-/// Notes on series that pass an automatic limit, on those that lie beyond any limit as a whole and on those without a
-/// value that has a place on the axes. The digits are
-/// those of the labels; a note has one more.
+/// Notes on series that pass an automatic limit, on those that lie beyond any limit as a whole, on those without a
+/// value that has a place on the axes and on bars without height. The digits are those of the labels; a note has one
+/// more.
 EdgeNotes edgeNotes(const Diagram& diagram, const CScreenUtils& geometry, int xDigits, int yDigits);
 
 }  // namespace vorlan

@@ -21,8 +21,9 @@ bool touches(const Box& box, const Line& line) {
 
 bool linesTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry) {
     for (const std::vector<Spot>& part : polylineEnvelope(series, geometry, box.left, box.right).parts) {
-        for (std::size_t i = 1; i < part.size(); ++i) {
-            if (touches(box, {part[i - 1], part[i]})) {
+        // A point without neighbours is a dot.
+        for (std::size_t i = 0; i < part.size(); ++i) {
+            if (touches(box, {part[i > 0 ? i - 1 : 0], part[i]})) {
                 return true;
             }
         }

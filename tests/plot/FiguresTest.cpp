@@ -139,9 +139,19 @@ TEST(Figures, SeriesThatAreLeftOutAreNamed) {
     diagram.frame.yMinMode = 1;
     diagram.frame.yMin = -0.42;
     diagram.frame.yMax = 0.0;
-    EXPECT_EQ(notesOf(layoutOf(diagram)), std::vector<std::string>{"\u25bc Ux: up to -1.40"});
+    EXPECT_EQ(notesOf(layoutOf(diagram)), std::vector<std::string>{"\u25bc Ux: down to -2.000"});
     diagram.plot.series[1].y.assign(3, std::nan(""));
     EXPECT_EQ(notesOf(layoutOf(diagram)).size(), 2U);
+}
+
+TEST(Figures, BarsWithoutHeightAreNamed) {
+    const auto notes = [](double height) {
+        Diagram diagram = diagramOf({{0.0, height, 0.0}, {0.0, 1.0, 0.5}}, SeriesStyle::Bars);
+        diagram.frame.yMinMode = 1;
+        return notesOf(layoutOf(diagram));
+    };
+    EXPECT_EQ(notes(0.0), std::vector<std::string>{"\u25bc Ux: no bar above 0.0"});
+    EXPECT_TRUE(notes(0.2).empty());
 }
 
 TEST(Figures, LogarithmicLimitsStayAsGiven) {
