@@ -1,4 +1,4 @@
-#include "analysis/ImportedProbe.h"
+#include "app/TableImport.h"
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
 #include "io/DelimitedTable.h"
@@ -15,12 +15,9 @@ namespace {
 struct ImportOptions {
     std::string out;
     bool append = false;
-    bool asProbes = false;
-    std::optional<std::string> name;
-    TableOptions table;
-    ImportSettings settings;
     int missing = 0;  ///< 0 error, 1 mark
     std::vector<std::string> tables;
+    TableImport import;
 };
 
 void tellUnused(const std::string& path, const std::vector<std::string>& columns, Console& console) {
@@ -40,43 +37,15 @@ void tellUnused(const std::string& path, const std::vector<std::string>& columns
         " not used");
 }
 
-SAdvProbe readProbe(const std::string& path, const ImportOptions& options, std::uint32_t number, Console& console) {
+std::vector<SAdvFile> readFiles(const ImportOptions& options, Console& console) {
     try {
-        const DelimitedTable table = readDelimitedTable(path, options.table);
-        tellUnused(path, table.unused, console);
-        ImportSettings settings = options.settings;
-        settings.probeNumber = number;
-        return importedProbe(table.record, settings);
+        return importTables(options.import,
+                            [&](const std::filesystem::path& table, const std::vector<std::string>& columns) {
+                                tellUnused(table.string(), columns, console);
+                            });
     } catch (const FileError& error) {
         throw unreadable(textOf(error));
-    } catch (const InvalidArgument&) {
-        throw unreadable(path + ": a column holds no value");
     }
-}
-
-SAdvFile newFile(const ImportOptions& options, const std::string& table) {
-    SAdvFile file;
-    file.fileName = options.name ? *options.name : std::filesystem::path(table).stem().string();
-    file.headerDoubleA = options.settings.samplingInterval;
-    return file;
-}
-
-void setLength(SAdvFile& file) {
-    const SAdvProbe& first = file.probes.GetAt(0);
-    file.headerDoubleB = first.WorkingSamples() * first.samplingInterval;
-}
-
-std::vector<SAdvFile> readFiles(const ImportOptions& options, Console& console) {
-    std::vector<SAdvFile> files;
-    for (const std::string& table : options.tables) {
-        if (files.empty() || !options.asProbes) {
-            files.push_back(newFile(options, table));
-        }
-        SAdvProbesArray& probes = files.back().probes;
-        probes.Add(readProbe(table, options, static_cast<std::uint32_t>(probes.GetSize()) + 1, console));
-        setLength(files.back());
-    }
-    return files;
 }
 
 void addTableOptions(CLI::App& app, ImportOptions& options) {
@@ -87,14 +56,14 @@ void addTableOptions(CLI::App& app, ImportOptions& options) {
                if (!fault.empty()) {
                    throw CLI::ValidationError("--columns", fault);
                }
-               options.table.columns = text;
+               options.import.table.columns = text;
            },
            "Names of the columns with commas between them, - for one to skip:\nu,v,w (required), cor1,cor2,cor3, "
            "snr1,snr2,snr3,\nheading,pitch,roll, pressure; without it the first line names them")
         ->type_name("LIST");
-    addReal(app, "--resolution", options.settings.resolution, import_range::kResolution, "R",
+    addReal(app, "--resolution", options.import.settings.resolution, import_range::kResolution, "R",
             "Step in which velocities are stored, cm/s (1e-9 to 1000); everything\nelse takes 0.001")
-        ->default_str(shown(options.settings.resolution));
+        ->default_str(shown(options.import.settings.resolution));
     addChoice(app, "--missing", options.missing, {"error", "mark"},
               "An empty or NaN velocity is an error, or (mark) its sample gets\nmark 0 and the straight line between "
               "its neighbours")
@@ -109,16 +78,17 @@ Subcommand addImportCommand(CLI::App& program) {
     const auto options = std::make_shared<ImportOptions>();
     addWorkspaceOutput(*app, options->out, "The workspace to write")->required();
     app->add_flag("--append", options->append, "Add the records to that workspace as further data files");
-    addReal(*app, "--interval", options->settings.samplingInterval, import_range::kInterval, "S",
+    addReal(*app, "--interval", options->import.settings.samplingInterval, import_range::kInterval, "S",
             "Sampling interval, s (1e-6 to 1e6)")
         ->required();
     addTableOptions(*app, *options);
-    app->add_option("--name", options->name,
+    app->add_option("--name", options->import.name,
                     "Name of the data file; the table's without folder and extension\nunless given")
         ->type_name("TEXT");
-    addTriple(*app, "--position", options->settings.position, kPositions, "X,Y,Z", "Position of the sampling volume, m")
+    addTriple(*app, "--position", options->import.settings.position, kPositions, "X,Y,Z",
+              "Position of the sampling volume, m")
         ->default_str("0,0,0");
-    app->add_flag("--as-probes", options->asProbes, "Make all tables probes 1, 2, ... of one data file");
+    app->add_flag("--as-probes", options->import.asProbes, "Make all tables probes 1, 2, ... of one data file");
     needsName(
         app->add_option(
             "TABLE", options->tables,
@@ -126,8 +96,8 @@ Subcommand addImportCommand(CLI::App& program) {
         ->required()
         ->type_name("");
     return {app, [options](Console& console) {
-                options->table.velocityResolution = options->settings.resolution;
-                options->table.missing =
+                options->import.tables.assign(options->tables.begin(), options->tables.end());
+                options->import.table.missing =
                     options->missing == 1 ? TableOptions::Missing::Mark : TableOptions::Missing::Error;
                 for (const std::string& table : options->tables) {
                     requireOtherThanInput(options->out, table);

@@ -102,17 +102,33 @@ bool holdsNumber(std::string_view field) {
     return reading != Reading::NoNumber && reading != Reading::Missing;
 }
 
-bool isHeader(const std::vector<std::string_view>& fields) {
-    double value = 0.0;
-    return std::all_of(fields.begin(), fields.end(),
-                       [&](std::string_view field) { return readNumber(field, value) == Reading::NoNumber; });
+/// The number with its decimal point moved to the right by places.
+Reading readMoved(std::string_view field, int places, double& value) {
+    const Reading plain = readNumber(field, value);
+    if (places == 0 || plain != Reading::Number) {
+        return plain;
+    }
+    const std::size_t mark = std::min(field.find_first_of("eE"), field.size());
+    double exponent = 0.0;
+    if (mark < field.size()) {
+        parseNumber(field.substr(mark + 1), exponent);
+    }
+    return readNumber(std::string(field.substr(0, mark)) + formatted("e%.0f", exponent + places), value);
+}
+
+int placesOf(VelocityUnit unit) {
+    return unit == VelocityUnit::MetresPerSecond ? 2 : unit == VelocityUnit::MillimetresPerSecond ? -1 : 0;
 }
 
 /// Puts the rows of a table into columns.
 class Rows {
   public:
-    Rows(const Layout& layout, const TableOptions& options, RecordColumns& record)
-        : layout_(layout), options_(options), record_(record) {}
+    Rows(const Layout& layout, const TableOptions& options, DelimitedTable& table)
+        : layout_(layout),
+          options_(options),
+          record_(table.record),
+          times_(table.times),
+          places_(placesOf(options.velocityUnit)) {}
 
     Fault add(const std::vector<std::string_view>& fields) {
         const std::size_t wanted = layout_.targets.size();
@@ -123,12 +139,17 @@ class Rows {
         bool valid = true;
         for (std::size_t i = 0; i < wanted; ++i) {
             const std::size_t target = layout_.targets[i];
+            if (i == options_.timeColumn) {
+                if (const std::string reason = takeTime(fields[i]); !reason.empty()) {
+                    return {i + 1, reason};
+                }
+            }
             if (target == kSkipped) {
                 continue;
             }
             const bool isVelocity = target <= RecordColumns::W;
             double value = 0.0;
-            const Reading reading = readNumber(fields[i], value);
+            const Reading reading = readMoved(fields[i], isVelocity ? places_ : 0, value);
             if (reading == Reading::Missing && options_.missing == TableOptions::Missing::Mark) {
                 value = kMissing;
                 valid = valid && !isVelocity;
@@ -146,6 +167,15 @@ class Rows {
     }
 
   private:
+    std::string takeTime(std::string_view field) {
+        double time = 0.0;
+        const Reading reading = readNumber(field, time);
+        times_.push_back(time);
+        return reading == Reading::Number    ? std::string()
+               : reading == Reading::Missing ? "the time is missing"
+                                             : shownField(field) + " is not a time in seconds";
+    }
+
     std::string refusal(Reading reading, std::string_view field, double value, bool isVelocity) const {
         switch (reading) {
             case Reading::Missing:
@@ -167,6 +197,8 @@ class Rows {
     const Layout& layout_;
     const TableOptions& options_;
     RecordColumns& record_;
+    std::vector<double>& times_;
+    int places_;
 };
 
 }  // namespace
@@ -176,6 +208,12 @@ TableError::TableError(const std::filesystem::path& path, std::size_t line, std:
     : FileError(Kind::Format, path, path.string() + formatted(":%zu:%zu: ", line, column) + reason, reason),
       line_(line),
       column_(column) {}
+
+bool isTableHeader(const std::vector<std::string_view>& fields) {
+    double value = 0.0;
+    return std::all_of(fields.begin(), fields.end(),
+                       [&](std::string_view field) { return readNumber(field, value) == Reading::NoNumber; });
+}
 
 std::string refusalOfColumnList(const std::string& columns) {
     Layout layout;
@@ -203,7 +241,7 @@ DelimitedTable parseDelimitedTable(std::string_view text, const std::filesystem:
     Layout layout;
     if (options.columns.has_value()) {
         refuse(layList(*options.columns, layout));
-        if (isHeader(lines.fields())) {
+        if (isTableHeader(lines.fields())) {
             more = lines.next();
         }
     } else {
@@ -216,7 +254,7 @@ DelimitedTable parseDelimitedTable(std::string_view text, const std::filesystem:
         more = lines.next();
     }
 
-    Rows rows(layout, options, table.record);
+    Rows rows(layout, options, table);
     for (; more; more = lines.next()) {
         refuse(rows.add(lines.fields()));
     }

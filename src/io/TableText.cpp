@@ -77,14 +77,13 @@ bool TableLines::next() {
     return false;
 }
 
-void TableLines::detectSeparator() {
+char TableLines::detectSeparator() {
     for (const char candidate : {';', ',', '\t'}) {
         if (trimmed(line_).find(candidate) != std::string_view::npos) {
-            separator_ = candidate;
-            return;
+            return separator_ = candidate;
         }
     }
-    separator_ = ' ';
+    return separator_ = ' ';
 }
 
 const std::vector<std::string_view>& TableLines::fields() {

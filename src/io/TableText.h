@@ -19,8 +19,8 @@ class TableLines {
     /// Number of the line taken last, from 1; 0 before the first.
     std::size_t number() const { return number_; }
 
-    /// Semicolon, comma, tab or blank, as the current line has them.
-    void detectSeparator();
+    /// Semicolon, comma, tab or blank, as the current line has them; returns it.
+    char detectSeparator();
     /// The fields of the current line, without blanks and quotes around them. Runs of blanks separate once. At most one
     /// more than kMostFields: a line of separators costs no multiple of its length.
     const std::vector<std::string_view>& fields();
