@@ -163,6 +163,17 @@ dialog plot ctrl+f
 dialog page alt+f u
 dialog export alt+f e t
 dialog export-scope alt+f e i
+dialog figure alt+f g
+close_window
+
+# The dialog of import.md, on the measured record when it is there. A table without an interval keeps the dialog open.
+"$batch" export velocities --header --time --separator comma --out flume.csv sample.avp
+open_window sample.avp
+keys alt+f i
+xdotool type "$(realpath "${record:-flume.csv}")"
+keys Return
+shot dialog-import
+keys Escape
 close_window
 
 # The editor of grid-editor.md on the section of vectors.md, its limits left to the data.

@@ -47,6 +47,8 @@ open_window() {
 close_window() {
     kill "$program" 2>/dev/null || true
     wait "$program" 2>/dev/null || true
+    # It was killed: the next start would offer to recover.
+    rm -rf "$XDG_CONFIG_HOME/Brimsel/Vorlan-recovery"
 }
 keys() {
     for key in "$@"; do

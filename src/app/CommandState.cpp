@@ -78,6 +78,11 @@ std::string probeOrPlan(const CVorl_ADVDoc& document, const ShownPanes& shown) {
     return stageRow(document.CurrentStage()).spansAllFiles() ? dataFile(document, shown) : probe(document, shown);
 }
 
+std::string somethingForARecipe(const CVorl_ADVDoc& document, const ShownPanes&) {
+    return document.CommandsOfProbe().commands.empty() ? "nothing was done to this probe since it was sampled or loaded"
+                                                       : "";
+}
+
 std::string notYetOffered(const CVorl_ADVDoc&, const ShownPanes&) {
     return "this version does not offer it";
 }
@@ -107,7 +112,11 @@ const std::vector<CommandRow>& commandTable() {
         {Command::OpenWorkspace, {}},
         {Command::SaveWorkspace, {}},
         {Command::SaveWorkspaceAs, {}},
+        {Command::ImportTable, {}},
         {Command::CloseFile, {dataFile}},
+        {Command::SaveFigure, {dataFile}},
+        {Command::SaveRecipe, {probe, somethingForARecipe}},
+        {Command::RunRecipe, {}},
         {Command::PageSetup, {dataFile}},
         {Command::PrintPreview, {dataFile}},
         {Command::Print, {dataFile}},
@@ -141,6 +150,7 @@ const std::vector<CommandRow>& commandTable() {
         {Command::MeanVelocity, {}},
         {Command::GridEditor, {}},
         {Command::SimulateTimeSeries, {}},
+        {Command::Manual, {}},
         {Command::About, {}},
     };
     return rows;

@@ -11,9 +11,13 @@ enum class Command : int {
     OpenWorkspace,
     SaveWorkspace,
     SaveWorkspaceAs,
+    ImportTable,
     CloseFile,
     FirstExport,  // one per kind of export, in their order
     LastExport = FirstExport + kExportKindCount - 1,
+    SaveFigure,
+    SaveRecipe,
+    RunRecipe,
     PageSetup,
     PrintPreview,
     Print,
@@ -45,6 +49,7 @@ enum class Command : int {
     MeanVelocity,
     GridEditor,
     SimulateTimeSeries,
+    Manual,
     About,
 };
 

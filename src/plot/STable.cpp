@@ -240,4 +240,21 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
     return result;
 }
 
+std::string tabSeparated(const TableContent& content) {
+    const STable table(content);
+    std::string text;
+    for (std::size_t column = 0; column < table.headers.size(); ++column) {
+        text += (column == 0 ? "" : "\t") + table.headers[column];
+    }
+    text += '\n';
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+        text += table.rowTitles[row];
+        for (std::size_t column = 0; column < table.rows[row].size(); ++column) {
+            text += '\t' + table.cell(static_cast<int>(row), static_cast<int>(column));
+        }
+        text += '\n';
+    }
+    return text;
+}
+
 }  // namespace vorlan

@@ -67,4 +67,7 @@ class STable : public SObject {
     int firstColumnWidth(const TextMeasure& measure, double share) const;
 };
 
+/// The headers and rows of a table as text: tabs between the cells, a line feed behind each row.
+std::string tabSeparated(const TableContent& content);
+
 }  // namespace vorlan

@@ -123,15 +123,16 @@ std::string Renderer::render(CVorl_ADVDoc& document, const RenderRequest& reques
     if (!selected && row.mark && !row.spansAllFiles()) {
         throw refusal(std::string("this probe has no stage \"") + row.text + "\" yet");
     }
-    const PaneRequest wanted{document.GetWorkspace(),
-                             document.ActiveFile(),
-                             document.ActiveProbe(),
-                             request.stage,
-                             request.pane.value_or(Pane::LeftTop),
-                             request.value,
-                             request.showTable.value_or(!selected || document.ShowsTable())};
+    return draw({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(), request.stage,
+                 request.pane.value_or(Pane::LeftTop), request.value,
+                 request.showTable.value_or(!selected || document.ShowsTable())},
+                document.GetPath(), request);
+}
+
+std::string Renderer::draw(const PaneRequest& wanted, const std::filesystem::path& workspace,
+                           const RenderRequest& request) {
     if (isPage(request.pane, request.path)) {
-        return renderedPage(pictures(), wanted, document.GetPath(), request.paper);
+        return renderedPage(pictures(), wanted, workspace, request.paper);
     }
     std::vector<PaneContent> panes;
     for (int pane = 0; pane < kPaneCount; ++pane) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "plot/Pictures.h"
 #include "recipes/TextValues.h"
 #include "stages/PageDescription.h"
+#include "stages/PaneDescription.h"
 
 namespace vorlan {
 
@@ -64,6 +66,9 @@ class Renderer {
     /// The bytes of the picture of the selected probe. Selects the stage; RunError Refused when the probe has not
     /// got it.
     std::string render(CVorl_ADVDoc& document, const RenderRequest& request);
+    /// The bytes of the picture of what is wanted. The pane of wanted counts when the request has one; its stage, value
+    /// and triangles are wanted's. workspace names a page.
+    std::string draw(const PaneRequest& wanted, const std::filesystem::path& workspace, const RenderRequest& request);
     /// The bytes of a PDF with these pages, which must be printable on this paper. told is called before each page with
     /// its number, from 0.
     std::string report(const Workspace& workspace, const std::string& title, const std::vector<ReportPage>& pages,

@@ -125,7 +125,7 @@ void CVorl_ADVApp::start(const std::optional<QString>& workspace) {
     if (splash_) {
         splash_->raise();
     }
-    if (workspace.has_value()) {
+    if (!frame_->recovery().offer() && workspace.has_value()) {
         frame_->files().openPath(*workspace);
     }
 }

@@ -34,6 +34,20 @@ class ScriptedBoxes : public vorlan::UserBoxes {
         return exportPath;
     }
 
+    RecoverAnswer askToRecover(QWidget*, const QString& text) override {
+        questions.append(text);
+        return recoverAnswer;
+    }
+    QStringList chooseTables(QWidget*, const QString&) override { return tablePaths; }
+    QString chooseRecipeToSave(QWidget*, const QString& proposed) override {
+        proposals.append(proposed);
+        return recipePath;
+    }
+    QString chooseRecipeToOpen(QWidget*, const QString&) override { return recipePath; }
+    QString chooseFigure(QWidget*, const QString& proposed) override {
+        proposals.append(proposed);
+        return figurePath;
+    }
     bool retry(QWidget*, const QString& text) override {
         retryQuestions.append(text);
         return false;
@@ -64,6 +78,10 @@ class ScriptedBoxes : public vorlan::UserBoxes {
     QString savePath;
     QString exportPath;
     QString boundaryPath;
+    RecoverAnswer recoverAnswer = RecoverAnswer::Later;
+    QStringList tablePaths;
+    QString recipePath;
+    QString figurePath;
     vorlan::PrintChoice printChoice;
     std::function<bool(QPrinter&, vorlan::PrintChoice&)> printerChosen;
     std::function<bool(QPrinter&)> paperChosen;

@@ -12,11 +12,14 @@
 #include "ui/dialogs/CEditTSDlg.h"
 #include "ui/dialogs/CExportDlg.h"
 #include "ui/dialogs/CExportScopeDlg.h"
+#include "ui/dialogs/CFigureDlg.h"
 #include "ui/dialogs/CFilterDlg.h"
 #include "ui/dialogs/CHistDlg.h"
+#include "ui/dialogs/CImportDlg.h"
 #include "ui/dialogs/CMeanVelDlg.h"
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/CQuadrDlg.h"
+#include "ui/dialogs/CRecipeDlg.h"
 #include "ui/dialogs/CSimulateDlg.h"
 #include "ui/dialogs/CSpAnalDlg.h"
 #include "ui/dialogs/CStatDlg.h"
@@ -146,20 +149,41 @@ class DialogsHabits : public QObject {
                            number(v.legendPosition)}) +
                    QString::fromStdString("|" + v.plotTitle + "|" + v.xTitle + "|" + v.yTitle + "|" + v.legendTitle);
         };
+        const std::function figure = [=](const CFigureDlg& d) {
+            return joined({number(d.values().scope), number(d.values().format), number(d.values().size.width),
+                           number(d.values().size.height)});
+        };
+        ImportOffer offer;
+        offer.import.tables = {"a.csv", "b.csv"};
+        offer.text = "time,u,v,w\n0,1,2,3\n0.5,4,5,6\n";
+        offer.roles = guessRoles(previewTable(offer.text));
+        const std::function import = [=](const CImportDlg& d) {
+            const TableImport& v = d.values();
+            return QString::fromStdString(v.table.columns.value_or("none") + " " + v.name.value_or("none") + " ") +
+                   joined({number(v.table.timeColumn.value_or(99)), number(v.table.velocityUnit),
+                           number(v.table.missing), v.settings.samplingInterval, v.settings.resolution,
+                           number(v.asProbes)});
+        };
+        const RecipeSummary recipe{
+            QStringLiteral("day.toml"), {QStringLiteral("1. clip")}, QStringLiteral("all files, probes 1")};
         return {
             row("coordinates", coordinates, rotation, QStringLiteral("Probe")),
             row("editing", editing, EditingSettings{}),
             row("editing by minima", editing, minima),
             row("export", exports),
             row<CExportScopeDlg>("scope", [=](const CExportScopeDlg& d) { return joined({number(d.allProbes())}); }),
+            row("figure", figure, FigureChoice{}),
             row("filter", std::function(fieldsOf<CFilterDlg>), FilterSettings{}),
             row("bell filter", std::function(fieldsOf<CFilterDlg>), bell),
             row("Gaussian filter", std::function(fieldsOf<CFilterDlg>), gaussian),
             row("histogram", std::function(fieldsOf<CHistDlg>), HistogramSettings{}),
+            row("import", import, offer),
             row("mean velocity", velocity, MeanVelocitySettings{}, std::optional(12.5)),
             row("user's mean velocity", velocity, MeanVelocitySettings{1, 10.0}, std::optional<double>()),
             row("plot options", plot, logarithmic, std::span<const ScaleType>(kScales)),
             row("quadrants", std::function(fieldsOf<CQuadrDlg>), QuadrantSettings{}),
+            row<CRecipeDlg>(
+                "recipe", [=](const CRecipeDlg& d) { return joined({number(d.values())}); }, recipe),
             row("simulate", simulation, harmonics),
             row("spectral", spectral, SpectralSettings{}),
             row("spectral by lags", spectral, lags),

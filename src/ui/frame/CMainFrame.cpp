@@ -1,5 +1,6 @@
 #include "ui/frame/CMainFrame.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenu>
@@ -15,20 +16,35 @@
 #include "stages/PaneDescription.h"
 #include "stages/PlanReadOut.h"
 #include "stages/TurbulenceReadOut.h"
+#include "ui/frame/ManualPages.h"
 #include "ui/frame/MenuTable.h"
 
 namespace vorlan {
 
 namespace {
 
-// The first workspace among dropped files; others are ignored.
-QString droppedWorkspace(const QMimeData& data) {
+bool isWorkspace(const QString& path) {
+    return path.endsWith(QLatin1String(".avp"), Qt::CaseInsensitive);
+}
+
+// The first workspace among dropped files, else all the tables; others are ignored.
+QStringList droppedFiles(const QMimeData& data) {
+    QStringList tables;
     for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile() && url.fileName().endsWith(QLatin1String(".avp"), Qt::CaseInsensitive)) {
-            return url.toLocalFile();
+        if (!url.isLocalFile()) {
+            continue;
+        }
+        const QString path = url.toLocalFile();
+        if (isWorkspace(path)) {
+            return {path};
+        }
+        for (const char* suffix : {".csv", ".txt", ".dat", ".tsv"}) {
+            if (path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive)) {
+                tables << path;
+            }
         }
     }
-    return {};
+    return tables;
 }
 
 // The file stays where it is: a source that is told of a move may delete it.
@@ -55,7 +71,8 @@ CMainFrame::CMainFrame(QWidget* parent)
           document_, *panes_,
           {[this](const QString& text) { statusPane_->setText(text); }, [this](const QString& text) { showHint(text); },
            [this](const QString& text) { showReport(text); }, [this] { showRest(); }}),
-      commands_(document_, files_, *panes_, tools_, *this) {
+      commands_(document_, files_, *panes_, tools_, *this),
+      recovery_(document_, *this) {
     setAcceptDrops(true);
     auto* centre = new QWidget(this);
     auto* layout = new QVBoxLayout(centre);
@@ -78,6 +95,7 @@ void CMainFrame::setBoxes(UserBoxes& boxes) {
     port_.setBoxes(boxes);
     files_.setBoxes(boxes);
     commands_.setBoxes(boxes);
+    recovery_.setBoxes(boxes);
 }
 
 void CMainFrame::buildBars() {
@@ -138,6 +156,9 @@ void CMainFrame::buildShortcuts() {
 
 void CMainFrame::connectWidgets() {
     commands_.setReportFunction([this](const QString& text) { showReport(text); });
+    commands_.setPort(port_);
+    recovery_.setReportFunction([this](const QString& text) { showReport(text); });
+    qApp->installEventFilter(new DialogHelp(this));
     document_.SetListener([this](Change change) { documentChanged(change); });
     port_.setRunListener([this](bool running) { runStateChanged(running); });
     port_.setReportListener([this](const QString& text) { showReport(text); });
@@ -200,6 +221,7 @@ void CMainFrame::documentChanged(Change change) {
     if (change != Change::View) {
         showReport({});
     }
+    recovery_.keep();
 }
 
 void CMainFrame::showReport(const QString& text) {
@@ -246,8 +268,9 @@ void CMainFrame::runStateChanged(bool running) {
         if (document_.IsRunning()) {
             return;
         }
+        recovery_.keep();
         if (!dropWhenDone_.isEmpty()) {
-            files_.openPath(std::exchange(dropWhenDone_, QString()));
+            takeDropped(std::exchange(dropWhenDone_, {}));
         }
         if (std::exchange(closeWhenDone_, false)) {
             close();
@@ -336,10 +359,13 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
         return;
     }
     event->setAccepted(files_.mayLeave());
+    if (event->isAccepted()) {
+        recovery_.end();
+    }
 }
 
 void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedWorkspace(*event->mimeData()).isEmpty()) {
+    if (!droppedFiles(*event->mimeData()).isEmpty()) {
         acceptCopy(*event);
     }
 }
@@ -349,17 +375,25 @@ void CMainFrame::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void CMainFrame::dropEvent(QDropEvent* event) {
-    const QString path = droppedWorkspace(*event->mimeData());
-    if (path.isEmpty()) {
+    const QStringList paths = droppedFiles(*event->mimeData());
+    if (paths.isEmpty()) {
         return;
     }
     acceptCopy(*event);
     if (document_.IsRunning()) {
-        dropWhenDone_ = path;
-        showWaiting(QStringLiteral("%1: opening when the calculation ends").arg(QFileInfo(path).fileName()));
+        dropWhenDone_ = paths;
+        showWaiting(QStringLiteral("%1: opening when the calculation ends").arg(QFileInfo(paths[0]).fileName()));
         return;
     }
-    files_.openPath(path);
+    takeDropped(paths);
+}
+
+void CMainFrame::takeDropped(const QStringList& paths) {
+    if (isWorkspace(paths.front())) {
+        files_.openPath(paths.front());
+    } else {
+        commands_.importTables(paths);
+    }
 }
 
 }  // namespace vorlan

@@ -8,6 +8,7 @@
 #include "app/CVorl_ADVDoc.h"
 #include "ui/frame/CommandActions.h"
 #include "ui/frame/PaneGrid.h"
+#include "ui/frame/Recovery.h"
 #include "ui/frame/SelectionBar.h"
 #include "ui/frame/StageTabs.h"
 #include "ui/frame/StatusPane.h"
@@ -32,6 +33,7 @@ class CMainFrame : public QMainWindow {
     WorkspaceFiles& files() { return files_; }
     PaneGrid& panes() { return *panes_; }
     StatusPane& statusPane() { return *statusPane_; }
+    Recovery& recovery() { return recovery_; }
     /// Puts other boxes in the place of the platform's.
     void setBoxes(UserBoxes& boxes);
 
@@ -47,6 +49,7 @@ class CMainFrame : public QMainWindow {
     void buildShortcuts();
     void connectWidgets();
     void runCommand(Command command);
+    void takeDropped(const QStringList& paths);
     void documentChanged(Change change);
     void runStateChanged(bool running);
     void showWaiting(const QString& text);
@@ -79,12 +82,13 @@ class CMainFrame : public QMainWindow {
     QLabel* hint_;     ///< what a tool waits for
     TurbulenceTools tools_;
     UserCommands commands_;
+    Recovery recovery_;
     QPointer<QWidget> focusBeforeRun_;
     QString report_;           ///< how the last command ended
     std::string oldResults_;   ///< what the status bar has said of results older than the record
     QString resultsGrownOld_;  ///< the same, when the last command made them so
     bool closeWhenDone_ = false;
-    QString dropWhenDone_;
+    QStringList dropWhenDone_;
 };
 
 }  // namespace vorlan

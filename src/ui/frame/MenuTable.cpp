@@ -34,7 +34,12 @@ std::vector<Menu> buildMenus() {
              {"&Open...", Command::OpenWorkspace, "Ctrl+O", "Open a workspace file"},
              {"&Save", Command::SaveWorkspace, "Ctrl+S", "Save the workspace"},
              {"Save &As...", Command::SaveWorkspaceAs, "Ctrl+Shift+S", "Save the workspace under another name"},
+             {"&Import Table...", Command::ImportTable, "", "Bring a record in from a text table"},
              {"C&lose File", Command::CloseFile, "", "Close the active data file"},
+             separator(),
+             {"Save Fi&gure...", Command::SaveFigure, "", "Write the active view, all four or the page as a picture"},
+             {"Save &Recipe...", Command::SaveRecipe, "", "Write what was done to the active probe as a recipe"},
+             {"Run Re&cipe...", Command::RunRecipe, "", "Do the steps of a recipe"},
              separator(),
              {"Page Set&up...", Command::PageSetup, "", "Lay out the printed page of this stage"},
              {"Print Pre&view", Command::PrintPreview, "", "Show the page as it will be printed"},
@@ -94,16 +99,17 @@ std::vector<Menu> buildMenus() {
              {"&Grid and Boundaries Editor...", Command::GridEditor, "", "Edit boundaries and probe positions"},
              {"S&imulate Time Series...", Command::SimulateTimeSeries, "", "Make a synthetic record"},
          }},
-        {"&Help", {{"&About Vorlan...", Command::About, "", "Version and licence"}}},
+        {"&Help",
+         {{"&Manual", Command::Manual, "F1", "Read about what is shown"},
+          {"&About Vorlan...", Command::About, "", "Version and licence"}}},
     };
     std::vector<MenuItem>& file = menus.front().items;
-    const auto behindClose =
-        std::find_if(file.begin(), file.end(), [](const MenuItem& item) { return item.command == Command::PageSetup; });
+    const auto behindClose = std::find_if(file.begin(), file.end(),
+                                          [](const MenuItem& item) { return item.command == Command::SaveFigure; });
     std::vector<MenuItem> exports;
     for (const ExportKindInfo& info : exportKinds()) {
         exports.push_back(exportItem(info));
     }
-    exports.push_back(separator());
     file.insert(behindClose, exports.begin(), exports.end());
     return menus;
 }

@@ -1,5 +1,6 @@
 #include "ui/frame/UserBoxes.h"
 
+#include <QAbstractButton>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -7,6 +8,7 @@
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -18,6 +20,8 @@ namespace {
 
 const QString kCaption = QStringLiteral("Vorlan");
 const QString kWorkspaceFilter = QStringLiteral("Vorlan Files (*.avp)");
+const QString kTableFilter = QStringLiteral("Text Tables (*.csv *.txt *.dat *.tsv);;All Files (*.*)");
+const QString kRecipeFilter = QStringLiteral("Recipes (*.toml);;All Files (*.*)");
 const QString kBoundaryFilter = QStringLiteral("Boundary Files (*.bnd);;All Files (*.*)");
 
 QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& text,
@@ -65,6 +69,37 @@ UserBoxes::SaveAnswer UserBoxes::askToSave(QWidget* parent, const QString& name)
         default:
             return SaveAnswer::Cancel;
     }
+}
+
+UserBoxes::RecoverAnswer UserBoxes::askToRecover(QWidget* parent, const QString& text) {
+    QMessageBox box(QMessageBox::Question, kCaption, text, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    const QAbstractButton* recover = box.addButton(QStringLiteral("&Recover"), QMessageBox::AcceptRole);
+    const QAbstractButton* discard = box.addButton(QStringLiteral("&Discard"), QMessageBox::DestructiveRole);
+    QAbstractButton* later = box.addButton(QStringLiteral("&Later"), QMessageBox::RejectRole);
+    box.setEscapeButton(later);
+    box.exec();
+    return box.clickedButton() == recover   ? RecoverAnswer::Recover
+           : box.clickedButton() == discard ? RecoverAnswer::Discard
+                                            : RecoverAnswer::Later;
+}
+
+QStringList UserBoxes::chooseTables(QWidget* parent, const QString& folder) {
+    return QFileDialog::getOpenFileNames(parent, QStringLiteral("Import Table"), folder, kTableFilter);
+}
+
+QString UserBoxes::chooseRecipeToSave(QWidget* parent, const QString& proposed) {
+    return chooseToSave(parent, QStringLiteral("Save Recipe"), proposed, kRecipeFilter, QStringLiteral("toml"), {});
+}
+
+QString UserBoxes::chooseRecipeToOpen(QWidget* parent, const QString& folder) {
+    return QFileDialog::getOpenFileName(parent, QStringLiteral("Run Recipe"), folder, kRecipeFilter);
+}
+
+QString UserBoxes::chooseFigure(QWidget* parent, const QString& proposed) {
+    const QString suffix = QFileInfo(proposed).suffix();
+    return chooseToSave(parent, QStringLiteral("Save Figure"), proposed,
+                        QStringLiteral("%1 Files (*.%2)").arg(suffix.toUpper(), suffix), suffix, {});
 }
 
 QString UserBoxes::chooseWorkspaceToOpen(QWidget* parent, const QString& folder) {

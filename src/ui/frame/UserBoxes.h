@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include "ui/frame/PrintChoice.h"
@@ -14,6 +15,7 @@ namespace vorlan {
 class UserBoxes {
   public:
     enum class SaveAnswer { Save, Discard, Cancel };
+    enum class RecoverAnswer { Recover, Discard, Later };
 
     virtual ~UserBoxes() = default;
     /// Question icon, OK and Cancel.
@@ -24,6 +26,12 @@ class UserBoxes {
     virtual bool retry(QWidget* parent, const QString& text);
     /// "Save changes to %1?" with Yes, No and Cancel.
     virtual SaveAnswer askToSave(QWidget* parent, const QString& name);
+    /// "Recover", "Discard" and "Later".
+    virtual RecoverAnswer askToRecover(QWidget* parent, const QString& text);
+    virtual QStringList chooseTables(QWidget* parent, const QString& folder);
+    virtual QString chooseRecipeToSave(QWidget* parent, const QString& proposed);
+    virtual QString chooseRecipeToOpen(QWidget* parent, const QString& folder);
+    virtual QString chooseFigure(QWidget* parent, const QString& proposed);
     /// Chosen path, empty when cancelled.
     virtual QString chooseWorkspaceToOpen(QWidget* parent, const QString& folder);
     virtual QString chooseWorkspaceToSave(QWidget* parent, const QString& proposed);

@@ -1,7 +1,5 @@
 #include "ui/frame/UserCommands.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -33,6 +31,8 @@
 #include "ui/dialogs/CStatDlg.h"
 #include "ui/dialogs/CVectorsDlg.h"
 #include "ui/frame/AboutBox.h"
+#include "ui/frame/ManualPages.h"
+#include "ui/frame/ManualWindow.h"
 
 namespace vorlan {
 
@@ -73,7 +73,13 @@ void UserCommands::dispatch(Command command) {
             document_.Redo();
             return;
         case Command::BitmapCopy:
-            return copyBitmap();
+            return figures_.copy();
+        case Command::SaveFigure:
+            return figures_.save(printer_.paper());
+        case Command::SaveRecipe:
+            return recipes_.save();
+        case Command::RunRecipe:
+            return recipes_.choose();
         case Command::PageSetup:
             return pageSetup();
         case Command::PrintPreview:
@@ -137,6 +143,9 @@ void UserCommands::dispatch(Command command) {
             return editGrid();
         case Command::SimulateTimeSeries:
             return simulate();
+        case Command::Manual:
+            return showManual(
+                window_, document_.HasFile() ? manualPageOf(document_.CurrentStage()) : QStringLiteral("README.md"));
         case Command::About:
             return showAboutBox(window_);
         default:
@@ -168,6 +177,8 @@ void UserCommands::runFileCommand(Command command) {
             return reportUnless(files_.save(), "Not saved");
         case Command::SaveWorkspaceAs:
             return reportUnless(files_.saveAs(), "Not saved");
+        case Command::ImportTable:
+            return tables_.choose();
         case Command::CloseFile:
             document_.CloseFile();
             return;
@@ -248,12 +259,6 @@ void UserCommands::pageSetup() {
 void UserCommands::print() {
     const QString done = printer_.print();
     report_(done.isEmpty() ? QStringLiteral("Nothing printed") : done);
-}
-
-void UserCommands::copyBitmap() {
-    const Pane pane = document_.ActivePane();
-    QApplication::clipboard()->setImage(panes_.view(pane).bitmap());
-    report_(QStringLiteral("%1 copied").arg(QLatin1String(kPaneTexts[static_cast<std::size_t>(pane)])));
 }
 
 void UserCommands::exportData(ExportKind kind) {

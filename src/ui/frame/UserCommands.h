@@ -5,8 +5,11 @@
 #include <functional>
 
 #include "app/CommandState.h"
+#include "ui/frame/Figures.h"
 #include "ui/frame/PagePrinter.h"
 #include "ui/frame/PaneGrid.h"
+#include "ui/frame/RecipeFiles.h"
+#include "ui/frame/TableImports.h"
 #include "ui/frame/TurbulenceTools.h"
 #include "ui/frame/UserBoxes.h"
 #include "ui/frame/WorkspaceFiles.h"
@@ -23,17 +26,31 @@ class UserCommands {
           panes_(panes),
           tools_(tools),
           window_(window),
-          printer_(document, window) {}
+          printer_(document, window),
+          tables_(document, files, window),
+          recipes_(document, files, window),
+          figures_(document, files, panes, window) {}
 
     void setBoxes(UserBoxes& boxes) {
         boxes_ = &boxes;
         printer_.setBoxes(boxes);
+        tables_.setBoxes(boxes);
+        recipes_.setBoxes(boxes);
+        figures_.setBoxes(boxes);
     }
     /// Seed of the generator; the calendar time unless replaced.
     void setSeedSource(std::function<std::uint64_t()> source) { seed_ = std::move(source); }
     /// Tells how a command ended that the document does not know.
-    void setReportFunction(std::function<void(const QString&)> report) { report_ = std::move(report); }
+    void setReportFunction(std::function<void(const QString&)> report) {
+        tables_.setReportFunction(report);
+        recipes_.setReportFunction(report);
+        figures_.setReportFunction(report);
+        report_ = std::move(report);
+    }
 
+    /// What shows the progress of a recipe's run.
+    void setPort(DocumentPort& port) { recipes_.setPort(port); }
+    void importTables(const QStringList& paths) { tables_.import(paths); }
     /// Runs a command that commandState() enables.
     void run(Command command);
 
@@ -51,7 +68,6 @@ class UserCommands {
     void reportUnless(bool done, const char* otherwise);
     void editGrid();
     void plotFrameOptions();
-    void copyBitmap();
     void pageSetup();
     void print();
     void exportData(ExportKind kind);
@@ -62,6 +78,9 @@ class UserCommands {
     TurbulenceTools& tools_;
     QWidget& window_;
     PagePrinter printer_;
+    TableImports tables_;
+    RecipeFiles recipes_;
+    Figures figures_;
     UserBoxes* boxes_ = nullptr;
     std::function<std::uint64_t()> seed_;
     std::function<void(const QString&)> report_;

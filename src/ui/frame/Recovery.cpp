@@ -1,0 +1,110 @@
+#include "ui/frame/Recovery.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <chrono>
+
+#include "io/FileError.h"
+#include "model/Text.h"
+
+namespace vorlan {
+
+namespace {
+
+/// Beside the settings of the program.
+std::filesystem::path recoveryFolder() {
+    const QString settings =
+        QFileInfo(QSettings(QStringLiteral("Brimsel"), QStringLiteral("Vorlan")).fileName()).absolutePath();
+    return std::filesystem::path(QFile::encodeName(settings).toStdString()) / "Vorlan-recovery";
+}
+
+QString timeText(std::filesystem::file_time_type time) {
+    const auto age =
+        std::chrono::duration_cast<std::chrono::seconds>(std::filesystem::file_time_type::clock::now() - time);
+    return QDateTime::currentDateTime().addSecs(-age.count()).toString(QStringLiteral("yyyy-MM-dd hh:mm"));
+}
+
+}  // namespace
+
+Recovery::Recovery(CVorl_ADVDoc& document, QWidget& window)
+    : document_(document), window_(window), copy_(recoveryFolder()) {
+    timer_.setSingleShot(true);
+    QObject::connect(&timer_, &QTimer::timeout, &window_, [this] { keep(); });
+}
+
+void Recovery::keep() {
+    if (document_.IsRunning()) {
+        return;
+    }
+    if (!document_.IsModified()) {
+        timer_.stop();
+        copy_.remove();
+        keptState_.reset();
+        return;
+    }
+    if (keptState_ == document_.State()) {
+        return;
+    }
+    if (sinceCopy_.isValid() && sinceCopy_.elapsed() < kMilliseconds) {
+        if (!timer_.isActive()) {
+            timer_.start(static_cast<int>(kMilliseconds - sinceCopy_.elapsed()));
+        }
+        return;
+    }
+    sinceCopy_.start();
+    try {
+        copy_.write(document_.GetWorkspace(), document_.GetPath());
+        keptState_ = document_.State();
+        failed_ = false;
+    } catch (const FileError& error) {
+        // Said once: the work goes on without a copy.
+        if (!std::exchange(failed_, true)) {
+            report_(QStringLiteral("No recovery copy: ") + QString::fromStdString(utf8Text(error.what())));
+        }
+    }
+}
+
+bool Recovery::offer() {
+    for (const RecoveryCopy::LeftBehind& left : RecoveryCopy::leftBehind(recoveryFolder())) {
+        const QString name = left.original.empty()
+                                 ? QStringLiteral("a workspace without a name")
+                                 : QString::fromStdString(utf8Text(left.original.filename().string()));
+        switch (boxes_->askToRecover(
+            &window_, QStringLiteral("Vorlan has ended without saving %1. A copy of %2 was kept. Open it?")
+                          .arg(name, timeText(left.time)))) {
+            case UserBoxes::RecoverAnswer::Recover:
+                if (recover(left)) {
+                    return true;
+                }
+                break;
+            case UserBoxes::RecoverAnswer::Discard:
+                left.discard();
+                break;
+            case UserBoxes::RecoverAnswer::Later:
+                break;
+        }
+    }
+    return false;
+}
+
+bool Recovery::recover(const RecoveryCopy::LeftBehind& left) {
+    try {
+        document_.RecoverWorkspace(left.copy, left.original);
+    } catch (const FileError& error) {
+        boxes_->refuse(&window_, QString::fromStdString(utf8Text(error.what())));
+        return false;
+    }
+    keptState_.reset();
+    sinceCopy_.invalidate();
+    keep();
+    // Not before there is one of this program.
+    if (keptState_) {
+        left.discard();
+    }
+    report_(QStringLiteral("Recovered; save it to keep it"));
+    return true;
+}
+
+}  // namespace vorlan
