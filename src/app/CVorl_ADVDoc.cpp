@@ -112,7 +112,7 @@ void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch, DoneCommands
     if (modifies) {
         history_.Record(command, std::move(patch), std::move(done));
     } else {
-        history_.RecordSelection(std::move(patch));
+        history_.RecordSelection(std::move(patch), std::move(done));
     }
 }
 

@@ -11,14 +11,17 @@ void History::Record(const char* command, WorkspacePatch replaced, DoneCommands 
     ++done_;
 }
 
-void History::RecordSelection(WorkspacePatch replaced) {
+void History::RecordSelection(WorkspacePatch replaced, DoneCommands done) {
     ForgetTakenBackOpening();
-    steps_[done_].selections.Precede(std::move(replaced));
+    Step& step = steps_[done_];
+    step.selections.Precede(std::move(replaced));
+    step.done.insert(step.done.end(), done.begin(), done.end());
 }
 
 void History::ForgetTakenBackOpening() {
     if (std::exchange(openingTakenBack_, false)) {
         steps_.front().selections = {};
+        steps_.front().done = {};
     }
 }
 

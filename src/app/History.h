@@ -21,14 +21,14 @@ class History {
         const char* command = nullptr;
         std::uint64_t number = 0;
         WorkspacePatch replaced = {};
-        DoneCommands done = {};          ///< what it was, as far as it can be repeated elsewhere
+        DoneCommands done = {};  ///< what it was, as far as it can be repeated elsewhere, and what only selected
         WorkspacePatch selections = {};  ///< made between this command and the next
     };
 
     /// A command was done. What was taken back before it cannot be done again.
     void Record(const char* command, WorkspacePatch replaced, DoneCommands done);
-    /// Something was selected.
-    void RecordSelection(WorkspacePatch replaced);
+    /// Something was selected, by a command that changed nothing else when there is one in done.
+    void RecordSelection(WorkspacePatch replaced, DoneCommands done);
 
     /// Name of the command that Undo() takes back or Redo() does again; null when there is none.
     const char* UndoName() const { return steps_[done_].command; }
@@ -38,7 +38,10 @@ class History {
     void Redo(Workspace& workspace);
 
     /// The steps that are not taken back, oldest first.
-    std::span<const Step> Done() const { return {steps_.data() + 1, done_}; }
+    std::span<const Step> Done() const {
+        const std::size_t first = openingTakenBack_ ? 1 : 0;
+        return {steps_.data() + first, done_ + 1 - first};
+    }
 
     /// Differs between any two states that a command lies between.
     std::uint64_t State() const { return steps_[done_].number; }

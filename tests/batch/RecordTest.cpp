@@ -203,6 +203,7 @@ TEST_F(RecordTest, OfAProbeAmongOthersToo) {
         // Which tab is selected, and that results are old, is no part of what was done.
         expected.selectedTab = probeOf(workspace, 0, 1).selectedTab;
         expected.resultsAreOld = {};
+        expected.stageIsOld = {};
         EXPECT_TRUE(probeOf(workspace, 0, 1) == expected) << read(path("recipe.toml"));
         EXPECT_TRUE(probeOf(workspace, 0, 0) == probeOf(openWorkspace(input), 0, 0));
     }
