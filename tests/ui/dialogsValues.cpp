@@ -28,11 +28,12 @@ class DialogsValues : public QObject {
         driver.moveUpDown(1);
         QVERIFY(driver.accepted());
         QCOMPARE(dialog.values().grades, 11);
-        // At the end of its range the pair does not move, and so it writes nothing.
-        driver.moveUpDown(-20);
-        driver.type("&Grades Number:", "150");
-        driver.moveUpDown(-1);
-        QCOMPARE(driver.text("&Grades Number:"), QStringLiteral("150"));
+        // What is typed is where the pair goes on, and its range is where it ends.
+        for (const auto& [typed, then] : {std::pair("50", "49"), std::pair("150", "99"), std::pair("0", "0")}) {
+            driver.type("&Grades Number:", typed);
+            driver.moveUpDown(-1);
+            QCOMPARE(driver.text("&Grades Number:"), QString::fromLatin1(then));
+        }
     }
 
     void ofFiltersWhoseWidthIsSteppedInWholeSeconds() {

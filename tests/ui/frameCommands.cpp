@@ -164,6 +164,33 @@ class FrameCommands : public QObject {
         QCOMPARE(driver.document().GetWorkspace().dataFiles.files.GetSize(), 1);
     }
 
+    void acceptedDialogsWithoutAChangeAreNoModification() {
+        FrameDriver driver;
+        driver.simulate();
+        driver.document().PlaceProbe(0, 0, {1234.567, 0.1, 7.0 / 3.0});
+        const std::vector<std::pair<Command, const char*>> dialogs = {
+            {Command::CoordinateSystem, "Coordinate System"},
+            {Command::EditingTimeSeries, "Editing Time Series"},
+            {Command::StationarityAnalysis, "Stationarity Analysis | Parameters"},
+            {Command::Histograms, "Univariate Distributions | Histogram Parameters"},
+            {Command::SpectralAnalysis, "Spectral Analysis | Parameters"},
+            {Command::QuadrantsAnalysis, "Conditional Quadrants Analysis and Averaging"},
+            {Command::MeanVelocityVectors, "Vectors of Mean Velocities | View Parameters"},
+            {Command::MeanVelocity, "Mean Velocity | Parameters"},
+            {Command::PageSetup, "Page Setup | for printing"},
+            {Command::PlotFrameOptions, "Plot Frame Options"},
+        };
+        driver.boxes.savePath = driver.path("same.avp");
+        for (const bool again : {false, true}) {
+            for (const auto& [command, title] : dialogs) {
+                driver.document().SelectStage(0);
+                QVERIFY2(driver.withDialog(command, title), title);
+                QVERIFY2(!again || !driver.document().IsModified(), title);
+            }
+            driver.trigger(Command::SaveWorkspace);
+        }
+    }
+
     void everyStageRunsFromItsDialog() {
         FrameDriver driver;
         driver.simulate(100.0);

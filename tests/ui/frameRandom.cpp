@@ -324,5 +324,13 @@ class FrameRandom : public QObject {
     }
 };
 
-QTEST_MAIN(FrameRandom)
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsSet("VORLAN_RANDOM")) {
+        qputenv("QTEST_FUNCTION_TIMEOUT", "1000000000");  // ms: a long run is no hang
+    }
+    QApplication application(argc, argv);
+    FrameRandom test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "frameRandom.moc"
