@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -15,7 +17,7 @@ class CountedSamples {
             return;
         }
         const auto marks = probe.sampleFlags.view();
-        const auto marked = std::min(static_cast<std::size_t>(samples), marks.size());
+        const auto marked = std::min(asSize(samples), marks.size());
         for (std::size_t i = 0; i < marked; ++i) {
             if (marks[i] >= 1) {
                 indexes_.push_back(i);
@@ -23,7 +25,7 @@ class CountedSamples {
         }
     }
 
-    int size() const { return all_ ? samples_ : static_cast<int>(indexes_.size()); }
+    int size() const { return all_ ? samples_ : asInt(indexes_.size()); }
 
     SArray of(const SArray& column) const {
         if (all_ && column.GetSize() == samples_) {
@@ -31,7 +33,7 @@ class CountedSamples {
         }
         SArray part(column.GetScale());
         const auto source = column.view();
-        part.ResizeForOverwrite(all_ ? static_cast<std::size_t>(samples_) : indexes_.size());
+        part.ResizeForOverwrite(all_ ? asSize(samples_) : indexes_.size());
         if (all_) {
             std::copy_n(source.begin(), samples_, part.begin());
         } else {

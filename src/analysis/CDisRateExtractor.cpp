@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "model/FrameAttributes.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -44,7 +45,7 @@ void CDisRateExtractor::forLine(int px, int py, double p, Visit visit) const {
     const double xAnchor = XValue(px);
     const double yAnchor = YValue(py);
     for (int i = 0; i < kLineLength; ++i) {
-        visit(static_cast<std::size_t>(i), px + i, YPixel(yAnchor * std::pow(XValue(px + i) / xAnchor, p)));
+        visit(asSize(i), px + i, YPixel(yAnchor * std::pow(XValue(px + i) / xAnchor, p)));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "analysis/ProgressPart.h"
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/Stresses.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -16,9 +17,9 @@ constexpr double kResolution = 1e-7;
 using Functions = std::vector<std::vector<double>>;
 
 void store(SMultiArray& table, const Functions& functions) {
-    table.Reshape(static_cast<int>(functions.size()), kResolution);
+    table.Reshape(asInt(functions.size()), kResolution);
     for (int pair = 0; pair < table.GetSize(); ++pair) {
-        table.ElementAt(pair).StoreValues(functions[static_cast<std::size_t>(pair)]);
+        table.ElementAt(pair).StoreValues(functions[asSize(pair)]);
     }
 }
 
@@ -41,14 +42,14 @@ Functions halfSums(const SMultiArray& forward, const SMultiArray& backward, doub
 void computeCovariances(SAdvProbe& probe, int lags, Progress& progress) {
     std::array<std::vector<double>, SAdvProbe::kComponents> fluctuations;
     for (std::size_t c = 0; c < fluctuations.size(); ++c) {
-        fluctuations[c] = workingFluctuation(probe, static_cast<int>(c));
+        fluctuations[c] = workingFluctuation(probe, asInt(c));
         progress.breathe();
     }
     Functions forward;
     Functions backward;
     for (const StressPair& pair : kStressPairComponents) {
-        const std::vector<double>& x = fluctuations[static_cast<std::size_t>(pair.first)];
-        const std::vector<double>& y = fluctuations[static_cast<std::size_t>(pair.second)];
+        const std::vector<double>& x = fluctuations[asSize(pair.first)];
+        const std::vector<double>& y = fluctuations[asSize(pair.second)];
         const double begin = static_cast<double>(forward.size()) / kStressPairs;
         ProgressPart first(progress, begin, begin + 0.5 / kStressPairs);
         forward.push_back(crossCovariance(x, y, lags, first));
@@ -75,14 +76,14 @@ void computePhase(SAdvProbe& probe) {
 void computeCoherence(SAdvProbe& probe) {
     Functions coherences;
     for (int pair = 0; pair < kStressPairs; ++pair) {
-        const StressPair& components = kStressPairComponents[static_cast<std::size_t>(pair)];
+        const StressPair& components = kStressPairComponents[asSize(pair)];
         const std::vector<double> co = probe.CoSpectra().GetAt(pair).Values();
         const std::vector<double> quadrature = probe.QuadratureSpectra().GetAt(pair).Values();
         const SArray& spectrumX = probe.Series(components.first).spectrum;
         const SArray& spectrumY = probe.Series(components.second).spectrum;
         std::vector<double>& coherence = coherences.emplace_back();
         for (std::size_t i = 0; i < quadrature.size(); ++i) {
-            const int index = static_cast<int>(i);
+            const int index = asInt(i);
             coherence.push_back(
                 squaredCoherence(co[i], quadrature[i], spectrumX.GetValue(index), spectrumY.GetValue(index)));
         }
@@ -107,13 +108,12 @@ std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
     progress.position(5);
     prepareStresses(probe, progress);
     ProgressPart covariances(progress, 0.05, 0.3);
-    computeCovariances(probe, static_cast<int>(probe.spectralLags), covariances);
+    computeCovariances(probe, asInt(probe.spectralLags), covariances);
 
     progress.position(30);
     const SMultiArray& forward = probe.CrossForward();
     const SMultiArray& backward = probe.CrossBackward();
-    const CrossSpectrumRun run{static_cast<int>(probe.spectralWindow), static_cast<int>(probe.spectralUnit),
-                               probe.samplingInterval};
+    const CrossSpectrumRun run{asInt(probe.spectralWindow), asInt(probe.spectralUnit), probe.samplingInterval};
     ProgressPart even(progress, 0.3, 0.5);
     store(probe.CoSpectra(), coSpectra(halfSums(forward, backward, 1.0), run, even));
 

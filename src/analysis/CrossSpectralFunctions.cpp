@@ -7,6 +7,7 @@
 #include "analysis/kernels/TrigonometricSums.h"
 #include "model/Angles.h"
 #include "model/Errors.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -46,12 +47,12 @@ double scaled(double atZero, double sum, const CrossSpectrumRun& run) {
 
 std::vector<double> crossCovariance(std::span<const double> x, std::span<const double> y, int lags,
                                     Progress& progress) {
-    if (x.size() != y.size() || lags < 0 || static_cast<std::size_t>(lags) > x.size()) {
+    if (x.size() != y.size() || lags < 0 || asSize(lags) > x.size()) {
         throw InvalidArgument();
     }
     // Without the last sample of the moved series every lag loses its last product.
     const std::span<const double> moved = x.first(x.empty() ? 0 : x.size() - 1);
-    std::vector<double> result = slidingProducts(moved, y, static_cast<std::size_t>(lags), progress);
+    std::vector<double> result = slidingProducts(moved, y, asSize(lags), progress);
     for (std::size_t k = 0; k < result.size(); ++k) {
         result[k] /= static_cast<double>(x.size() - k);
     }

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -30,7 +32,7 @@ double dissipationRate(const DissipationReading& reading, int unitSelector, doub
 }
 
 double dissipationRate(const DissipationReading& reading, const SAdvProbe& probe, const WorkspaceSettings& settings) {
-    return dissipationRate(reading, static_cast<int>(probe.spectralUnit), convectiveVelocity(probe, settings));
+    return dissipationRate(reading, asInt(probe.spectralUnit), convectiveVelocity(probe, settings));
 }
 
 double averagedVelocity(const SAdvProbe& probe) {

@@ -8,6 +8,7 @@
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/Index.h"
 #include "model/StageTable.h"
 #include "model/StoreValue.h"
 #include "model/Text.h"
@@ -29,8 +30,8 @@ class Columns {
             if (column.GetSize() < samples) {
                 throw InvalidArgument();
             }
-            units_[static_cast<std::size_t>(c)] = column.view().data();
-            scales_[static_cast<std::size_t>(c)] = column.GetScale();
+            units_[asSize(c)] = column.view().data();
+            scales_[asSize(c)] = column.GetScale();
         }
     }
 
@@ -40,7 +41,7 @@ class Columns {
     void interpolate(std::size_t c, int i) {
         if (own_[c] == nullptr) {
             // The column may have been shared until now.
-            own_[c] = table_.ElementAt(static_cast<int>(c)).view().data();
+            own_[c] = table_.ElementAt(asInt(c)).view().data();
             units_[c] = own_[c];
         }
         own_[c][i] = truncateToInt32((value(c, i - 1) + value(c, i + 1)) * 0.5 / scales_[c]);
@@ -71,10 +72,10 @@ int visitSuspects(int samples, Progress& progress, Suspect suspect, Visit visit)
     for (int first = 1; first < samples - 1; first += kPart) {
         const int count = std::min(kPart, samples - 1 - first);
         for (int i = 0; i < count; ++i) {
-            suspects[static_cast<std::size_t>(i)] = suspect(first + i);
+            suspects[asSize(i)] = suspect(first + i);
         }
         for (int i = 0; i < count; ++i) {
-            if (suspects[static_cast<std::size_t>(i)] || next) {
+            if (suspects[asSize(i)] || next) {
                 next = visit(first + i);
             }
         }
@@ -102,7 +103,7 @@ void removeMarkedStages(SAdvProbe& probe) {
             continue;
         }
         probe.SetDone(*row.mark, false);
-        const int tab = probe.tabItems.LastIndexOfStage(static_cast<int>(row.stage));
+        const int tab = probe.tabItems.LastIndexOfStage(asInt(row.stage));
         if (tab < 0) {
             continue;
         }
@@ -202,7 +203,7 @@ CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress) {
     std::array<double, SAdvProbe::kComponents> means{};
     std::array<double, SAdvProbe::kComponents> limits{};
     for (std::size_t c = 0; c < means.size(); ++c) {
-        const Moments moments = probe.VelocityMoments(static_cast<int>(c));
+        const Moments moments = probe.VelocityMoments(asInt(c));
         means[c] = moments.mean;
         limits[c] = k * std::sqrt(moments.variance);
     }

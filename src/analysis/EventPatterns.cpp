@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis/kernels/Pacer.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -26,7 +27,7 @@ class SumsAround {
     /// Events rise; they are added in their order.
     void add(Events events) {
         const auto from = [events](std::size_t sample) {
-            return static_cast<std::size_t>(std::lower_bound(events.begin(), events.end(), sample) - events.begin());
+            return asSize(std::lower_bound(events.begin(), events.end(), sample) - events.begin());
         };
         const std::size_t end = x_.size() + reach_ + 1;
         const std::size_t head = from(reach_);
@@ -80,7 +81,7 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     if (lag < 0) {
         return {};
     }
-    const auto wanted = static_cast<std::size_t>(lag);
+    const auto wanted = asSize(lag);
     std::vector<double> pattern(2 * wanted + 1);
     if (events.empty() || x.empty()) {
         return pattern;
@@ -93,8 +94,7 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     const std::vector<double>& sums = around.sums();
 
     // Events e with 0 <= e + i - reach < N: as the lag rises, the first and the last of them move forward.
-    std::size_t first =
-        static_cast<std::size_t>(std::lower_bound(events.begin(), events.end(), reach) - events.begin());
+    std::size_t first = asSize(std::lower_bound(events.begin(), events.end(), reach) - events.begin());
     std::size_t last = events.size();
     for (std::size_t i = 0; i < lags; ++i) {
         while (first > 0 && events[first - 1] + i >= reach) {

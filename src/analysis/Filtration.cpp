@@ -6,6 +6,7 @@
 #include "analysis/Stresses.h"
 #include "analysis/kernels/SlidingProducts.h"
 #include "model/DefaultFrames.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -37,7 +38,7 @@ double weightAt(FilterShape shape, double t, double m, double f) {
 
 std::vector<double> filterWeights(FilterShape shape, int halfWidth, double f) {
     std::vector<double> weights;
-    weights.reserve(2 * static_cast<std::size_t>(halfWidth));
+    weights.reserve(2 * asSize(halfWidth));
     for (int t = halfWidth - 1; t >= -halfWidth; --t) {
         weights.push_back(weightAt(shape, t, halfWidth, f));
     }

@@ -5,6 +5,7 @@
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
+#include "model/Index.h"
 #include "model/StageLimits.h"
 
 namespace vorlan {
@@ -24,7 +25,7 @@ class CumulativeCounts {
         if (range < 8 * units.size()) {
             std::vector<std::int64_t> counts(range + 1);
             for (const std::int32_t n : units) {
-                ++counts[static_cast<std::size_t>(n - low)];
+                ++counts[asSize(n - low)];
             }
             for (std::size_t i = 0; i < counts.size(); ++i) {
                 if (counts[i] > 0) {
@@ -49,7 +50,7 @@ class CumulativeCounts {
     std::int64_t between(double lower, double upper) const {
         const auto first = std::lower_bound(values_.begin(), values_.end(), lower) - values_.begin();
         const auto end = std::upper_bound(values_.begin(), values_.end(), upper) - values_.begin();
-        return first < end ? totals_[static_cast<std::size_t>(end)] - totals_[static_cast<std::size_t>(first)] : 0;
+        return first < end ? totals_[asSize(end)] - totals_[asSize(first)] : 0;
     }
 
     /// Smallest and largest sample, where the resolution is positive.
@@ -103,7 +104,7 @@ std::string analyseDistributions(SAdvProbe& probe, const HistogramSettings& sett
     progress.breathe();
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
-        series.moments = moments[static_cast<std::size_t>(component)];
+        series.moments = moments[asSize(component)];
         if (!empty) {
             if (earlier) {
                 series.histogram.RemoveAll();

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <limits>
 
+#include "model/Index.h"
 #include "model/StoreValue.h"
 
 namespace vorlan {
@@ -31,7 +32,7 @@ std::size_t sizesExceeded(double magnitude, double perIncrement, double sizes, c
     if (!(magnitude > 0.0)) {
         return 0;
     }
-    auto h = static_cast<std::size_t>(static_cast<std::int64_t>(std::min(magnitude * perIncrement, sizes)));
+    auto h = asSize(static_cast<std::int64_t>(std::min(magnitude * perIncrement, sizes)));
     while (!(magnitude > bounds[h])) {
         --h;
     }
@@ -45,7 +46,7 @@ std::size_t sizesExceeded(double magnitude, double perIncrement, double sizes, c
 
 HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::span<const double> b, double increment,
                     int sizes, double unit) {
-    const auto count = static_cast<std::size_t>(sizes > 0 ? sizes : 0);
+    const auto count = asSize(sizes > 0 ? sizes : 0);
     HoleSums sums;
     for (std::size_t q = 0; q < kQuadrantBuckets; ++q) {
         sums.units[q].resize(count);
@@ -74,7 +75,7 @@ HoleSums sweepHoles(std::span<const double> r, std::span<const double> a, std::s
             continue;
         }
         const std::size_t exceeded = sizesExceeded(std::fabs(r[j]), perIncrement, sizes, bounds.data());
-        Tally& tally = tallies[static_cast<std::size_t>(quadrant) * rows + exceeded];
+        Tally& tally = tallies[asSize(quadrant) * rows + exceeded];
         tally.units += units;
         tally.whole += whole;
         ++tally.samples;

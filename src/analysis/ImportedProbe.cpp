@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -12,7 +14,7 @@ using Column = RecordColumns::Column;
 constexpr double kOtherResolution = 0.001;
 
 void store(SMultiArray& table, std::initializer_list<std::vector<double>> columns, double resolution) {
-    table.Reshape(static_cast<int>(columns.size()), resolution);
+    table.Reshape(asInt(columns.size()), resolution);
     int c = 0;
     for (const std::vector<double>& values : columns) {
         table.ElementAt(c++).StoreValues(values);
@@ -103,7 +105,7 @@ SAdvProbe importedProbe(const RecordColumns& record, const ImportSettings& setti
     probe.Reset();
     for (std::size_t i = 0; i < record.sampleCount(); ++i) {
         if (record.valid[i] == 0) {
-            probe.sampleFlags.SetAt(static_cast<int>(i), 0);
+            probe.sampleFlags.SetAt(asInt(i), 0);
         }
     }
     finishNewProbe(probe);

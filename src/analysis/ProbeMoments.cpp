@@ -2,6 +2,7 @@
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -39,7 +40,7 @@ std::array<Moments, 3> probeMoments(const SAdvProbe& probe, Progress& progress) 
 void computeProbeMoments(SAdvProbe& probe, Progress& progress) {
     const std::array<Moments, 3> moments = probeMoments(probe, progress);
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
-        probe.SetVelocityMoments(component, moments[static_cast<std::size_t>(component)]);
+        probe.SetVelocityMoments(component, moments[asSize(component)]);
     }
     progress.breathe();
 }

@@ -9,6 +9,7 @@
 #include "analysis/HoleSweep.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/Index.h"
 #include "model/StageLimits.h"
 #include "model/Text.h"
 
@@ -40,14 +41,14 @@ struct PairRecord {
 };
 
 PairRecord pairRecord(const SAdvProbe& probe, int type, Progress& progress) {
-    const StressPair& pair = kStressPairComponents[static_cast<std::size_t>(type)];
+    const StressPair& pair = kStressPairComponents[asSize(type)];
     PairRecord record;
     record.a = workingFluctuation(probe, pair.first);
     progress.breathe();
     record.b = workingFluctuation(probe, pair.second);
     progress.breathe();
     record.r = probe.Stresses().GetAt(type).Values();
-    record.meanStress = probe.statistics[SAdvProbe::kMeanStresses + static_cast<std::size_t>(type)];
+    record.meanStress = probe.statistics[SAdvProbe::kMeanStresses + asSize(type)];
     for (double& r : record.r) {
         r /= record.meanStress;
     }
@@ -59,7 +60,7 @@ void storeShares(SAdvProbe& probe, const HoleSums& sums, int sizes) {
     SMultiArray& contributions = probe.Contributions();
     SMultiArray& times = probe.ContributionTimes();
     for (int h = 0; h < sizes; ++h) {
-        const auto index = static_cast<std::size_t>(h);
+        const auto index = asSize(h);
         std::array<double, kQuadrantBuckets> shares{};
         double stress = 0.0;
         std::uint32_t samples = 0;
@@ -69,7 +70,7 @@ void storeShares(SAdvProbe& probe, const HoleSums& sums, int sizes) {
             samples += sums.samples[q][index];
         }
         for (std::size_t q = 0; q < kQuadrantBuckets; ++q) {
-            const int bucket = static_cast<int>(q);
+            const int bucket = asInt(q);
             contributions.ElementAt(bucket).SetValue(h, shares[q] / stress);
             times.ElementAt(bucket).SetValue(
                 h, static_cast<double>(sums.samples[q][index]) / static_cast<double>(samples));
@@ -97,15 +98,15 @@ void storePattern(SMultiArray& table, const std::vector<std::size_t>& events, co
         for (double& value : pattern) {
             value = events.empty() ? 0.0 : value / deviations[c];
         }
-        table.ElementAt(static_cast<int>(c)).StoreValues(pattern);
+        table.ElementAt(asInt(c)).StoreValues(pattern);
     }
 }
 
 void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSettings& settings, int lag,
                    Progress& progress) {
-    const StressPair& pair = kStressPairComponents[static_cast<std::size_t>(settings.stressType)];
+    const StressPair& pair = kStressPairComponents[asSize(settings.stressType)];
     const auto deviation = [&](int component) {
-        return std::sqrt(probe.statistics[SAdvProbe::kVelocityVariances + static_cast<std::size_t>(component)]);
+        return std::sqrt(probe.statistics[SAdvProbe::kVelocityVariances + asSize(component)]);
     };
     const std::array<double, 2> deviations = {deviation(pair.first), deviation(pair.second)};
     std::vector<std::size_t> ejections;
@@ -126,8 +127,8 @@ void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSet
 
 /// Titles the pattern diagrams. A title that the user gave goes only when the events are interactions.
 void titlePatterns(SAdvProbe& probe, bool interactions) {
-    const int group = static_cast<int>(Stage::Quadrants);
-    SFrameAtrArray& frames = probe.frameAttributes[static_cast<std::size_t>(group)];
+    const int group = asInt(Stage::Quadrants);
+    SFrameAtrArray& frames = probe.frameAttributes[asSize(group)];
     for (const auto& [record, title] : {std::pair(kEjectionDiagram, kOutward), std::pair(kSweepDiagram, kInward)}) {
         if (interactions) {
             while (frames.GetSize() <= record) {
@@ -184,7 +185,7 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
 }
 
 bool contributionSumsExceed(const SAdvProbe& probe) {
-    const int type = static_cast<int>(probe.quadrantStress);
+    const int type = asInt(probe.quadrantStress);
     const SMultiArray& stresses = probe.Stresses();
     const int sizes = SAdvProbe::ColumnLength(probe.Contributions());
     const double increment = probe.statistics[SAdvProbe::kQuadrantRun];

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "analysis/MomentEstimators.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -20,7 +21,7 @@ std::vector<double> bandTimes(const STimeSeries& series, std::uint32_t bandMode,
 std::vector<double> gradeCentres(const STimeSeries& series) {
     const int grades = series.histogram.GetSize();
     if (series.values.IsEmpty()) {
-        return std::vector<double>(static_cast<std::size_t>(grades), std::numeric_limits<double>::quiet_NaN());
+        return std::vector<double>(asSize(grades), std::numeric_limits<double>::quiet_NaN());
     }
     const Extremes extremes = extremesOf(series.values);
     const double width = (extremes.maximum - extremes.minimum) / grades;

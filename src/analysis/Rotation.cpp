@@ -9,6 +9,7 @@
 #include "analysis/Stresses.h"
 #include "model/Angles.h"
 #include "model/DefaultFrames.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -95,8 +96,8 @@ void rotateColumns(SArray& first, SArray& second, int samples, double angle, Pro
     if (angle == 0.0) {
         return;
     }
-    const auto count = static_cast<std::size_t>(samples);
-    if (static_cast<std::size_t>(second.GetSize()) < count) {
+    const auto count = asSize(samples);
+    if (asSize(second.GetSize()) < count) {
         throw InvalidArgument();
     }
     const std::span<std::int32_t> x = first.view().first(count);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analysis/SpectralScale.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -27,7 +28,7 @@ double spectrumIntegral(const STimeSeries& series, int first, int last) {
     if (spectrum.IsEmpty()) {
         return 0.0;
     }
-    return sum * frequencyStep(spectrum.GetSize(), series.samplingInterval, static_cast<int>(series.unitSelector));
+    return sum * frequencyStep(spectrum.GetSize(), series.samplingInterval, asInt(series.unitSelector));
 }
 
 }  // namespace vorlan

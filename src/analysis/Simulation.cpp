@@ -5,6 +5,7 @@
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -20,7 +21,7 @@ constexpr int kColumns = 3;
 
 double harmonicSum(const std::vector<Harmonic>& harmonics, int count, int sample, double interval) {
     double sum = 0.0;
-    for (std::size_t k = 0; k < harmonics.size() && static_cast<int>(k) < count; ++k) {
+    for (std::size_t k = 0; k < harmonics.size() && asInt(k) < count; ++k) {
         const Harmonic& h = harmonics[k];
         sum +=
             h.amplitude * std::sin(h.phase * kPiOfHarmonics / 180.0 + sample * kTwoPiOfHarmonics * interval / h.period);
@@ -30,7 +31,7 @@ double harmonicSum(const std::vector<Harmonic>& harmonics, int count, int sample
 
 void addRow(SMultiArray& table, const std::array<double, kColumns>& row) {
     for (int c = 0; c < kColumns; ++c) {
-        table.ElementAt(c).AddValue(row[static_cast<std::size_t>(c)]);
+        table.ElementAt(c).AddValue(row[asSize(c)]);
     }
 }
 
@@ -50,7 +51,7 @@ int Random15::next() {
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
     z ^= z >> 31;
-    return static_cast<int>(z >> 49);
+    return asInt(z >> 49);
 }
 
 double gaussianNumber(Random15& random, double m, double s) {
@@ -129,7 +130,7 @@ void finishNewProbe(SAdvProbe& probe) {
         sampled[6] = moments.skewness;
     }
     createDefaultFrames(probe);
-    probe.tabItems.AppendStage(static_cast<int>(Stage::PreProcessing));
+    probe.tabItems.AppendStage(asInt(Stage::PreProcessing));
 }
 
 }  // namespace vorlan

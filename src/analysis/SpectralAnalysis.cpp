@@ -8,6 +8,7 @@
 #include "analysis/MomentEstimators.h"
 #include "analysis/ProgressPart.h"
 #include "analysis/SpectralFunctions.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -43,8 +44,7 @@ SpectralRun spectralRunOf(const SpectralDialogValues& settings, int samples) {
 }
 
 SpectralRun spectralRunOf(const SAdvProbe& probe) {
-    return {static_cast<int>(probe.spectralLags), static_cast<int>(probe.spectralWindow),
-            static_cast<int>(probe.spectralUnit)};
+    return {asInt(probe.spectralLags), asInt(probe.spectralWindow), asInt(probe.spectralUnit)};
 }
 
 std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress) {
@@ -107,8 +107,8 @@ std::vector<std::string> spectrumOverflows(const SAdvProbe& probe) {
         const SArray& spectrum = probe.Series(c).spectrum;
         const auto lost = std::count(spectrum.begin(), spectrum.end(), std::numeric_limits<std::int32_t>::min());
         if (lost > 0) {
-            texts.push_back(formatted("%s: %d value%s above %.4g cannot be stored", names[static_cast<std::size_t>(c)],
-                                      static_cast<int>(lost), lost == 1 ? "" : "s",
+            texts.push_back(formatted("%s: %d value%s above %.4g cannot be stored", names[asSize(c)], asInt(lost),
+                                      lost == 1 ? "" : "s",
                                       std::numeric_limits<std::int32_t>::max() * spectrum.GetScale()));
         }
     }

@@ -6,16 +6,17 @@
 #include "analysis/kernels/TrigonometricSums.h"
 #include "model/Angles.h"
 #include "model/Errors.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
 namespace {
 
 std::size_t checkedLags(std::size_t samples, int lags) {
-    if (lags < 0 || static_cast<std::size_t>(lags) > samples) {
+    if (lags < 0 || asSize(lags) > samples) {
         throw InvalidArgument();
     }
-    return static_cast<std::size_t>(lags);
+    return asSize(lags);
 }
 
 /// Divides the sum of lag k by its number of terms, N - k.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 SpectralSettings spectralSettingsOf(const WorkspaceSettings& settings) {
@@ -42,7 +44,7 @@ int truncationPoint(const SpectralDialogValues& settings, int samples) {
         return value;
     }
     const std::int64_t lags = static_cast<std::int64_t>(samples) * value / 100;
-    return static_cast<int>(std::min<std::int64_t>(lags, std::numeric_limits<int>::max()));
+    return asInt(std::min<std::int64_t>(lags, std::numeric_limits<int>::max()));
 }
 
 }  // namespace vorlan

@@ -9,6 +9,7 @@
 #include "analysis/MomentEstimators.h"
 #include "analysis/kernels/KernelSet.h"
 #include "analysis/kernels/Pacer.h"
+#include "model/Index.h"
 #include "model/StageLimits.h"
 #include "model/Text.h"
 
@@ -51,7 +52,7 @@ void computeBand(STimeSeries& series, int band, std::span<const double> samples)
 void computeFixedBands(STimeSeries& series, std::span<const double> values, std::size_t bands, Progress& progress) {
     const std::size_t length = values.size() / bands;
     const auto compute = [&](std::size_t band, std::size_t first) {
-        computeBand(series, static_cast<int>(band), values.subspan(first, length));
+        computeBand(series, asInt(band), values.subspan(first, length));
         progress.breathe();
     };
     for (std::size_t k = 0; k + 2 < bands; ++k) {
@@ -87,13 +88,12 @@ void computeCumulativeBands(STimeSeries& series, std::span<const double> values,
         BandSums sums{};
         for (std::size_t b = 0; b < count; ++b) {
             sum = sumOf(values.subspan((first + b) * length, length), sum);
-            sums.means[b] =
-                storeMean(series, static_cast<int>(first + b), sum, static_cast<double>((first + b + 1) * length));
+            sums.means[b] = storeMean(series, asInt(first + b), sum, static_cast<double>((first + b + 1) * length));
         }
         addSamples(values.subspan(0, first * length), sums, kernels, pacer);
         for (std::size_t b = 0; b < count; ++b) {
             addSamples(values.subspan((first + b) * length, length), sums, kernels, pacer);
-            storeHigherMoments(series, static_cast<int>(first + b), {sums.squares[b], sums.cubes[b], sums.fourths[b]},
+            storeHigherMoments(series, asInt(first + b), {sums.squares[b], sums.cubes[b], sums.fourths[b]},
                                static_cast<double>((first + b + 1) * length));
         }
     }
@@ -112,7 +112,7 @@ void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progr
     series.bands = static_cast<std::uint32_t>(bands);
     const std::vector<double> values = series.values.Values();
     progress.breathe();
-    const auto count = static_cast<std::size_t>(bands);
+    const auto count = asSize(bands);
     if (mode == BandMode::Cumulative) {
         computeCumulativeBands(series, values, count, progress);
     } else {

@@ -7,6 +7,7 @@
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
 #include "analysis/kernels/KernelSet.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -16,9 +17,9 @@ namespace {
 ThreeColumns workingVelocities(const SAdvProbe& probe) {
     ThreeColumns columns;
     const SMultiArray& velocities = probe.Velocities();
-    const auto samples = static_cast<std::size_t>(probe.WorkingSamples());
+    const auto samples = asSize(probe.WorkingSamples());
     for (std::size_t c = 0; c < columns.size() && !velocities.IsEmpty(); ++c) {
-        columns[c] = ColumnSamples::of(velocities.GetAt(static_cast<int>(c)));
+        columns[c] = ColumnSamples::of(velocities.GetAt(asInt(c)));
         if (columns[c].units.size() < samples) {
             throw InvalidArgument();
         }
@@ -35,7 +36,7 @@ void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std
     for (int pair = 0; pair < kStressPairs; ++pair) {
         SArray& column = stresses.ElementAt(pair);
         column.ResizeForOverwrite(samples);
-        stored[static_cast<std::size_t>(pair)] = column.view();
+        stored[asSize(pair)] = column.view();
     }
     // Some samples at a time, which stay near for the pairs to come.
     constexpr std::size_t kPart = 4096;
@@ -50,9 +51,8 @@ void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std
         };
         for (std::size_t pair = 0; pair < stored.size(); ++pair) {
             const StressPair& components = kStressPairComponents[pair];
-            kernelsInUse().unitProducts(
-                part(static_cast<std::size_t>(components.first)), part(static_cast<std::size_t>(components.second)),
-                stresses.GetAt(static_cast<int>(pair)).GetScale(), count, stored[pair].data() + first);
+            kernelsInUse().unitProducts(part(asSize(components.first)), part(asSize(components.second)),
+                                        stresses.GetAt(asInt(pair)).GetScale(), count, stored[pair].data() + first);
         }
     }
 }
@@ -82,8 +82,8 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
     for (int pair = 0; pair < kStressPairs; ++pair) {
         STimeSeries& series = probe.Series(STimeSeries::UV + pair);
         series.samplingInterval = probe.samplingInterval;
-        series.values = std::move(counted[static_cast<std::size_t>(pair)]);
-        series.moments = moments[static_cast<std::size_t>(pair)];
+        series.values = std::move(counted[asSize(pair)]);
+        series.moments = moments[asSize(pair)];
         probe.SetStressMoments(pair, series.moments);
     }
     probe.stressesFormed = 1;
@@ -107,16 +107,16 @@ void computeStressStatistics(SAdvProbe& probe, Progress& progress) {
 
 std::vector<double> workingFluctuation(const SAdvProbe& probe, int component) {
     const SMultiArray& velocities = probe.Velocities();
-    std::vector<double> fluctuation(static_cast<std::size_t>(probe.WorkingSamples()));
+    std::vector<double> fluctuation(asSize(probe.WorkingSamples()));
     if (velocities.IsEmpty()) {
         return fluctuation;
     }
     const SArray& column = velocities.GetAt(component);
-    if (static_cast<std::size_t>(column.GetSize()) < fluctuation.size()) {
+    if (asSize(column.GetSize()) < fluctuation.size()) {
         throw InvalidArgument();
     }
     const double scale = column.GetScale();
-    const double mean = probe.scalarResults[SAdvProbe::kFluctuationMeans + static_cast<std::size_t>(component)];
+    const double mean = probe.scalarResults[SAdvProbe::kFluctuationMeans + asSize(component)];
     std::transform(column.begin(), column.begin() + probe.WorkingSamples(), fluctuation.begin(),
                    [scale, mean](std::int32_t n) { return n * scale - mean; });
     return fluctuation;

@@ -4,6 +4,7 @@
 
 #include "analysis/SeriesIntegrals.h"
 #include "analysis/SpectralScale.h"
+#include "model/Index.h"
 #include "model/StoreValue.h"
 
 namespace vorlan {
@@ -25,10 +26,10 @@ IndexRange indexRange(double from, double to, double step) {
 }
 
 IndexRange indexRange(const ScalesReading& reading, const SAdvProbe& probe) {
-    const double step = reading.source == ScalesSource::Correlation
-                            ? probe.samplingInterval
-                            : frequencyStep(probe.seriesU.spectrum.GetSize(), probe.samplingInterval,
-                                            static_cast<int>(probe.spectralUnit));
+    const double step =
+        reading.source == ScalesSource::Correlation
+            ? probe.samplingInterval
+            : frequencyStep(probe.seriesU.spectrum.GetSize(), probe.samplingInterval, asInt(probe.spectralUnit));
     return indexRange(reading.from, reading.to, step);
 }
 
@@ -36,7 +37,7 @@ std::array<double, 3> integratedScales(ScalesSource source, const SAdvProbe& pro
     const auto integral = source == ScalesSource::Correlation ? correlationIntegral : spectrumIntegral;
     std::array<double, 3> values{};
     for (std::size_t c = 0; c < values.size(); ++c) {
-        values[c] = integral(probe.Series(static_cast<int>(c)), range.first, range.last);
+        values[c] = integral(probe.Series(asInt(c)), range.first, range.last);
     }
     return values;
 }

@@ -4,6 +4,7 @@
 #include "app/CVorl_ADVDoc.h"
 #include "app/CommandReports.h"
 #include "io/WorkspaceFile.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -232,7 +233,7 @@ Outcome CVorl_ADVDoc::VectorsOfMeanVelocities(const VectorSettings& vectors) {
         patch = PatchOf(std::move(probe));
     } else {
         // Without a probe there is no tab to choose: the plans span all files.
-        settings.choiceA = static_cast<int>(Stage::MeanVelocityVectors) + 1;
+        settings.choiceA = asInt(Stage::MeanVelocityVectors) + 1;
     }
     patch.settings = settings;
     Write("Vectors of Mean Velocities", std::move(patch), {DoneOnActive(vectors)});

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "analysis/EditingAssessment.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -80,20 +81,20 @@ std::string crossSpectraReport(const SAdvProbe& probe) {
 
 std::string quadrantsReport(const QuadrantSettings& settings) {
     constexpr std::array<const char*, 3> pairs = {"u'v'", "u'w'", "v'w'"};
-    const auto pair = static_cast<std::size_t>(std::clamp(settings.stressType, 0, 2));
+    const auto pair = asSize(std::clamp(settings.stressType, 0, 2));
     return formatted("Quadrants: %s, hole sizes to %g by %g, patterns to %g s", pairs.at(pair), settings.maximum,
                      settings.increment, settings.maximumLag);
 }
 
 std::string vectorsReport(const VectorSettings& settings) {
     constexpr std::array<const char*, 3> planes = {"XY", "XZ", "YZ"};
-    const auto plane = static_cast<std::size_t>(std::clamp(settings.plane, 0, 2));
+    const auto plane = asSize(std::clamp(settings.plane, 0, 2));
     return formatted("Mean velocities in the plane %s: %g cm/s is %d pixels long", planes.at(plane), settings.speed,
                      settings.pixels);
 }
 
 std::string frameReport(Pane pane) {
-    return std::string(kPaneTexts.at(static_cast<std::size_t>(pane))) + ": plot options set";
+    return std::string(kPaneTexts.at(asSize(pane))) + ": plot options set";
 }
 
 std::string simulationReport(const SAdvFile& file) {

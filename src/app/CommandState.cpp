@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "model/FrameSlot.h"
+#include "model/Index.h"
 #include "model/StageTable.h"
 
 namespace vorlan {
@@ -36,7 +37,7 @@ std::string allSamples(const CVorl_ADVDoc& document, const ShownPanes&) {
 
 template <Stage stage>
 std::string selected(const CVorl_ADVDoc& document, const ShownPanes&) {
-    return document.StageCode() == static_cast<int>(stage) + 1
+    return document.StageCode() == asInt(stage) + 1
                ? ""
                : std::string("the stage \"") + stageRow(stage).text + "\" is not selected";
 }

@@ -2,6 +2,7 @@
 
 #include "app/CVorl_ADVDoc.h"
 #include "export/ExportKind.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -53,11 +54,11 @@ enum class Command : int {
     About,
 };
 
-inline constexpr int kCommandCount = static_cast<int>(Command::About) + 1;
+inline constexpr int kCommandCount = asInt(Command::About) + 1;
 
 /// The command that offers an export.
 inline Command exportCommand(ExportKind kind) {
-    return static_cast<Command>(static_cast<int>(Command::FirstExport) + static_cast<int>(kind));
+    return static_cast<Command>(asInt(Command::FirstExport) + asInt(kind));
 }
 
 /// The export that a command offers; none for another command.
@@ -65,7 +66,7 @@ inline std::optional<ExportKind> exportOf(Command command) {
     if (command < Command::FirstExport || command > Command::LastExport) {
         return std::nullopt;
     }
-    return static_cast<ExportKind>(static_cast<int>(command) - static_cast<int>(Command::FirstExport));
+    return static_cast<ExportKind>(asInt(command) - asInt(Command::FirstExport));
 }
 
 /// What the views show, as far as commands depend on it: a stage's diagram may be a message instead.

@@ -5,6 +5,7 @@
 #include "app/CommandReports.h"
 #include "model/DefaultFrames.h"
 #include "model/Errors.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -67,9 +68,9 @@ void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const Frame
         bool probeChanges = false;
         for (const FrameSlot& slot : slots) {
             if (!slot.inSet) {
-                const bool slotChanges = changes(
-                    slot, storedFrame(probe.frameAttributes.at(static_cast<std::size_t>(slot.group)), slot.record,
-                                      [&](int record) { return defaultFrame(slot.group, record); }));
+                const bool slotChanges =
+                    changes(slot, storedFrame(probe.frameAttributes.at(asSize(slot.group)), slot.record,
+                                              [&](int record) { return defaultFrame(slot.group, record); }));
                 probeChanges = probeChanges || slotChanges;
             }
         }

@@ -1,5 +1,6 @@
 // The document's selection: data file, probe, stage, physical value, active view.
 #include "app/CVorl_ADVDoc.h"
+#include "model/Index.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
 
@@ -33,7 +34,7 @@ void selectTab(int tabIndex, SAdvProbe& probe, WorkspaceSettings& settings) {
         return;
     }
     if (const StageRow* row = stageNumbered(tabs.GetAt(tabIndex).imageIndex)) {
-        settings.choiceA = static_cast<int>(row->stage) + 1;
+        settings.choiceA = asInt(row->stage) + 1;
         settings.displaySwitch = row->opensWithTable() ? 1 : 0;
     }
 }
@@ -69,7 +70,7 @@ int CVorl_ADVDoc::StageCode() const {
     const int tab = ShownTab();
     if (tab >= 0) {
         if (const StageRow* row = stageNumbered(Probe().tabItems.GetAt(tab).imageIndex)) {
-            return static_cast<int>(row->stage) + 1;
+            return asInt(row->stage) + 1;
         }
     }
     return workspace_.settings.choiceA;
@@ -152,20 +153,20 @@ WorkspacePatch CVorl_ADVDoc::PatchOfTab(int tabIndex) const {
 }
 
 void CVorl_ADVDoc::EnterStage(Stage stage, SAdvProbe& probe, WorkspaceSettings& settings) {
-    selectTab(probe.tabItems.AppendStage(static_cast<int>(stage)), probe, settings);
+    selectTab(probe.tabItems.AppendStage(asInt(stage)), probe, settings);
     TakeOverSelection(settings);
 }
 
 void CVorl_ADVDoc::SelectPhysicalValue(PhysicalValue value) {
     WorkspaceSettings settings = Settings();
-    settings.physicalValue = static_cast<int>(value);
+    settings.physicalValue = asInt(value);
     Select({.settings = settings});
     Tell(Change::Content);
 }
 
 void CVorl_ADVDoc::SelectActivePane(Pane pane) {
     WorkspaceSettings settings = Settings();
-    settings.activeView = static_cast<int>(pane);
+    settings.activeView = asInt(pane);
     Select({.settings = settings});
     Tell(Change::View);
 }

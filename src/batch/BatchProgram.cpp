@@ -8,6 +8,7 @@
 
 #include "batch/Jobs.h"
 #include "batch/Subcommands.h"
+#include "model/Index.h"
 #include "model/Workspace.h"
 
 namespace vorlan {
@@ -64,17 +65,17 @@ int usageFault(Console& console, const CLI::App& program, const std::string& tex
         command += " " + used->get_name();
     }
     console.err << "Try \"" << command << " --help\".\n" << std::flush;
-    return static_cast<int>(ExitStatus::Usage);
+    return asInt(ExitStatus::Usage);
 }
 
 /// What was asked for has to arrive: a full disk behind out is a failure.
 int afterOutput(Console& console) {
     console.out.flush();
     if (console.out) {
-        return static_cast<int>(ExitStatus::Done);
+        return asInt(ExitStatus::Done);
     }
     console.complain("Standard output cannot be written");
-    return static_cast<int>(ExitStatus::Unwritable);
+    return asInt(ExitStatus::Unwritable);
 }
 
 }  // namespace
@@ -113,7 +114,7 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
             status = thrown == ExitStatus::Done ? status : thrown;
         }
     }
-    return static_cast<int>(status);
+    return asInt(status);
 }
 
 }  // namespace vorlan

@@ -15,6 +15,7 @@
 
 #include "batch/Interrupt.h"
 #include "io/FileDescriptor.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -41,7 +42,7 @@ class DescriptorBuffer : public std::streambuf {
     }
     int sync() override {
         for (const char* at = pbase(); at < pptr();) {
-            const ssize_t written = ::write(descriptor_, at, static_cast<std::size_t>(pptr() - at));
+            const ssize_t written = ::write(descriptor_, at, asSize(pptr() - at));
             if (written < 0 && errno != EINTR) {
                 return -1;
             }
@@ -91,7 +92,7 @@ struct Worker {
     outStream.flush();
     errStream.flush();
     // Buffers and exit handlers of the parent are the parent's.
-    ::_exit(static_cast<int>(status));
+    ::_exit(asInt(status));
 }
 
 /// Starts the worker of an index; false when the system has no room for it.
@@ -109,7 +110,7 @@ bool start(std::vector<Worker>& workers, std::size_t index, const std::function<
             other.out.close();
             other.err.close();
         }
-        work(static_cast<int>(index), out, err, task);
+        work(asInt(index), out, err, task);
     }
     if (worker.process < 0) {
         return false;
@@ -130,7 +131,7 @@ bool take(FileDescriptor& descriptor, std::string& text) {
         descriptor.close();
         return false;
     }
-    text.append(buffer.data(), static_cast<std::size_t>(got));
+    text.append(buffer.data(), asSize(got));
     return true;
 }
 
@@ -159,7 +160,7 @@ ExitStatus endOf(Worker& worker, Console& console) {
 class WorkerPool {
   public:
     WorkerPool(int count, Console& console, const std::function<void(int, Console&)>& task)
-        : workers_(static_cast<std::size_t>(count)), console_(console), task_(task) {}
+        : workers_(asSize(count)), console_(console), task_(task) {}
 
     ExitStatus run(int jobs) {
         while (passed_ < workers_.size()) {

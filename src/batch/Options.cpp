@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/Index.h"
 #include "model/RangeText.h"
 #include "model/Text.h"
 #include "recipes/Outputs.h"
@@ -29,7 +30,7 @@ CLI::Option* addNumber(CLI::App& app, const std::string& name, int& target, cons
                 if (!number || *number < 1 || *number > std::numeric_limits<int>::max()) {
                     throw CLI::ValidationError(name, "\"" + text + "\" is not an integer of 1 or more");
                 }
-                target = static_cast<int>(*number) - 1;
+                target = asInt(*number) - 1;
             },
             help)
         ->type_name("N")
@@ -88,7 +89,7 @@ CLI::Option* addInteger(CLI::App& app, const std::string& name, int& target, con
                     throw CLI::ValidationError(name, "\"" + text + "\" is not a whole number");
                 }
                 requireInRange(name, static_cast<double>(*value), range);
-                target = static_cast<int>(*value);
+                target = asInt(*value);
             },
             help)
         ->type_name("N")
@@ -125,7 +126,7 @@ CLI::Option* addChoice(CLI::App& app, const std::string& name, int& target, cons
                 if (at == choices.end()) {
                     throw CLI::ValidationError(name, "\"" + text + "\" is not " + listed(choices));
                 }
-                target = static_cast<int>(at - choices.begin());
+                target = asInt(at - choices.begin());
             },
             help)
         ->type_name("NAME");

@@ -4,6 +4,7 @@
 #include "batch/LoadPictures.h"
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
+#include "model/Index.h"
 #include "model/Text.h"
 #include "recipes/Outputs.h"
 #include "recipes/RecipeKeys.h"
@@ -31,7 +32,7 @@ std::vector<int> stagesOf(const std::string& list) {
         if (at == stageNames().end()) {
             throw CLI::ValidationError("--stages", "\"" + name + "\" is not " + listed(stageNames()));
         }
-        stages.push_back(static_cast<int>(at - stageNames().begin()));
+        stages.push_back(asInt(at - stageNames().begin()));
     }
     return stages;
 }
@@ -54,7 +55,7 @@ std::vector<ReportPage> pagesOf(const ReportArguments& arguments, const Workspac
     std::vector<ReportPage> pages = pagesOfProbes(workspace, selectedProbes(workspace, arguments.place));
     std::erase_if(pages, [&](const ReportPage& page) {
         const std::vector<int>& stages = arguments.stages;
-        return !stages.empty() && std::find(stages.begin(), stages.end(), static_cast<int>(page.stage)) == stages.end();
+        return !stages.empty() && std::find(stages.begin(), stages.end(), asInt(page.stage)) == stages.end();
     });
     if (pages.empty()) {
         throw refusal("no probe that is selected has one of these stages");

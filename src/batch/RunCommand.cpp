@@ -6,6 +6,7 @@
 #include "batch/Options.h"
 #include "batch/RecipeRunner.h"
 #include "batch/Subcommands.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -135,7 +136,7 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
     requireFolder(arguments.outDir);
     const OutputFolders folders = foldersOf(arguments);
 
-    const int count = static_cast<int>(arguments.inputs.size());
+    const int count = asInt(arguments.inputs.size());
     const bool processes = arguments.jobs > 1 && count > 1;
     // Lines of several workers at once would only be noise on a terminal.
     const ConsolePort::Options options{arguments.noRepeat == 0,
@@ -143,7 +144,7 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
     // Every other subcommand simply dies of the signal: nothing is written before it is complete.
     const InterruptWatch watch;
     const auto task = [&](int index, Console& own) {
-        const auto i = static_cast<std::size_t>(index);
+        const auto i = asSize(index);
         runRecipe(recipe, arguments.inputs[i], targets[i], folders, options, own);
     };
     if (processes) {

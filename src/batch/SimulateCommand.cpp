@@ -2,6 +2,7 @@
 
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
+#include "model/Index.h"
 #include "recipes/TextValues.h"
 
 namespace vorlan {
@@ -41,10 +42,10 @@ void takeHarmonic(SimulateOptions& options, const std::string& text) {
         throw CLI::ValidationError("--harmonic",
                                    "\"" + text + "\" is not COMPONENT:AMPLITUDE:PERIOD:PHASE, as in u:10:2.5:90");
     }
-    std::vector<Harmonic>& list = options.harmonics[static_cast<std::size_t>(component)];
+    std::vector<Harmonic>& list = options.harmonics[asSize(component)];
     list.push_back({partOf(parts[1], "amplitude", limits::kAmplitude), partOf(parts[2], "period", limits::kPeriod),
                     partOf(parts[3], "phase", limits::kPhase)});
-    if (list.size() > static_cast<std::size_t>(kMaximumHarmonics)) {
+    if (list.size() > asSize(kMaximumHarmonics)) {
         throw CLI::ValidationError("--harmonic", "a component has at most " + std::to_string(kMaximumHarmonics));
     }
 }
@@ -72,7 +73,7 @@ SimulationParameters parametersOf(const SimulateOptions& options, bool noise) {
     for (SimulationParameters::Component& component : parameters.components) {
         component.harmonics.resize(harmonics);
     }
-    parameters.harmonicCount = static_cast<int>(harmonics);
+    parameters.harmonicCount = asInt(harmonics);
     return parameters;
 }
 

@@ -10,6 +10,7 @@
 #include "analysis/MicroScales.h"
 #include "analysis/Quadrants.h"
 #include "analysis/RotationSettings.h"
+#include "model/Index.h"
 #include "model/Printable.h"
 #include "model/ProbeInformation.h"
 #include "model/SSvmSet.h"
@@ -137,7 +138,7 @@ std::string plural(int count, const std::string& thing) {
 std::string spectralText(const SAdvProbe& probe) {
     const char* window =
         probe.spectralWindow < std::size(kWindowNames) ? kWindowNames[probe.spectralWindow] : "unknown";
-    return " (" + plural(static_cast<int>(probe.spectralLags), "lag") + ", " + window + " window, " +
+    return " (" + plural(asInt(probe.spectralLags), "lag") + ", " + window + " window, " +
            (probe.spectralUnit == 0 ? "Hz" : "rad/s") + ")";
 }
 
@@ -223,8 +224,8 @@ std::string probeAsText(const SAdvProbe& probe, const WorkspaceSettings& setting
 
 int validSamples(const SAdvProbe& probe) {
     const int samples = std::min(probe.WorkingSamples(), probe.sampleFlags.GetSize());
-    const std::span<const std::int32_t> marks = probe.sampleFlags.view().first(static_cast<std::size_t>(samples));
-    return static_cast<int>(std::count_if(marks.begin(), marks.end(), [](std::int32_t mark) { return mark >= 1; }));
+    const std::span<const std::int32_t> marks = probe.sampleFlags.view().first(asSize(samples));
+    return asInt(std::count_if(marks.begin(), marks.end(), [](std::int32_t mark) { return mark >= 1; }));
 }
 
 std::string summaryAsJson(const Workspace& workspace, const std::string& version) {

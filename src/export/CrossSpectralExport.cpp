@@ -3,6 +3,7 @@
 #include "analysis/SpectralScale.h"
 #include "analysis/Stresses.h"
 #include "export/RowWriter.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -20,8 +21,7 @@ void writeCrossSpectral(std::ostream& stream, const ExportSource& source, const 
     const SMultiArray& quadrature = probe.QuadratureSpectra();
     const SMultiArray& phase = probe.Phase();
     const SMultiArray& coherence = probe.Coherence();
-    const double step =
-        frequencyStep(SAdvProbe::ColumnLength(co), probe.samplingInterval, static_cast<int>(probe.spectralUnit));
+    const double step = frequencyStep(SAdvProbe::ColumnLength(co), probe.samplingInterval, asInt(probe.spectralUnit));
     double lag = 0.0;
     double frequency = 0.0;
     for (int i = 0; i < SAdvProbe::ColumnLength(phase); ++i) {

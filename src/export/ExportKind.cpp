@@ -1,6 +1,7 @@
 #include "export/ExportKind.h"
 
 #include "export/Writers.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -50,7 +51,7 @@ const std::array<ExportKindInfo, kExportKindCount>& exportKinds() {
 }
 
 const ExportKindInfo& exportKindInfo(ExportKind kind) {
-    return exportKinds().at(static_cast<std::size_t>(kind));
+    return exportKinds().at(asSize(kind));
 }
 
 void writeExport(std::ostream& stream, ExportKind kind, const ExportJob& job) {

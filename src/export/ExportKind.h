@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "export/ExportOptions.h"
+#include "model/Index.h"
 #include "model/SAdvSet.h"
 #include "model/Stages.h"
 
@@ -26,7 +27,7 @@ enum class ExportKind : int {
     Patterns,
 };
 
-inline constexpr int kExportKindCount = static_cast<int>(ExportKind::Patterns) + 1;
+inline constexpr int kExportKindCount = asInt(ExportKind::Patterns) + 1;
 
 /// What the user is asked before an export is written.
 enum class ExportDialog : int {

@@ -4,6 +4,7 @@
 
 #include "analysis/ResultAxes.h"
 #include "export/RowWriter.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -14,13 +15,13 @@ void writeHistograms(std::ostream& stream, const ExportSource& source, const Exp
     }
     std::array<std::vector<double>, SAdvProbe::kComponents> centres;
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
-        centres[static_cast<std::size_t>(c)] = gradeCentres(source.probe.Series(c));
+        centres[asSize(c)] = gradeCentres(source.probe.Series(c));
     }
     for (int k = 0; k < source.probe.seriesU.histogram.GetSize(); ++k) {
         for (int c = 0; c < SAdvProbe::kComponents; ++c) {
             const double density = source.probe.Series(c).histogram.GetValue(k);
             if (options.time) {
-                rows.value(centres[static_cast<std::size_t>(c)][static_cast<std::size_t>(k)], 2);
+                rows.value(centres[asSize(c)][asSize(k)], 2);
             }
             rows.value(density, 2);
         }

@@ -2,6 +2,7 @@
 
 #include "analysis/SpectralScale.h"
 #include "export/RowWriter.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -16,7 +17,7 @@ void writeSpectral(std::ostream& stream, const ExportSource& source, const Expor
     }
     const int spectrumDigits = options.time && options.separator == Separator::Space ? 7 : 4;
     const double step =
-        frequencyStep(probe.seriesU.spectrum.GetSize(), probe.samplingInterval, static_cast<int>(probe.spectralUnit));
+        frequencyStep(probe.seriesU.spectrum.GetSize(), probe.samplingInterval, asInt(probe.spectralUnit));
     double lag = 0.0;
     double frequency = 0.0;
     for (int k = 0; k < probe.seriesU.correlation.GetSize(); ++k) {

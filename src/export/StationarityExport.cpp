@@ -2,6 +2,7 @@
 
 #include "analysis/ResultAxes.h"
 #include "export/RowWriter.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -16,7 +17,7 @@ void writeStationarity(std::ostream& stream, const ExportSource& source, const E
     const char* const lineEnd = options.time && options.separator == Separator::Space ? " \n" : "\n";
     for (int k = 0; k < probe.seriesU.bandMeans.GetSize(); ++k) {
         if (options.time) {
-            rows.value(times[static_cast<std::size_t>(k)], 2);
+            rows.value(times[asSize(k)], 2);
         }
         for (const auto moment : {&STimeSeries::bandMeans, &STimeSeries::bandVariances, &STimeSeries::bandSkewness,
                                   &STimeSeries::bandKurtosis}) {

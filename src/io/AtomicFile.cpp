@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "io/FileError.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -74,7 +75,7 @@ class AtomicFileBuffer : public std::streambuf {
         return traits_type::not_eof(character);
     }
     int sync() override {
-        file_.write(std::string_view(pbase(), static_cast<std::size_t>(pptr() - pbase())));
+        file_.write(std::string_view(pbase(), asSize(pptr() - pbase())));
         setp(buffer_.data(), buffer_.data() + buffer_.size());
         return 0;
     }
@@ -168,7 +169,7 @@ void AtomicFile::write(std::span<const std::byte> bytes) {
         if (written <= 0) {
             fail(written < 0 ? errno : ENOSPC);
         }
-        bytes = bytes.subspan(static_cast<std::size_t>(written));
+        bytes = bytes.subspan(asSize(written));
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "io/ReadFile.h"
 #include "io/TableText.h"
+#include "model/Index.h"
 #include "model/ParseNumber.h"
 #include "model/StoreValue.h"
 #include "model/Text.h"
@@ -37,7 +38,7 @@ std::size_t columnNamed(std::string_view name) {
         c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
     }
     const auto found = std::find(RecordColumns::kNames.begin(), RecordColumns::kNames.end(), lower);
-    return static_cast<std::size_t>(found - RecordColumns::kNames.begin());
+    return asSize(found - RecordColumns::kNames.begin());
 }
 
 // A header may name columns that no probe takes; a list that somebody wrote for this purpose may not.
@@ -247,7 +248,7 @@ DelimitedTable parseDelimitedTable(std::string_view text, const std::filesystem:
     } else {
         const auto& names = lines.fields();
         if (const auto number = std::find_if(names.begin(), names.end(), holdsNumber); number != names.end()) {
-            refuse({static_cast<std::size_t>(number - names.begin()) + 1,
+            refuse({asSize(number - names.begin()) + 1,
                     shownField(*number) + " stands where a column name should; the columns need names"});
         }
         refuse(lay(names, true, layout));

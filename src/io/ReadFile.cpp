@@ -9,6 +9,7 @@
 
 #include "io/FileDescriptor.h"
 #include "io/FileError.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -48,7 +49,7 @@ InputFile::InputFile(const std::filesystem::path& path)
         throw FileError::cannotRead(FileError::Kind::NotAFile, path,
                                     S_ISDIR(status.st_mode) ? "it is a folder" : "it is not a regular file");
     }
-    size_ = static_cast<std::size_t>(status.st_size);
+    size_ = asSize(status.st_size);
 }
 
 std::size_t InputFile::read(std::span<std::byte> bytes) {
@@ -63,7 +64,7 @@ std::size_t InputFile::read(std::span<std::byte> bytes) {
         if (got == 0) {
             break;  // somebody shortened the file meanwhile
         }
-        held += static_cast<std::size_t>(got);
+        held += asSize(got);
     }
     return held;
 }

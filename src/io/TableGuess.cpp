@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "io/TableText.h"
+#include "model/Index.h"
 #include "model/ParseNumber.h"
 #include "model/Text.h"
 
@@ -104,7 +105,7 @@ std::vector<ColumnRole> rolesByPlace(const TablePreview& preview) {
 }  // namespace
 
 std::string ColumnRole::name() const {
-    return isTime() ? "time" : isSkipped() ? "-" : RecordColumns::kNames.at(static_cast<std::size_t>(code_));
+    return isTime() ? "time" : isSkipped() ? "-" : RecordColumns::kNames.at(asSize(code_));
 }
 
 std::vector<ColumnRole> columnRoles() {

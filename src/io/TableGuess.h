@@ -6,6 +6,7 @@
 
 #include "io/DelimitedTable.h"
 #include "io/TablePreview.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -14,7 +15,7 @@ class ColumnRole {
   public:
     static ColumnRole skipped() { return ColumnRole(-1); }
     static ColumnRole time() { return ColumnRole(-2); }
-    static ColumnRole record(RecordColumns::Column column) { return ColumnRole(static_cast<int>(column)); }
+    static ColumnRole record(RecordColumns::Column column) { return ColumnRole(asInt(column)); }
 
     /// Name of a column of the record; "time"; "-".
     std::string name() const;

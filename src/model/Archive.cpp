@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstring>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -181,7 +183,7 @@ std::size_t Archive::count(std::size_t size, std::size_t minimumBytes) {
     if (!loading_) {
         return size;
     }
-    return word < 1 ? 0 : checked(static_cast<std::size_t>(word), minimumBytes, at);
+    return word < 1 ? 0 : checked(asSize(word), minimumBytes, at);
 }
 
 std::size_t Archive::shortCount(std::size_t size, std::size_t minimumBytes) {

@@ -3,6 +3,8 @@
 #include <array>
 #include <vector>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -44,7 +46,7 @@ const std::vector<FrameDefaults>& groupDefaults(int group) {
          {"Phase spectra", "Frequency", "Phase,deg", 2, 0, false}},
     }};
     static const std::vector<FrameDefaults> none;
-    return group >= 0 && group < 7 ? defaults[static_cast<std::size_t>(group)] : none;
+    return group >= 0 && group < 7 ? defaults[asSize(group)] : none;
 }
 
 void fixY(FrameAttributesType& frame, double lower, double upper) {
@@ -57,7 +59,7 @@ void fixY(FrameAttributesType& frame, double lower, double upper) {
 }  // namespace
 
 int defaultFrameCount(int group) {
-    return static_cast<int>(groupDefaults(group).size());
+    return asInt(groupDefaults(group).size());
 }
 
 FrameAttributesType defaultFrame(int group, int record) {
@@ -65,7 +67,7 @@ FrameAttributesType defaultFrame(int group, int record) {
     if (record < 0 || record >= defaultFrameCount(group)) {
         return frame;
     }
-    const FrameDefaults& defaults = groupDefaults(group)[static_cast<std::size_t>(record)];
+    const FrameDefaults& defaults = groupDefaults(group)[asSize(record)];
     frame.plotTitle = defaults.plotTitle;
     frame.xTitle = defaults.xTitle;
     frame.yTitle = defaults.yTitle;
@@ -75,16 +77,16 @@ FrameAttributesType defaultFrame(int group, int record) {
         frame.xMinMode = 1;
         frame.xMin = 0.0;
     }
-    if (group == static_cast<int>(Stage::Spectral) && record > 0) {
+    if (group == asInt(Stage::Spectral) && record > 0) {
         frame.scaleType = static_cast<std::int32_t>(ScaleType::Logarithmic);
     }
-    if (group == static_cast<int>(Stage::Quadrants)) {
+    if (group == asInt(Stage::Quadrants)) {
         frame.legendTitle = "Quadrants:";
     }
-    if (group == static_cast<int>(Stage::CrossSpectral) && record == 2) {
+    if (group == asInt(Stage::CrossSpectral) && record == 2) {
         fixY(frame, 0.0, 1.0);
     }
-    if (group == static_cast<int>(Stage::CrossSpectral) && record == 3) {
+    if (group == asInt(Stage::CrossSpectral) && record == 3) {
         fixY(frame, -180.0, 180.0);
     }
     return frame;
@@ -120,8 +122,8 @@ FrameAttributesType defaultPreviewFrame(int plane) {
 }
 
 void createDefaultFrames(SAdvProbe& probe) {
-    for (int group = 0; group < static_cast<int>(probe.frameAttributes.size()); ++group) {
-        SFrameAtrArray& frames = probe.frameAttributes[static_cast<std::size_t>(group)];
+    for (int group = 0; group < asInt(probe.frameAttributes.size()); ++group) {
+        SFrameAtrArray& frames = probe.frameAttributes[asSize(group)];
         frames.RemoveAll();
         for (int record = 0; record < defaultFrameCount(group); ++record) {
             frames.Add(defaultFrame(group, record));
@@ -130,7 +132,7 @@ void createDefaultFrames(SAdvProbe& probe) {
 }
 
 FrameAttributesType frameOrDefault(const SAdvProbe& probe, int group, int record) {
-    const SFrameAtrArray& frames = probe.frameAttributes.at(static_cast<std::size_t>(group));
+    const SFrameAtrArray& frames = probe.frameAttributes.at(asSize(group));
     return record < frames.GetSize() ? frames.GetAt(record) : defaultFrame(group, record);
 }
 

@@ -3,13 +3,14 @@
 #include <algorithm>
 
 #include "model/DefaultFrames.h"
+#include "model/Index.h"
 #include "model/StageTable.h"
 
 namespace vorlan {
 
 std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value, bool showTable) {
-    const int record = static_cast<int>(pane);
-    const FrameSlot own{false, static_cast<int>(stage), record};
+    const int record = asInt(pane);
+    const FrameSlot own{false, asInt(stage), record};
     switch (stageRow(stage).pane(pane)) {
         case PaneKind::Diagram:
             return own;

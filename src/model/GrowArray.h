@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "model/Errors.h"
+#include "model/Index.h"
 #include "model/SObject.h"
 #include "model/SharedRun.h"
 
@@ -19,16 +20,16 @@ class GrowArray : public SObject {
   public:
     using Storage = RunStorage<T>;
 
-    int GetSize() const { return static_cast<int>(items().size()); }
+    int GetSize() const { return asInt(items().size()); }
     bool IsEmpty() const { return items().empty(); }
 
     const T& GetAt(int index) const {
         check(index);
-        return items()[static_cast<std::size_t>(index)];
+        return items()[asSize(index)];
     }
     T& ElementAt(int index) {
         check(index);
-        return items()[static_cast<std::size_t>(index)];
+        return items()[asSize(index)];
     }
     /// The element at index, after growing the array so that there is one.
     T& GrowTo(int index) {
@@ -36,10 +37,10 @@ class GrowArray : public SObject {
             throw InvalidArgument();
         }
         Storage& held = items();
-        if (static_cast<std::size_t>(index) >= held.size()) {
-            held.resize(static_cast<std::size_t>(index) + 1, T());
+        if (asSize(index) >= held.size()) {
+            held.resize(asSize(index) + 1, T());
         }
-        return held[static_cast<std::size_t>(index)];
+        return held[asSize(index)];
     }
     void SetAt(int index, const T& value) {
         T copy = value;
@@ -62,7 +63,7 @@ class GrowArray : public SObject {
         if (size < 0) {
             throw InvalidArgument();
         }
-        items().resize(static_cast<std::size_t>(size), T());
+        items().resize(asSize(size), T());
     }
 
     /// The elements in one run, for loops that check their bounds once.
@@ -114,7 +115,7 @@ class GrowArray : public SObject {
 
   private:
     void check(int index) const {
-        if (index < 0 || static_cast<std::size_t>(index) >= items().size()) {
+        if (index < 0 || asSize(index) >= items().size()) {
             throw InvalidArgument();
         }
     }

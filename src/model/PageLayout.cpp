@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "model/Errors.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -41,12 +42,12 @@ bool isBlank(const std::string& text) {
 
 // Row and column of a pane on the page.
 int rowOf(const PageAtrType& page, Pane pane) {
-    const int number = static_cast<int>(pane);
+    const int number = asInt(pane);
     return page.layout == 0 ? number % 2 : number;
 }
 
 int columnOf(const PageAtrType& page, Pane pane) {
-    return page.layout == 0 ? static_cast<int>(pane) / 2 : 0;
+    return page.layout == 0 ? asInt(pane) / 2 : 0;
 }
 
 /// Sizes of the rows or of the columns, cm; 0 for one that holds no pane.
@@ -54,14 +55,14 @@ class Tracks {
   public:
     explicit Tracks(double gap) : gap_(gap) {}
     void hold(int index, double size) {
-        double& track = sizes_[static_cast<std::size_t>(index)];
+        double& track = sizes_[asSize(index)];
         track = std::max(track, size);
     }
     /// Where a track begins; the end of the last one for index kPaneCount.
     double startOf(int index) const {
         double start = 0.0;
         for (int i = 0; i < index; ++i) {
-            const double size = sizes_[static_cast<std::size_t>(i)];
+            const double size = sizes_[asSize(i)];
             start += size > 0.0 ? size + gap_ : 0.0;
         }
         return start;
@@ -106,13 +107,13 @@ std::int32_t PageAtrType::*printFlagOf(Pane pane) {
     constexpr std::array<std::int32_t PageAtrType::*, kPaneCount> flags = {
         &PageAtrType::printLeftTop, &PageAtrType::printLeftBottom, &PageAtrType::printRightTop,
         &PageAtrType::printRightBottom};
-    return flags[static_cast<std::size_t>(pane)];
+    return flags[asSize(pane)];
 }
 
 PagePaneSize PageAtrType::*sizeOf(Pane pane) {
     constexpr std::array<PagePaneSize PageAtrType::*, kPaneCount> sizes = {
         &PageAtrType::leftTop, &PageAtrType::leftBottom, &PageAtrType::rightTop, &PageAtrType::rightBottom};
-    return sizes[static_cast<std::size_t>(pane)];
+    return sizes[asSize(pane)];
 }
 
 Refusal refusalOf(const PageAtrType& page) {

@@ -9,8 +9,8 @@ namespace vorlan {
 /// question mark. Line ends, too; other bytes stay as they are.
 std::string printable(std::string_view text);
 
-/// A name as text files may hold it: U+0000 to U+001F and U+007F are question marks. Every other byte stays: it may be a
-/// letter of an old text with one byte per letter.
+/// A name as text files may hold it: U+0000 to U+001F and U+007F are question marks. Every other byte stays: it may be
+/// a letter of an old text with one byte per letter.
 std::string nameForFiles(std::string_view text);
 
 }  // namespace vorlan

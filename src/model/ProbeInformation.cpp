@@ -6,6 +6,7 @@
 
 #include "model/Angles.h"
 #include "model/Errors.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -17,7 +18,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 /// Calls action with the index of every working sample that counts.
 template <class Action>
 void forEachCounted(const SAdvProbe& probe, Action action) {
-    const auto samples = static_cast<std::size_t>(probe.WorkingSamples());
+    const auto samples = asSize(probe.WorkingSamples());
     if (probe.UsesAllSamples()) {
         for (std::size_t i = 0; i < samples; ++i) {
             action(i);
@@ -49,7 +50,7 @@ std::array<double, 3> meanVelocities(const SAdvProbe& probe) {
         std::array<std::span<const std::int32_t>, 3> units;
         std::array<double, 3> scales{};
         for (std::size_t c = 0; c < sums.size(); ++c) {
-            const SArray& column = velocities.GetAt(static_cast<int>(c));
+            const SArray& column = velocities.GetAt(asInt(c));
             if (column.GetSize() < probe.WorkingSamples()) {
                 throw InvalidArgument();
             }
@@ -79,7 +80,7 @@ VelocityExtremes velocityExtremes(const SAdvProbe& probe) {
         return extremes;
     }
     for (std::size_t c = 0; c < extremes.lowest.size(); ++c) {
-        const SArray& column = probe.Velocities().GetAt(static_cast<int>(c));
+        const SArray& column = probe.Velocities().GetAt(asInt(c));
         const std::span<const std::int32_t> units = column.view();
         std::int32_t lowest = std::numeric_limits<std::int32_t>::max();
         std::int32_t highest = std::numeric_limits<std::int32_t>::min();
@@ -116,7 +117,7 @@ std::vector<std::string> probeInformation(const SAdvProbe& probe) {
 }
 
 std::string probeListText(const SAdvProbe& probe) {
-    return formatted(probe.isProbe != 0 ? "Probe %d" : "Burst %d", static_cast<int>(probe.probeNumber));
+    return formatted(probe.isProbe != 0 ? "Probe %d" : "Burst %d", asInt(probe.probeNumber));
 }
 
 }  // namespace vorlan

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/Archive.h"
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -121,7 +122,7 @@ void SAdvProbe::AgeResults() {
     }
     for (std::size_t mark = 0; mark < stageDone.size(); ++mark) {
         // The plans have no results of their own: they draw the record as it is.
-        stageIsOld[mark] = stageDone[mark] != 0 && mark != static_cast<std::size_t>(DoneMark::MeanVelocity);
+        stageIsOld[mark] = stageDone[mark] != 0 && mark != asSize(DoneMark::MeanVelocity);
     }
 }
 

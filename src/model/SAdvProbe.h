@@ -6,6 +6,7 @@
 #include <string>
 
 #include "model/FrameAttributes.h"
+#include "model/Index.h"
 #include "model/PlainArrays.h"
 #include "model/SArray.h"
 #include "model/STabsArray.h"
@@ -31,13 +32,13 @@ class SAdvProbe : public SObject {
 
     /// True when any stage after pre-processing has results.
     bool IsChanged() const;
-    bool IsDone(DoneMark mark) const { return stageDone[static_cast<std::size_t>(mark)] != 0; }
+    bool IsDone(DoneMark mark) const { return stageDone[asSize(mark)] != 0; }
     void SetDone(DoneMark mark, bool done = true) {
-        stageDone[static_cast<std::size_t>(mark)] = done ? 1U : 0U;
-        stageIsOld[static_cast<std::size_t>(mark)] = false;
+        stageDone[asSize(mark)] = done ? 1U : 0U;
+        stageIsOld[asSize(mark)] = false;
     }
     /// True when the working record has changed since the stage was run or repeated.
-    bool IsOld(DoneMark mark) const { return stageIsOld[static_cast<std::size_t>(mark)]; }
+    bool IsOld(DoneMark mark) const { return stageIsOld[asSize(mark)]; }
     bool HasOldStage() const { return stageIsOld != decltype(stageIsOld){}; }
 
     void SetSelectedTab(int index) { selectedTab = index; }

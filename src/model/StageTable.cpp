@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -46,11 +48,11 @@ const std::array<StageRow, kStageCount>& stageTable() {
 }
 
 const StageRow& stageRow(Stage stage) {
-    return kStages.at(static_cast<std::size_t>(stage));
+    return kStages.at(asSize(stage));
 }
 
 const StageRow* stageNumbered(std::int64_t number) {
-    return number >= 0 && number < kStageCount ? &kStages[static_cast<std::size_t>(number)] : nullptr;
+    return number >= 0 && number < kStageCount ? &kStages[asSize(number)] : nullptr;
 }
 
 const StageRow& stageOfMark(DoneMark mark) {

@@ -6,6 +6,8 @@
 
 #include "model/Stages.h"
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 /// What a pane of a stage holds.
@@ -29,7 +31,7 @@ struct StageRow {
     bool forgottenOnRemoval;  ///< its results are of all samples: they go when bad samples are left out
     int pageRecord;           ///< index of its printed page
 
-    PaneKind pane(Pane which) const { return panes[static_cast<std::size_t>(which)]; }
+    PaneKind pane(Pane which) const { return panes[asSize(which)]; }
     /// The display switch that the stage opens with: its table, where it has one.
     bool opensWithTable() const { return pane(Pane::RightBottom) != PaneKind::Diagram; }
     /// True when its diagrams span all files and need no run of the stage.

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <limits>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 std::string formatted(const char* format, ...) {
@@ -17,7 +19,7 @@ std::string formatted(const char* format, ...) {
     va_copy(again, arguments);
     const int length = std::vsnprintf(nullptr, 0, format, arguments);
     va_end(arguments);
-    std::string text(length > 0 ? static_cast<std::size_t>(length) : 0, '\0');
+    std::string text(length > 0 ? asSize(length) : 0, '\0');
     std::vsnprintf(text.data(), text.size() + 1, format, again);
     va_end(again);
     return text;
@@ -44,10 +46,10 @@ constexpr double kExactIntegers = 4503599627370496.0;  // 2^52
 // The decimals of a value whose last digit is beyond doubt. The product of value and power is off by at most half a
 // unit in its last place: away from a tie by more than that, it rounds to the digit that the exact value rounds to.
 bool appendRounded(std::string& text, double value, int digits) {
-    if (digits < 1 || digits >= static_cast<int>(kPowersOfTen.size())) {
+    if (digits < 1 || digits >= asInt(kPowersOfTen.size())) {
         return false;
     }
-    const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(digits)];
+    const double scaled = std::fabs(value) * kPowersOfTen[asSize(digits)];
     if (!(scaled < kExactIntegers)) {
         return false;
     }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "model/Index.h"
 #include "model/ProbeInformation.h"
 
 namespace vorlan {
@@ -28,7 +29,7 @@ bool planeWasChosen(const Workspace& workspace) {
 }  // namespace
 
 Plane planeOf(int code) {
-    return kPlanes[knownPlane(code) ? static_cast<std::size_t>(code) : kPlanes.size() - 1];
+    return kPlanes[knownPlane(code) ? asSize(code) : kPlanes.size() - 1];
 }
 
 int shownPlane(const Workspace& workspace) {
@@ -48,7 +49,7 @@ int shownPlane(const Workspace& workspace) {
         }
     }
     const auto best = std::max_element(longest.begin(), longest.end());
-    return *best > 0.0 ? static_cast<int>(best - longest.begin()) : stored;
+    return *best > 0.0 ? asInt(best - longest.begin()) : stored;
 }
 
 VectorSettings shownVectors(const Workspace& workspace) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -17,7 +19,7 @@ struct Run {
 class RowJoiner {
   public:
     RowJoiner(const Box& area, std::vector<Box>& rows)
-        : area_(area), starts_(static_cast<std::size_t>(std::max(area.height(), 0))), rows_(rows) {}
+        : area_(area), starts_(asSize(std::max(area.height(), 0))), rows_(rows) {}
 
     void addColumn(int x, Run run) {
         if (x < area_.left || x >= area_.right) {
@@ -49,12 +51,12 @@ class RowJoiner {
   private:
     void begin(int first, int bottom, int x) {
         for (int y = first; y < bottom; ++y) {
-            starts_[static_cast<std::size_t>(y - area_.top)] = x;
+            starts_[asSize(y - area_.top)] = x;
         }
     }
     void end(int first, int bottom, int x) {
         for (int y = first; y < bottom; ++y) {
-            rows_.push_back({starts_[static_cast<std::size_t>(y - area_.top)], y, x, y + 1});
+            rows_.push_back({starts_[asSize(y - area_.top)], y, x, y + 1});
         }
     }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Index.h"
 #include "plot/PaintSeries.h"
 #include "plot/PointNames.h"
 #include "plot/QtText.h"
@@ -115,7 +116,7 @@ class PanePainter {
     void drawLines(const std::vector<Line>& lines, const QPen& pen) {
         painter_.setPen(pen);
         const std::vector<QLine> strokes = qtLines(lines);
-        painter_.drawLines(strokes.data(), static_cast<int>(strokes.size()));
+        painter_.drawLines(strokes.data(), asInt(strokes.size()));
         painter_.setPen(Qt::black);
     }
 

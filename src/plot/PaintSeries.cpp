@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "model/Index.h"
 #include "plot/SeriesShapes.h"
 
 namespace vorlan {
@@ -82,7 +83,7 @@ void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box
         return;
     }
     const QColor colour = colourOf(attributes.colour);
-    const auto lighter = [](int part) { return static_cast<int>(part + (255 - part) * kBarTint); };
+    const auto lighter = [](int part) { return asInt(part + (255 - part) * kBarTint); };
     const QColor tint(lighter(colour.red()), lighter(colour.green()), lighter(colour.blue()));
     const int border = scaledSize(attributes.penWidth, kLargestPen, lengthScale);
     const QRect rect(box.left, box.top, box.width(), box.height());
@@ -166,8 +167,7 @@ void smoothen(QPainter& painter, double lengthScale) {
 
 QColor colourOf(std::int32_t packed) {
     const auto bits = static_cast<std::uint32_t>(packed);
-    return QColor(static_cast<int>(bits & 255U), static_cast<int>(bits >> 8U & 255U),
-                  static_cast<int>(bits >> 16U & 255U));
+    return QColor(asInt(bits & 255U), asInt(bits >> 8U & 255U), asInt(bits >> 16U & 255U));
 }
 
 QPen linePen(std::int32_t colour, int width, int style, double lengthScale) {
@@ -193,7 +193,7 @@ void strokePolylines(QPainter& painter, const Polylines& lines) {
         for (std::size_t first = 0; first + 1 < part.size(); first += step) {
             const std::size_t last = std::min(first + step, part.size() - 1);
             QPolygon run;
-            run.reserve(static_cast<int>(last - first) + 1);
+            run.reserve(asInt(last - first) + 1);
             double length = 0.0;
             for (std::size_t i = first; i <= last; ++i) {
                 run << QPoint(part[i].x, part[i].y);
@@ -218,7 +218,7 @@ void fillColumnRuns(QPainter& painter, const ColumnRuns& runs, const QPen& pen) 
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(pen.color());
-    painter.drawRects(rows.data(), static_cast<int>(rows.size()));
+    painter.drawRects(rows.data(), asInt(rows.size()));
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     for (const Line& bridge : runs.bridges) {

@@ -4,6 +4,8 @@
 #include <QPageSize>
 #include <algorithm>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -38,7 +40,7 @@ void PdfDocument::add(const PageContent& page, const std::vector<OutlineEntry>& 
     paintPage(painter_, page, kPageDpi);
     const auto differs = std::mismatch(place.begin(), place.end(), lastPlace_.begin(), lastPlace_.end()).first;
     for (auto part = differs; part != place.end(); ++part) {
-        bookmarks_.push_back({QString::fromStdString(part->text), static_cast<int>(part - place.begin()), pages_});
+        bookmarks_.push_back({QString::fromStdString(part->text), asInt(part - place.begin()), pages_});
     }
     lastPlace_ = place;
     ++pages_;

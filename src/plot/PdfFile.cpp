@@ -5,6 +5,8 @@
 #include <map>
 #include <optional>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -119,26 +121,25 @@ std::vector<OutlineLinks> linksOf(const std::vector<PdfBookmark>& bookmarks) {
     std::vector<OutlineLinks> links(bookmarks.size());
     std::vector<int> open;  // the entries that the next one may lie under
     int lastOutermost = -1;
-    for (int i = 0; i < static_cast<int>(bookmarks.size()); ++i) {
-        while (!open.empty() &&
-               bookmarks[static_cast<std::size_t>(open.back())].level >= bookmarks[static_cast<std::size_t>(i)].level) {
+    for (int i = 0; i < asInt(bookmarks.size()); ++i) {
+        while (!open.empty() && bookmarks[asSize(open.back())].level >= bookmarks[asSize(i)].level) {
             open.pop_back();
         }
-        OutlineLinks& own = links[static_cast<std::size_t>(i)];
+        OutlineLinks& own = links[asSize(i)];
         own.parent = open.empty() ? -1 : open.back();
-        int& last = open.empty() ? lastOutermost : links[static_cast<std::size_t>(own.parent)].lastChild;
+        int& last = open.empty() ? lastOutermost : links[asSize(own.parent)].lastChild;
         own.previous = last;
         if (last >= 0) {
-            links[static_cast<std::size_t>(last)].next = i;
+            links[asSize(last)].next = i;
         } else if (own.parent >= 0) {
-            links[static_cast<std::size_t>(own.parent)].firstChild = i;
+            links[asSize(own.parent)].firstChild = i;
         }
         last = i;
         open.push_back(i);
     }
     for (auto own = links.rbegin(); own != links.rend(); ++own) {
         if (own->parent >= 0) {
-            links[static_cast<std::size_t>(own->parent)].below += own->below + 1;
+            links[asSize(own->parent)].below += own->below + 1;
         }
     }
     return links;
@@ -147,7 +148,7 @@ std::vector<OutlineLinks> linksOf(const std::vector<PdfBookmark>& bookmarks) {
 void addOutline(PdfObjects& file, const std::vector<PdfBookmark>& bookmarks) {
     const std::vector<int> pages = pagesOf(file);
     const auto isOnAPage = [&](const PdfBookmark& bookmark) {
-        return bookmark.page >= 0 && bookmark.page < static_cast<int>(pages.size());
+        return bookmark.page >= 0 && bookmark.page < asInt(pages.size());
     };
     if (bookmarks.empty() || !std::all_of(bookmarks.begin(), bookmarks.end(), isOnAPage)) {
         return;
@@ -156,8 +157,8 @@ void addOutline(PdfObjects& file, const std::vector<PdfBookmark>& bookmarks) {
     const auto numberOf = [outline](int index) { return outline + 1 + index; };
     const std::vector<OutlineLinks> links = linksOf(bookmarks);
     int last = 0;
-    for (int i = 0; i < static_cast<int>(links.size()); ++i) {
-        last = links[static_cast<std::size_t>(i)].parent < 0 ? i : last;
+    for (int i = 0; i < asInt(links.size()); ++i) {
+        last = links[asSize(i)].parent < 0 ? i : last;
     }
     file.add(outline, "<<\n/Type /Outlines\n/First " + reference(numberOf(0)) + "\n/Last " + reference(numberOf(last)) +
                           "\n/Count " + QByteArray::number(bookmarks.size()) + "\n>>");
@@ -177,8 +178,8 @@ void addOutline(PdfObjects& file, const std::vector<PdfBookmark>& bookmarks) {
         if (own.below > 0) {
             item += "\n/Count " + QByteArray::number(own.below);
         }
-        item += "\n/Dest [" + reference(pages[static_cast<std::size_t>(bookmarks[i].page)]) + " /Fit]\n>>";
-        file.add(numberOf(static_cast<int>(i)), item);
+        item += "\n/Dest [" + reference(pages[asSize(bookmarks[i].page)]) + " /Fit]\n>>";
+        file.add(numberOf(asInt(i)), item);
     }
     QByteArray& root = file.objects[file.root];
     root.insert(root.lastIndexOf(kEndOfDictionary),
@@ -189,9 +190,9 @@ void addOutline(PdfObjects& file, const std::vector<PdfBookmark>& bookmarks) {
 QByteArray bytesOf(const PdfObjects& file) {
     QByteArray bytes = file.head;
     const int size = file.objects.rbegin()->first + 1;
-    std::vector<qsizetype> offsets(static_cast<std::size_t>(size), -1);
+    std::vector<qsizetype> offsets(asSize(size), -1);
     for (const int number : file.order) {
-        offsets[static_cast<std::size_t>(number)] = bytes.size();
+        offsets[asSize(number)] = bytes.size();
         bytes += file.objects.at(number);
     }
     const qsizetype table = bytes.size();

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "model/Index.h"
 #include "plot/PolylineEnvelope.h"
 #include "plot/SeriesShapes.h"
 
@@ -23,7 +24,7 @@ class Occupancy {
           cell_(std::max(cell, 1)),
           columns_(std::max(area.width(), 0) / cell_ + 1),
           rows_(std::max(area.height(), 0) / cell_ + 1),
-          taken_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_)) {}
+          taken_(asSize(columns_) * asSize(rows_)) {}
 
     void add(const Box& box) {
         visit(box, [this](std::size_t cell) {
@@ -40,8 +41,8 @@ class Occupancy {
         const int dy = inside->to.y - inside->from.y;
         const int steps = std::max(std::max(std::abs(dx), std::abs(dy)) * 2 / cell_, 1);
         for (int i = 0; i <= steps; ++i) {
-            const int x = inside->from.x + static_cast<int>(std::int64_t{dx} * i / steps);
-            const int y = inside->from.y + static_cast<int>(std::int64_t{dy} * i / steps);
+            const int x = inside->from.x + asInt(std::int64_t{dx} * i / steps);
+            const int y = inside->from.y + asInt(std::int64_t{dy} * i / steps);
             add(Box{x, y, x + 1, y + 1});
         }
     }
@@ -60,8 +61,7 @@ class Occupancy {
         for (int row = (inside.top - area_.top) / cell_; row <= (inside.bottom - 1 - area_.top) / cell_; ++row) {
             for (int column = (inside.left - area_.left) / cell_; column <= (inside.right - 1 - area_.left) / cell_;
                  ++column) {
-                if (action(static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                           static_cast<std::size_t>(column))) {
+                if (action(asSize(row) * asSize(columns_) + asSize(column))) {
                     return true;
                 }
             }

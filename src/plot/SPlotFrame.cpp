@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Index.h"
 #include "model/Text.h"
 #include "plot/DataExtent.h"
 #include "plot/EdgeNotes.h"
@@ -160,7 +161,7 @@ class Composer {
     }
 
     int linesHeight(const std::vector<std::string>& lines, const FontDescription& font) const {
-        return static_cast<int>(lines.size()) * measure_.height(font);
+        return asInt(lines.size()) * measure_.height(font);
     }
 
     bool placeVertically() {

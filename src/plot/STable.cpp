@@ -5,6 +5,7 @@
 
 #include "model/Archive.h"
 #include "model/Errors.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -33,10 +34,10 @@ void texts(Archive& archive, std::vector<std::string>& values) {
 }
 
 const std::string& element(const std::vector<std::string>& values, int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= values.size()) {
+    if (index < 0 || asSize(index) >= values.size()) {
         throw InvalidArgument();
     }
-    return values[static_cast<std::size_t>(index)];
+    return values[asSize(index)];
 }
 
 // The end of a row title names the probe, so a title that is too wide loses its middle.
@@ -97,20 +98,20 @@ const std::string& STable::rowTitle(int row) const {
 }
 
 bool STable::isEmptyCell(int row, std::size_t index) const {
-    if (static_cast<std::size_t>(row) >= emptyCells.size()) {
+    if (asSize(row) >= emptyCells.size()) {
         return false;
     }
-    const std::vector<std::size_t>& empty = emptyCells[static_cast<std::size_t>(row)];
+    const std::vector<std::size_t>& empty = emptyCells[asSize(row)];
     return std::find(empty.begin(), empty.end(), index) != empty.end();
 }
 
 std::string STable::cell(int row, int column) const {
-    if (row < 0 || static_cast<std::size_t>(row) >= rows.size() || column < 0 ||
-        static_cast<std::size_t>(column) + 1 >= std::max<std::size_t>(headers.size(), 1)) {
+    if (row < 0 || asSize(row) >= rows.size() || column < 0 ||
+        asSize(column) + 1 >= std::max<std::size_t>(headers.size(), 1)) {
         throw InvalidArgument();
     }
-    const std::size_t index = static_cast<std::size_t>(column);
-    const std::vector<double>& values = rows[static_cast<std::size_t>(row)];
+    const std::size_t index = asSize(column);
+    const std::vector<double>& values = rows[asSize(row)];
     if (index >= values.size() || isEmptyCell(row, index)) {
         return {};
     }
@@ -136,12 +137,12 @@ void STable::fitInto(const Box& box, const TextMeasure& measure) {
     left = box.left;
     top = box.top;
     tableWidth = box.width();
-    columnWidth = tableWidth / static_cast<int>(std::max<std::size_t>(headers.size(), 1));
+    columnWidth = tableWidth / asInt(std::max<std::size_t>(headers.size(), 1));
     rowHeight = measure.height(font, shareOfNumbers(fittingShare(box, measure), measure));
 }
 
 double STable::fittingShare(const Box& box, const TextMeasure& measure) const {
-    const int lines = 3 + 2 * static_cast<int>(rows.size()) + (note.empty() ? 0 : 2);
+    const int lines = 3 + 2 * asInt(rows.size()) + (note.empty() ? 0 : 2);
     const auto needed = [&](double share) { return lines * measure.height(font, share); };
     if (needed(1.0) <= box.height()) {
         return 1.0;
@@ -169,14 +170,14 @@ double STable::shareOfNumbers(double share, const TextMeasure& measure) const {
 }
 
 int STable::valueColumnWidth(const TextMeasure& measure, double share) const {
-    const int columns = static_cast<int>(headers.size());
+    const int columns = asInt(headers.size());
     return columns > 1 ? (tableWidth - firstColumnWidth(measure, share)) / (columns - 1) : tableWidth;
 }
 
 bool STable::numbersFit(double share, const TextMeasure& measure) const {
     const int room = valueColumnWidth(measure, share) - kTextGap;
-    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
-        for (int column = 0; column + 1 < static_cast<int>(headers.size()); ++column) {
+    for (int row = 0; row < asInt(rows.size()); ++row) {
+        for (int column = 0; column + 1 < asInt(headers.size()); ++column) {
             if (measure.width(cell(row, column), font, share) > room) {
                 return false;
             }
@@ -190,7 +191,7 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
     const double share = shareOfNumbers(fittingShare(box, measure), measure);
     const int height = measure.height(font, share);
     const int firstWidth = firstColumnWidth(measure, share);
-    const int columns = static_cast<int>(headers.size());
+    const int columns = asInt(headers.size());
     const int otherWidth = valueColumnWidth(measure, share);
     const auto place = [&](const std::string& text, int columnLeft, int width, int y, double own) {
         const std::string shown = shortenedInside(text, font, width - kTextGap, measure, own);
@@ -221,7 +222,7 @@ TableShapes STable::shapes(const Box& box, const TextMeasure& measure) const {
         addWhole(header(column), columnLeft(column), columnSpan(column), y);
     }
     y += rowHeight;
-    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
+    for (int row = 0; row < asInt(rows.size()); ++row) {
         y += rowHeight;
         add(rowTitle(row), columnLeft(0), columnSpan(0), y - rowHeight / 2);
         for (int column = 1; column < columns; ++column) {
@@ -250,7 +251,7 @@ std::string tabSeparated(const TableContent& content) {
     for (std::size_t row = 0; row < table.rows.size(); ++row) {
         text += table.rowTitles[row];
         for (std::size_t column = 0; column < table.rows[row].size(); ++column) {
-            text += '\t' + table.cell(static_cast<int>(row), static_cast<int>(column));
+            text += '\t' + table.cell(asInt(row), asInt(column));
         }
         text += '\n';
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "model/Index.h"
 #include "plot/DataExtent.h"
 #include "plot/PolylineEnvelope.h"
 
@@ -31,15 +32,14 @@ int rounded(double pixels) {
 
 std::vector<Spot> markerSpots(const PlotSeries& series, const CScreenUtils& geometry) {
     std::vector<Spot> spots;
-    const std::size_t columns = static_cast<std::size_t>(geometry.width) + 1;
-    std::vector<bool> taken(columns * (static_cast<std::size_t>(geometry.height) + 1));
+    const std::size_t columns = asSize(geometry.width) + 1;
+    std::vector<bool> taken(columns * (asSize(geometry.height) + 1));
     for (std::size_t i = 0; i < pointCount(series); ++i) {
         Spot spot;
         if (!placed(series, i, geometry, spot)) {
             continue;
         }
-        const std::size_t cell = static_cast<std::size_t>(geometry.originY - spot.y) * columns +
-                                 static_cast<std::size_t>(spot.x - geometry.originX);
+        const std::size_t cell = asSize(geometry.originY - spot.y) * columns + asSize(spot.x - geometry.originX);
         if (!taken[cell]) {
             taken[cell] = true;
             spots.push_back(spot);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -21,7 +23,7 @@ std::string shortened(const std::string& text, const FontDescription& font, int 
         return text;
     }
     // A character takes a pixel at least: what lies further behind is not worth a look.
-    const std::size_t most = static_cast<std::size_t>(std::max(width, 0)) + 1;
+    const std::size_t most = asSize(std::max(width, 0)) + 1;
     std::vector<std::size_t> lengths;
     for (std::size_t length = 0; length < text.size() && lengths.size() < most; ++length) {
         if (!continuesCharacter(text[length])) {

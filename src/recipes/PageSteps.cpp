@@ -1,6 +1,7 @@
 // The step that lays out a stage's printed page.
 #include <algorithm>
 
+#include "model/Index.h"
 #include "model/PageLayout.h"
 #include "model/StageTable.h"
 #include "recipes/RecipeSteps.h"
@@ -62,7 +63,7 @@ NamedStep stepOf(const PageGiven& given) {
     const auto& [stage, before, after] = given;
     NamedStep step{"page", {}};
     StepValues& values = step.values;
-    values.set("stage", static_cast<int>(stage));
+    values.set("stage", asInt(stage));
     if (after.header != before.header) {
         values.set("header", after.header);
     }
@@ -70,7 +71,7 @@ NamedStep stepOf(const PageGiven& given) {
         values.set("footer", after.footer);
     }
     if (after.layout != before.layout) {
-        values.set("layout", static_cast<int>(after.layout == 0 ? kGrid : kColumn));
+        values.set("layout", asInt(after.layout == 0 ? kGrid : kColumn));
     }
     for (const LengthKey& key : kLengths) {
         if (after.*key.value != before.*key.value) {

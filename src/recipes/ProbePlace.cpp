@@ -1,5 +1,6 @@
 #include "recipes/ProbePlace.h"
 
+#include "model/Index.h"
 #include "recipes/RunError.h"
 
 namespace vorlan {
@@ -32,7 +33,7 @@ void selectPlace(CVorl_ADVDoc& document, const ProbePlace& place) {
 }
 
 bool selectStage(CVorl_ADVDoc& document, Stage stage) {
-    const int tab = document.Probe().tabItems.IndexOfStage(static_cast<int>(stage));
+    const int tab = document.Probe().tabItems.IndexOfStage(asInt(stage));
     if (tab < 0) {
         return false;
     }

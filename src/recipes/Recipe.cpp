@@ -13,6 +13,7 @@
 #include <set>
 
 #include "io/ReadFile.h"
+#include "model/Index.h"
 #include "model/RangeText.h"
 #include "model/Text.h"
 #include "recipes/RecipeText.h"
@@ -27,7 +28,7 @@ std::string inQuotes(std::string_view text) {
 }
 
 int lineOf(const toml::source_region& source) {
-    return static_cast<int>(source.begin.line);
+    return asInt(source.begin.line);
 }
 
 /// What is wrong with a recipe, by line.
@@ -85,7 +86,7 @@ TakenValue takeInteger(const KeyRule& key, const toml::node& node) {
     if (!fits || !key.range.holds(static_cast<double>(integer->get()))) {
         return wrong(std::isfinite(key.range.minimum) ? "must be " + rangeText(key.range) : "is too large");
     }
-    return {static_cast<int>(integer->get()), {}};
+    return {asInt(integer->get()), {}};
 }
 
 TakenValue takeReal(const KeyRule& key, const toml::node& node) {
@@ -102,7 +103,7 @@ TakenValue takeChoice(const KeyRule& key, const toml::node& node) {
     if (const auto* text = node.as_string()) {
         const auto at = std::find(key.choices.begin(), key.choices.end(), text->get());
         if (at != key.choices.end()) {
-            return {static_cast<int>(at - key.choices.begin()), {}};
+            return {asInt(at - key.choices.begin()), {}};
         }
     }
     return wrong("must be " + listed(names));
@@ -274,9 +275,9 @@ std::optional<std::vector<int>> takeNumbers(std::string_view key, const toml::no
     for (std::size_t i = 0; right && i < array->size(); ++i) {
         const auto* number = array->get(i)->as_integer();
         right = number != nullptr && number->get() >= 1 && number->get() <= std::numeric_limits<int>::max() &&
-                numbers.insert(static_cast<int>(number->get())).second;
+                numbers.insert(asInt(number->get())).second;
         if (right) {
-            list.push_back(static_cast<int>(number->get()));
+            list.push_back(asInt(number->get()));
         }
     }
     if (!right) {

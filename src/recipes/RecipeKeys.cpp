@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -40,7 +41,7 @@ KeyRule choiceKey(std::string name, std::vector<std::string> choices, const std:
     KeyRule key{.name = std::move(name), .type = KeyType::Choice};
     const auto at = std::find(choices.begin(), choices.end(), fallback);
     if (at != choices.end()) {
-        key.fallback = static_cast<int>(at - choices.begin());
+        key.fallback = asInt(at - choices.begin());
     }
     key.choices = std::move(choices);
     return key;

@@ -9,6 +9,8 @@
 
 #include "model/SettingField.h"
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 /// What a key of a step may hold; a choice is held as its index.
@@ -116,7 +118,7 @@ Settings settingsOf(const StepValues& values, Settings settings = {}) {
         } else if (field.choices.empty()) {
             value = static_cast<Value>(values.integer(field.name));
         } else {
-            value = static_cast<Value>(field.choices[static_cast<std::size_t>(values.choice(field.name))].code);
+            value = static_cast<Value>(field.choices[asSize(values.choice(field.name))].code);
         }
     });
     return settings;
@@ -136,11 +138,11 @@ StepValues valuesOf(const Settings& settings) {
         } else if constexpr (std::is_same_v<Value, double>) {
             values.set(field.name, value);
         } else if (field.choices.empty()) {
-            values.set(field.name, static_cast<int>(value));
+            values.set(field.name, asInt(value));
         } else {
             for (std::size_t i = 0; i < field.choices.size(); ++i) {
                 if (field.choices[i].code == static_cast<std::int32_t>(value)) {
-                    values.set(field.name, static_cast<int>(i));
+                    values.set(field.name, asInt(i));
                 }
             }
         }

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "model/Index.h"
 #include "model/Printable.h"
 #include "model/Text.h"
 #include "recipes/ProgramName.h"
@@ -48,7 +49,7 @@ std::string bracketed(const List& list, Text textOfItem) {
 }
 
 std::string valueText(const KeyRule& key, const StepValues& values) {
-    const auto word = [&](int index) { return quoted(key.choices.at(static_cast<std::size_t>(index))); };
+    const auto word = [&](int index) { return quoted(key.choices.at(asSize(index))); };
     switch (key.type) {
         case KeyType::Boolean:
             return values.boolean(key.name) ? "true" : "false";
@@ -107,7 +108,7 @@ class StepList {
     template <class Settings>
     void provide(const DoneCommand& done, DoneMark mark, Settings WorkspaceSettings::*part) {
         const Settings found = usable(done.settings.*part);
-        if (done.stageDone[static_cast<std::size_t>(mark)] != 0 && !(found == usable(settings_.*part))) {
+        if (done.stageDone[asSize(mark)] != 0 && !(found == usable(settings_.*part))) {
             text_ += stepText(stepOf(found));
             settings_.*part = found;
         }

@@ -4,6 +4,7 @@
 #include <map>
 #include <numeric>
 
+#include "model/Index.h"
 #include "model/Printable.h"
 #include "recipes/RunError.h"
 
@@ -15,7 +16,7 @@ namespace {
 std::vector<int> selected(const std::optional<std::vector<int>>& numbers, int count) {
     std::vector<int> indexes;
     if (!numbers) {
-        indexes.resize(static_cast<std::size_t>(count));
+        indexes.resize(asSize(count));
         std::iota(indexes.begin(), indexes.end(), 0);
         return indexes;
     }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "model/Index.h"
 #include "model/ParseNumber.h"
 
 namespace vorlan {
@@ -51,7 +52,7 @@ std::optional<std::vector<double>> parseReals(std::string_view text, std::size_t
 
 int componentOfLetter(std::string_view letter) {
     const std::size_t at = letter.size() == 1 ? std::string_view("uvwUVW").find(letter) : std::string_view::npos;
-    return at == std::string_view::npos ? -1 : static_cast<int>(at % 3);
+    return at == std::string_view::npos ? -1 : asInt(at % 3);
 }
 
 const std::vector<std::string>& paperNames() {
@@ -62,7 +63,7 @@ const std::vector<std::string>& paperNames() {
 PaperSize paperOf(int index, bool landscape) {
     constexpr std::array<PaperSize, 5> papers = {
         {{29.7, 42.0}, {21.0, 29.7}, {14.8, 21.0}, {21.59, 27.94}, {21.59, 35.56}}};
-    const PaperSize paper = papers.at(static_cast<std::size_t>(index));
+    const PaperSize paper = papers.at(asSize(index));
     return landscape ? PaperSize{paper.height, paper.width} : paper;
 }
 
@@ -79,7 +80,7 @@ std::optional<PictureSize> parsePictureSize(std::string_view text) {
     if (!fits(width) || !fits(height)) {
         return std::nullopt;
     }
-    return PictureSize{static_cast<int>(*width), static_cast<int>(*height)};
+    return PictureSize{asInt(*width), asInt(*height)};
 }
 
 }  // namespace vorlan

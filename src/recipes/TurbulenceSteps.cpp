@@ -1,4 +1,5 @@
 // Steps that read turbulence quantities off spectral results, as the tools of the window do.
+#include "model/Index.h"
 #include "recipes/RecipeSteps.h"
 #include "recipes/RunError.h"
 #include "recipes/StepsOfCommands.h"
@@ -34,7 +35,7 @@ Outcome runScales(StepContext& context, const StepValues& values) {
 
 NamedStep stepOf(const DissipationReading& reading) {
     NamedStep step{"dissipation", {}};
-    step.values.set("on", static_cast<int>(reading.source));
+    step.values.set("on", asInt(reading.source));
     step.values.set("x", reading.x);
     step.values.set("y", reading.y);
     return step;
@@ -42,7 +43,7 @@ NamedStep stepOf(const DissipationReading& reading) {
 
 NamedStep stepOf(const ScalesReading& reading) {
     NamedStep step{"scales", {}};
-    step.values.set("on", static_cast<int>(reading.source));
+    step.values.set("on", asInt(reading.source));
     step.values.set("from", reading.from);
     step.values.set("to", reading.to);
     return step;

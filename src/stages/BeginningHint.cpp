@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 PaneMessage beginningHint(Pane pane) {
@@ -11,7 +13,7 @@ PaneMessage beginningHint(Pane pane) {
         "Make a workspace of tables: vorlan-batch import",
         "Make a synthetic record: Tools, Simulate Time Series...",
     };
-    return PaneMessage{hints.at(static_cast<std::size_t>(pane))};
+    return PaneMessage{hints.at(asSize(pane))};
 }
 
 }  // namespace vorlan

@@ -5,6 +5,7 @@
 
 #include "analysis/SpectralScale.h"
 #include "analysis/Stresses.h"
+#include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
@@ -20,7 +21,7 @@ constexpr std::array<const char*, kStressPairs> kPairLabels = {"u'-v'", "u'-w'",
 constexpr std::array<const char*, kStressPairs> kReynoldsLabels = {"-u'v'", "-u'w'", "-v'w'"};
 
 const char* labelOf(int pair, PhysicalValue value) {
-    const auto index = static_cast<std::size_t>(pair);
+    const auto index = asSize(pair);
     return value == PhysicalValue::Stresses ? kReynoldsLabels[index] : kPairLabels[index];
 }
 
@@ -29,10 +30,8 @@ double correlationFactor(const SAdvProbe& probe, int pair, PhysicalValue value) 
     if (value == PhysicalValue::Stresses) {
         return -1.0;
     }
-    const StressPair components = kStressPairComponents[static_cast<std::size_t>(pair)];
-    const auto variance = [&](int c) {
-        return probe.statistics[SAdvProbe::kVelocityVariances + static_cast<std::size_t>(c)];
-    };
+    const StressPair components = kStressPairComponents[asSize(pair)];
+    const auto variance = [&](int c) { return probe.statistics[SAdvProbe::kVelocityVariances + asSize(c)]; };
     return 1.0 / std::sqrt(variance(components.first) * variance(components.second));
 }
 
@@ -77,7 +76,7 @@ Diagram overFrequency(const PaneRequest& request, const SAdvProbe& probe, Physic
     beginXAtZero(diagram.frame);
     // Quadrature, phase and coherence are shorter than the covariance that sets the frequencies.
     const int length = SAdvProbe::ColumnLength(probe.CoSpectra());
-    const double step = frequencyStep(length, probe.samplingInterval, static_cast<int>(probe.spectralUnit));
+    const double step = frequencyStep(length, probe.samplingInterval, asInt(probe.spectralUnit));
     for (int pair = 0; pair < kStressPairs; ++pair) {
         diagram.plot.series.push_back(curve(valuesOfPair(pair), SeriesX{0.0, step, {}}, pair, labelOf(pair, labels)));
     }

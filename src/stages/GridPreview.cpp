@@ -1,5 +1,6 @@
 #include "stages/GridPreview.h"
 
+#include "model/Index.h"
 #include "model/Text.h"
 #include "stages/PlanParts.h"
 
@@ -21,14 +22,14 @@ Diagram describeGrid(const Workspace& workspace, int planeCode, const FrameAttri
     volumes.attributes.style = SeriesStyle::Markers;
     volumes.attributes.colour = seriesColour(0);
     volumes.attributes.legendText = "sampling volumes";
-    forEachPlace(workspace.dataFiles, [&](const SAdvProbe& probe, const std::array<double, 3>& place,
-                                          const std::string& detail) {
-        const double x = place[plane.first];
-        const double y = place[plane.second];
-        volumes.x.values.push_back(x);
-        volumes.y.push_back(y);
-        diagram.labels.push_back({x, y, formatted("Probe %d", static_cast<int>(probe.probeNumber)), detail});
-    });
+    forEachPlace(workspace.dataFiles,
+                 [&](const SAdvProbe& probe, const std::array<double, 3>& place, const std::string& detail) {
+                     const double x = place[plane.first];
+                     const double y = place[plane.second];
+                     volumes.x.values.push_back(x);
+                     volumes.y.push_back(y);
+                     diagram.labels.push_back({x, y, formatted("Probe %d", asInt(probe.probeNumber)), detail});
+                 });
     diagram.plot.series.push_back(std::move(volumes));
     return diagram;
 }

@@ -5,6 +5,7 @@
 #include "analysis/MomentEstimators.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/ResultAxes.h"
+#include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
@@ -21,9 +22,9 @@ std::vector<double> gradeEnds(const STimeSeries& series) {
     const Extremes range = extremesOf(series.values);
     const int grades = series.histogram.GetSize();
     const double width = (range.maximum - range.minimum) / grades;
-    std::vector<double> ends(static_cast<std::size_t>(grades) + 1);
+    std::vector<double> ends(asSize(grades) + 1);
     for (int k = 0; k <= grades; ++k) {
-        ends[static_cast<std::size_t>(k)] = width * k + range.minimum;
+        ends[asSize(k)] = width * k + range.minimum;
     }
     return ends;
 }
@@ -39,7 +40,7 @@ PaneContent componentHistogram(const PaneRequest& request, const SAdvProbe& prob
     const HistogramSettings& settings = request.workspace.settings.histograms;
     if (hasHistogram(series)) {
         PlotSeries bars = recordLine(plotValues(series.histogram), SeriesX{0.0, 1.0, gradeEnds(series)}, 0,
-                                     kVelocityLabels[static_cast<std::size_t>(component)]);
+                                     kVelocityLabels[asSize(component)]);
         bars.attributes.style = SeriesStyle::Bars;
         bars.attributes.barGapPercent = 100.0 - settings.barWidth;
         diagram.plot.series.push_back(std::move(bars));
@@ -63,7 +64,7 @@ PaneContent allComponents(const PaneRequest& request, const SAdvProbe& probe) {
             continue;
         }
         diagram.plot.series.push_back(curve(plotValues(series.histogram), SeriesX{0.0, 1.0, gradeCentres(series)}, c,
-                                            kVelocityLabels[static_cast<std::size_t>(c)]));
+                                            kVelocityLabels[asSize(c)]));
     }
     return diagramOrMessage(std::move(diagram));
 }
@@ -79,7 +80,7 @@ TableContent momentsTable(const SAdvProbe& probe, PhysicalValue value) {
         constexpr std::array<const char*, 3> titles = {"U", "V", "W"};
         table.title = "    Statistical moments of velocity distributions";
         for (std::size_t c = 0; c < titles.size(); ++c) {
-            table.rows.push_back(momentsRow(titles[c], probe.Series(static_cast<int>(c)).moments));
+            table.rows.push_back(momentsRow(titles[c], probe.Series(asInt(c)).moments));
         }
         return table;
     }
@@ -88,13 +89,12 @@ TableContent momentsTable(const SAdvProbe& probe, PhysicalValue value) {
     const SMultiArray& stresses = probe.Stresses();
     std::array<const SArray*, 3> columns{};
     for (int pair = 0; pair < std::min(stresses.GetSize(), 3); ++pair) {
-        columns[static_cast<std::size_t>(pair)] = stresses.GetAt(pair).IsEmpty() ? nullptr : &stresses.GetAt(pair);
+        columns[asSize(pair)] = stresses.GetAt(pair).IsEmpty() ? nullptr : &stresses.GetAt(pair);
     }
     const std::array<Moments, 3> moments = countedMoments(probe, columns);
     for (std::size_t pair = 0; pair < columns.size(); ++pair) {
-        table.rows.push_back(momentsRow(kStressLabels[pair], columns[pair] != nullptr
-                                                                 ? moments[pair]
-                                                                 : probe.StressMoments(static_cast<int>(pair))));
+        table.rows.push_back(momentsRow(kStressLabels[pair],
+                                        columns[pair] != nullptr ? moments[pair] : probe.StressMoments(asInt(pair))));
     }
     return table;
 }

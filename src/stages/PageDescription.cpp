@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/Index.h"
 #include "model/ProbeInformation.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
@@ -98,7 +99,7 @@ std::vector<OutlineEntry> placeOf(const Workspace& workspace, const ReportPage& 
     if (const SAdvProbe* probe = probeAt(workspace.dataFiles, page.file, page.probe)) {
         place.push_back({page.probe, probeListText(*probe)});
     }
-    place.push_back({static_cast<int>(page.stage), stageRow(page.stage).text});
+    place.push_back({asInt(page.stage), stageRow(page.stage).text});
     return place;
 }
 

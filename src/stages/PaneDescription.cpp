@@ -4,6 +4,7 @@
 
 #include "model/DefaultFrames.h"
 #include "model/Errors.h"
+#include "model/Index.h"
 #include "stages/PaneTexts.h"
 #include "stages/StagePanes.h"
 
@@ -12,7 +13,7 @@ namespace vorlan {
 namespace {
 
 bool isStage(Stage stage) {
-    return static_cast<int>(stage) >= 0 && static_cast<int>(stage) < kStageCount;
+    return asInt(stage) >= 0 && asInt(stage) < kStageCount;
 }
 
 }  // namespace

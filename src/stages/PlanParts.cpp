@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/Index.h"
 #include "model/ProbeInformation.h"
 #include "model/SSvmSet.h"
 #include "model/Text.h"
@@ -30,7 +31,7 @@ void forEachPlace(const SAdvSet& set,
     SSvmSet volumes;
     volumes.Build(set);
     for (int f = 0; f < set.files.GetSize(); ++f) {
-        const SSvmFile& places = volumes.files().at(static_cast<std::size_t>(f));
+        const SSvmFile& places = volumes.files().at(asSize(f));
         const std::string name = utf8Text(places.name);
         const SAdvProbesArray& probes = set.files.GetAt(f).probes;
         for (int p = 0; p < probes.GetSize(); ++p) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
@@ -33,7 +34,7 @@ void addRecord(Diagram& diagram, const SAdvProbe& probe, std::vector<double> val
     leaveOutUncounted(probe, values);
     const double duration = static_cast<double>(values.size()) * probe.samplingInterval;
     diagram.duration = std::max(diagram.duration.value_or(0.0), duration);
-    const int index = static_cast<int>(diagram.plot.series.size());
+    const int index = asInt(diagram.plot.series.size());
     diagram.plot.series.push_back(
         recordLine(std::move(values), SeriesX{0.0, probe.samplingInterval, {}}, index, legend));
 }
@@ -68,7 +69,7 @@ Diagram recordDiagram(const PaneRequest& request, const SAdvProbe& probe, const 
                       const std::array<const char*, N>& legends) {
     Diagram diagram = newDiagram(request, &probe);
     for (std::size_t c = 0; c < N; ++c) {
-        addRecord(diagram, probe, plotColumn(table, static_cast<int>(c)), legends[c]);
+        addRecord(diagram, probe, plotColumn(table, asInt(c)), legends[c]);
     }
     return diagram;
 }
@@ -98,7 +99,7 @@ std::vector<double> beamAverages(const SMultiArray& scores) {
     std::vector<double> averages = plotColumn(scores, 0);
     for (int beam = 1; beam < scores.GetSize(); ++beam) {
         const SArray& column = scores.GetAt(beam);
-        averages.resize(std::min(averages.size(), static_cast<std::size_t>(column.GetSize())));
+        averages.resize(std::min(averages.size(), asSize(column.GetSize())));
         const auto units = column.view();
         for (std::size_t i = 0; i < averages.size(); ++i) {
             averages[i] += units[i] * column.GetScale();
@@ -149,7 +150,7 @@ TableContent statisticsTable(const SAdvProbe& probe) {
         table.rows.push_back({sampled[c], {stored(0), stored(1), stored(2)}});
     }
     for (std::size_t c = 0; c < modified.size(); ++c) {
-        const Moments m = probe.VelocityMoments(static_cast<int>(c));
+        const Moments m = probe.VelocityMoments(asInt(c));
         table.rows.push_back({modified[c], {m.mean, m.variance, m.skewness, m.kurtosis}});
     }
     return table;

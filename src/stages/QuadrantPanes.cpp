@@ -4,6 +4,7 @@
 #include "analysis/Quadrants.h"
 #include "analysis/ResultAxes.h"
 #include "analysis/Stresses.h"
+#include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
@@ -16,9 +17,8 @@ constexpr std::array<const char*, 5> kBucketLabels = {"1", "2", "3", "4", "Hole"
 Diagram byHoleSize(const PaneRequest& request, const SAdvProbe& probe, const SMultiArray& table) {
     Diagram diagram = newDiagram(request, &probe);
     const SeriesX sizes{0.0, holeIncrementOf(probe, request.workspace.settings.quadrants.increment), {}};
-    for (int q = 0; q < static_cast<int>(kBucketLabels.size()); ++q) {
-        diagram.plot.series.push_back(
-            curve(plotColumn(table, q), sizes, q, kBucketLabels[static_cast<std::size_t>(q)]));
+    for (int q = 0; q < asInt(kBucketLabels.size()); ++q) {
+        diagram.plot.series.push_back(curve(plotColumn(table, q), sizes, q, kBucketLabels[asSize(q)]));
     }
     if (contributionSumsExceed(probe)) {
         diagram.notes.push_back(kContributionsExceed);
@@ -33,10 +33,9 @@ PaneContent pattern(const PaneRequest& request, const SAdvProbe& probe, const SM
     int column = 0;
     for (const int component : {pair.first, pair.second}) {
         std::vector<double> values = plotColumn(table, column);
-        const double first = patternLag(0, static_cast<int>(values.size()), probe.samplingInterval);
+        const double first = patternLag(0, asInt(values.size()), probe.samplingInterval);
         const SeriesX times{first, probe.samplingInterval, {}};
-        diagram.plot.series.push_back(
-            curve(std::move(values), times, component, kVelocityLabels[static_cast<std::size_t>(component)]));
+        diagram.plot.series.push_back(curve(std::move(values), times, component, kVelocityLabels[asSize(component)]));
         ++column;
     }
     return diagramOrMessage(std::move(diagram));

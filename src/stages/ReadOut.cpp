@@ -1,6 +1,7 @@
 // Status bar texts for a cursor over a diagram.
 #include <algorithm>
 
+#include "model/Index.h"
 #include "model/Text.h"
 #include "stages/StagePanes.h"
 
@@ -43,7 +44,7 @@ std::string readOut(Stage stage, Pane pane, PhysicalValue value, const CScreenUt
     if (!geometry.overXRange(px)) {
         return {};
     }
-    const Quantity quantity = stageView(stage).quantities.at(static_cast<std::size_t>(pane));
+    const Quantity quantity = stageView(stage).quantities.at(asSize(pane));
     const double x = geometry.xValue(px);
     if (!geometry.contains(px, py)) {
         return axisText(quantity, x);

@@ -2,6 +2,7 @@
 // off them.
 #include "analysis/SpectralAnalysis.h"
 #include "analysis/SpectralScale.h"
+#include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 #include "stages/TurbulenceReadOut.h"
@@ -18,8 +19,7 @@ PaneContent correlationFunctions(const PaneRequest& request, const SAdvProbe& pr
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         const STimeSeries& series = probe.Series(c);
         diagram.plot.series.push_back(curve(plotValues(series.correlation, 1.0 / series.moments.variance),
-                                            SeriesX{0.0, probe.samplingInterval, {}}, c,
-                                            kVelocityLabels[static_cast<std::size_t>(c)]));
+                                            SeriesX{0.0, probe.samplingInterval, {}}, c, kVelocityLabels[asSize(c)]));
     }
     return diagramOrMessage(std::move(diagram));
 }
@@ -31,10 +31,9 @@ PaneContent powerSpectra(const PaneRequest& request, const SAdvProbe& probe) {
     nameFrequencyUnit(diagram.frame, probe.spectralUnit);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         const SArray& spectrum = probe.Series(c).spectrum;
-        const double step =
-            frequencyStep(spectrum.GetSize(), probe.samplingInterval, static_cast<int>(probe.spectralUnit));
+        const double step = frequencyStep(spectrum.GetSize(), probe.samplingInterval, asInt(probe.spectralUnit));
         diagram.plot.series.push_back(
-            curve(plotValues(spectrum), SeriesX{0.0, step, {}}, c, kVelocityLabels[static_cast<std::size_t>(c)]));
+            curve(plotValues(spectrum), SeriesX{0.0, step, {}}, c, kVelocityLabels[asSize(c)]));
     }
     diagram.notes = spectrumOverflows(probe);
     return diagramOrMessage(std::move(diagram));
@@ -46,8 +45,7 @@ PaneContent structureFunctions(const PaneRequest& request, const SAdvProbe& prob
     beginXAtZero(diagram.frame);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         diagram.plot.series.push_back(curve(plotValues(probe.Series(c).structureFunction),
-                                            SeriesX{0.0, probe.samplingInterval, {}}, c,
-                                            kVelocityLabels[static_cast<std::size_t>(c)]));
+                                            SeriesX{0.0, probe.samplingInterval, {}}, c, kVelocityLabels[asSize(c)]));
     }
     return diagramOrMessage(std::move(diagram));
 }

@@ -1,5 +1,7 @@
 #include "stages/StagePanes.h"
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -19,7 +21,7 @@ constexpr std::array<StageView, kStageCount> kViews = {{
 }  // namespace
 
 const StageView& stageView(Stage stage) {
-    return kViews.at(static_cast<std::size_t>(stage));
+    return kViews.at(asSize(stage));
 }
 
 }  // namespace vorlan

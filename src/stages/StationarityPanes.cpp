@@ -1,5 +1,6 @@
 // Moments of the bands that a record is cut into.
 #include "analysis/ResultAxes.h"
+#include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
 
@@ -19,12 +20,11 @@ PaneContent describeStationarity(const PaneRequest& request, const SAdvProbe* pr
         return {};
     }
     Diagram diagram = newDiagram(request, probe);
-    const auto bandArray = kBandArrays.at(static_cast<std::size_t>(request.pane));
+    const auto bandArray = kBandArrays.at(asSize(request.pane));
     for (std::size_t c = 0; c < kMarkers.size(); ++c) {
-        const STimeSeries& series = probe->Series(static_cast<int>(c));
+        const STimeSeries& series = probe->Series(asInt(c));
         SeriesX times{0.0, 1.0, bandTimes(series, probe->bandMode, probe->samplingInterval)};
-        PlotSeries line =
-            curve(plotValues(series.*bandArray), std::move(times), static_cast<int>(c), kVelocityLabels[c]);
+        PlotSeries line = curve(plotValues(series.*bandArray), std::move(times), asInt(c), kVelocityLabels[c]);
         line.attributes.style = SeriesStyle::LineAndMarkers;
         line.attributes.markerKind = kMarkers[c];
         diagram.plot.series.push_back(std::move(line));

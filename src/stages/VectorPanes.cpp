@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/Index.h"
 #include "model/ProbeInformation.h"
 #include "model/Text.h"
 #include "stages/PlanParts.h"
@@ -133,7 +134,7 @@ TableContent directionsTable(const SAdvSet& set) {
     for (const SAdvFile& file : set.files) {
         for (const SAdvProbe& probe : file.probes) {
             const FlowDirections d = meanFlowDirections(meanFlow(probe));
-            table.rows.push_back({formatted("%s, probe %d", file.fileName.c_str(), static_cast<int>(probe.probeNumber)),
+            table.rows.push_back({formatted("%s, probe %d", file.fileName.c_str(), asInt(probe.probeNumber)),
                                   {d.heading, d.roll, d.pitch}});
         }
     }

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 #include "ui/dialogs/FieldTips.h"
@@ -58,7 +59,7 @@ QWidget* CCoordSysDlg::positionBox() {
         position_[i] = new NumberField(this);
         position_[i]->setNumber(values_.position[i]);
         position_[i]->setToolTip(fieldTip("Place of the sampling volume", "m"));
-        addField(grid, static_cast<int>(i), 0, texts[i], position_[i], QStringLiteral("m"));
+        addField(grid, asInt(i), 0, texts[i], position_[i], QStringLiteral("m"));
     }
     return box;
 }

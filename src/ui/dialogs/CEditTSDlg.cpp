@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QStyle>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 #include "ui/dialogs/FieldTips.h"
@@ -42,7 +43,7 @@ CEditTSDlg::CEditTSDlg(const EditingSettings& settings, QWidget* parent)
     addVelocityTest(column);
     treatment_ = radioButtons({QStringLiteral("&Interpolate linearly between neighbouring (i-1, i+1) samples"),
                                QStringLiteral("&Remove bad sample from the time series")},
-                              static_cast<int>(settings.treatment), this);
+                              asInt(settings.treatment), this);
     body()->addWidget(criteria);
     QGroupBox* treatments = radioBox(QStringLiteral("Bad  samples  treatment:"), treatment_);
     explain(values_, values_.treatment, {treatments});
@@ -61,7 +62,7 @@ CEditTSDlg::ScoreControls CEditTSDlg::addScoreTest(QVBoxLayout* column, const QS
     auto* grid = new QGridLayout;
     grid->setContentsMargins(indentOf(*this), 0, 0, 0);
     const auto addStatistic = [&](ScoreStatistic statistic, double threshold) {
-        const int row = static_cast<int>(statistic);
+        const int row = asInt(statistic);
         auto* button = new QRadioButton(statistics[row], this);
         button->setChecked(test.statistic == statistic);
         controls.statistic->addButton(button, row);
@@ -86,14 +87,14 @@ CEditTSDlg::ScoreControls CEditTSDlg::addScoreTest(QVBoxLayout* column, const QS
 }
 
 void CEditTSDlg::ScoreControls::enable() const {
-    const bool minimumChosen = statistic->checkedId() == static_cast<int>(ScoreStatistic::Minimum);
+    const bool minimumChosen = statistic->checkedId() == asInt(ScoreStatistic::Minimum);
     average->setEnabled(on->isChecked() && !minimumChosen);
     minimum->setEnabled(on->isChecked() && minimumChosen);
 }
 
 void CEditTSDlg::ScoreControls::read(FieldReader& reader, ScoreTest& test) const {
     test.on = on->isChecked();
-    test.statistic = static_cast<ScoreStatistic>(chosen(statistic, static_cast<int>(test.statistic)));
+    test.statistic = static_cast<ScoreStatistic>(chosen(statistic, asInt(test.statistic)));
     reader.number(average, test.averageThreshold).number(minimum, test.minimumThreshold);
 }
 
@@ -135,7 +136,7 @@ bool CEditTSDlg::takeFields(FieldReader& reader) {
     signalToNoise_.read(reader, read.signalToNoise);
     read.spikeFilter = spikeFilter_->isChecked();
     read.velocityTest = velocityTest_->isChecked();
-    read.treatment = static_cast<BadSampleTreatment>(chosen(treatment_, static_cast<int>(values_.treatment)));
+    read.treatment = static_cast<BadSampleTreatment>(chosen(treatment_, asInt(values_.treatment)));
     reader.number(acceleration_, read.accelerationThreshold).number(velocity_, read.velocityThreshold);
     if (!reader.good()) {
         return false;

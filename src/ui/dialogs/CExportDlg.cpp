@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldTips.h"
 
@@ -24,7 +25,7 @@ CExportDlg::CExportDlg(const ExportOptions& options, QWidget* parent)
     column->addWidget(time_);
     column->addStretch();
     separator_ = radioButtons({QStringLiteral("&Space"), QStringLiteral("Ta&b"), QStringLiteral("&Comma")},
-                              static_cast<int>(options.separator), this);
+                              asInt(options.separator), this);
     auto* groups = new QHBoxLayout;
     groups->addWidget(contents, 1);
     QGroupBox* separators = radioBox(QStringLiteral("Separator"), separator_);
@@ -37,7 +38,7 @@ CExportDlg::CExportDlg(const ExportOptions& options, QWidget* parent)
 bool CExportDlg::takeFields(FieldReader&) {
     values_.header = header_->isChecked();
     values_.time = time_->isChecked();
-    values_.separator = static_cast<Separator>(chosen(separator_, static_cast<int>(values_.separator)));
+    values_.separator = static_cast<Separator>(chosen(separator_, asInt(values_.separator)));
     return true;
 }
 

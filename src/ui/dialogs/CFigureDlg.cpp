@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 
@@ -16,10 +17,10 @@ CFigureDlg::CFigureDlg(const FigureChoice& choice, QWidget* parent)
     : CParameterDialog(QStringLiteral("Save Figure"), parent), values_(choice) {
     scope_ = radioButtons(
         {QStringLiteral("The &active view"), QStringLiteral("All &four views"), QStringLiteral("The printed &page")},
-        static_cast<int>(choice.scope), this);
+        asInt(choice.scope), this);
     format_ = radioButtons({QStringLiteral("P&NG, a picture of dots"), QStringLiteral("&SVG, lines and letters"),
                             QStringLiteral("P&DF, a document")},
-                           static_cast<int>(choice.format), this);
+                           asInt(choice.format), this);
     const QString tips[] = {QStringLiteral("The pane that is framed"),
                             QStringLiteral("The four panes as in the window"),
                             QStringLiteral("The page of this stage as Page Setup lays it out, a PDF")};

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "model/Index.h"
 #include "ui/dialogs/CUpDown.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
@@ -28,10 +29,10 @@ CFilterDlg::CFilterDlg(const FilterSettings& settings, QWidget* parent)
     : CParameterDialog(QStringLiteral("Digital Filtration | Parameters"), parent), values_(settings) {
     shape_ = radioButtons({QStringLiteral("&Rectangle (averaging)"), QStringLiteral("&Tukey's cos-filter"),
                            QStringLiteral("&Gaussian-shaped"), QStringLiteral("&Bell-shaped")},
-                          static_cast<int>(settings.shape), this);
+                          asInt(settings.shape), this);
     type_ = radioButtons({QStringLiteral("&Low-pass"), QStringLiteral("&High-pass"), QStringLiteral("B&and-pass"),
                           QStringLiteral("Band-&cut")},
-                         static_cast<int>(settings.type), this);
+                         asInt(settings.type), this);
     auto* top = new QHBoxLayout;
     QGroupBox* shapes = radioBox(QStringLiteral("Filter Shape"), shape_);
     QGroupBox* types = radioBox(QStringLiteral("Filter Type"), type_);
@@ -43,7 +44,7 @@ CFilterDlg::CFilterDlg(const FilterSettings& settings, QWidget* parent)
     body()->addWidget(kernelBox());
 
     for (const FilterType band : {FilterType::BandPass, FilterType::BandCut}) {
-        type_->button(static_cast<int>(band))->setEnabled(allowsType(settings.shape, band));
+        type_->button(asInt(band))->setEnabled(allowsType(settings.shape, band));
     }
     cutoff_->setEnabled(settings.shape == FilterShape::Gaussian);
     connect(shape_, &QButtonGroup::idClicked, this, &CFilterDlg::chooseShape);
@@ -78,7 +79,7 @@ QWidget* CFilterDlg::kernelBox() {
 
 void CFilterDlg::chooseShape(int id) {
     const auto shape = static_cast<FilterShape>(id);
-    type_->button(static_cast<int>(defaultTypeOf(shape)))->setChecked(true);
+    type_->button(asInt(defaultTypeOf(shape)))->setChecked(true);
     for (QAbstractButton* button : type_->buttons()) {
         button->setEnabled(allowsType(shape, static_cast<FilterType>(type_->id(button))));
     }
@@ -87,8 +88,8 @@ void CFilterDlg::chooseShape(int id) {
 
 bool CFilterDlg::takeFields(FieldReader& reader) {
     FilterSettings read = values_;
-    read.shape = static_cast<FilterShape>(chosen(shape_, static_cast<int>(values_.shape)));
-    read.type = static_cast<FilterType>(chosen(type_, static_cast<int>(values_.type)));
+    read.shape = static_cast<FilterShape>(chosen(shape_, asInt(values_.shape)));
+    read.type = static_cast<FilterType>(chosen(type_, asInt(values_.type)));
     reader.number(cutoff_, read.cutoff).number(halfWidth_, read.halfWidth);
     if (!reader.require(refusalOf(read), {{"half_width", halfWidth_}, {"cutoff", cutoff_}}).good()) {
         return false;

@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include "model/Index.h"
 #include "model/ProbeInformation.h"
 #include "model/Text.h"
 #include "model/VectorPlan.h"
@@ -128,7 +129,7 @@ CGridEdit::PositionFields CGridEdit::addPosition(QGridLayout* grid, int row, con
     for (std::size_t axis = 0; axis < position.fields.size(); ++axis) {
         auto* field = new NumberField(this);
         field->setToolTip(toolTip);
-        addField(grid, row + static_cast<int>(axis), 0, texts[axis], field, QStringLiteral("m"));
+        addField(grid, row + asInt(axis), 0, texts[axis], field, QStringLiteral("m"));
         connect(field, &QLineEdit::editingFinished, this, [this] {
             if (takeTyped()) {
                 refresh();

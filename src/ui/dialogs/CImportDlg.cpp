@@ -9,6 +9,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 #include "ui/dialogs/RawText.h"
@@ -79,7 +80,7 @@ void CImportDlg::buildPreview() {
         this);
     found->setTextFormat(Qt::PlainText);
     body()->addWidget(found);
-    table_->setColumnCount(static_cast<int>(preview.columns));
+    table_->setColumnCount(asInt(preview.columns));
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setSelectionMode(QAbstractItemView::SingleSelection);
     table_->setTabKeyNavigation(false);
@@ -107,7 +108,7 @@ QComboBox* CImportDlg::newRoleList(std::size_t column) {
         texts << roleText(role);
     }
     const auto at = std::find(roles.begin(), roles.end(), roles_[column]) - roles.begin();
-    QComboBox* list = newList(texts, static_cast<int>(at),
+    QComboBox* list = newList(texts, asInt(at),
                               QStringLiteral("What the column holds: velocities u, v, w, scores of the beams in per "
                                              "cent and dB, angles in degrees, pressure, the time of the sample in s"),
                               table_);
@@ -117,22 +118,22 @@ QComboBox* CImportDlg::newRoleList(std::size_t column) {
 }
 
 void CImportDlg::showRows(const TablePreview& preview) {
-    table_->setRowCount(static_cast<int>(preview.rows.size()) + 1);
+    table_->setRowCount(asInt(preview.rows.size()) + 1);
     QStringList numbers{QString()};
     for (std::size_t row = 0; row < preview.rows.size(); ++row) {
         numbers << QString::number(preview.rows[row].line);
         for (int column = 0; column < table_->columnCount(); ++column) {
             const auto& fields = preview.rows[row].fields;
-            const auto index = static_cast<std::size_t>(column);
+            const auto index = asSize(column);
             table_->setItem(
-                static_cast<int>(row) + 1, column,
+                asInt(row) + 1, column,
                 new QTableWidgetItem(index < fields.size() ? QString::fromStdString(fields[index]) : QString()));
         }
     }
     table_->setVerticalHeaderLabels(numbers);
     for (std::size_t i = 0; i < lists_.size(); ++i) {
-        if (table_->cellWidget(kRoleRow, static_cast<int>(i)) == nullptr) {
-            table_->setCellWidget(kRoleRow, static_cast<int>(i), lists_[i]);
+        if (table_->cellWidget(kRoleRow, asInt(i)) == nullptr) {
+            table_->setCellWidget(kRoleRow, asInt(i), lists_[i]);
             table_->setRowHeight(kRoleRow, lists_[i]->sizeHint().height());
         }
     }
@@ -143,7 +144,7 @@ QWidget* CImportDlg::fieldsBox() {
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     unit_ = newList({QStringLiteral("cm/s"), QStringLiteral("m/s"), QStringLiteral("mm/s")},
-                    static_cast<int>(values_.table.velocityUnit),
+                    asInt(values_.table.velocityUnit),
                     QStringLiteral("Unit of the velocities in the table; they are kept in cm/s"), this);
     interval_ = new NumberField(this);
     if (values_.settings.samplingInterval > 0.0) {
@@ -154,12 +155,11 @@ QWidget* CImportDlg::fieldsBox() {
     resolution_ = new NumberField(this);
     resolution_->setNumber(values_.settings.resolution);
     resolution_->setToolTip(QStringLiteral("Step in which velocities are stored, 1e-9 to 1000 cm/s"));
-    missing_ =
-        newList({QStringLiteral("are an error"), QStringLiteral("are bridged and marked as bad")},
-                static_cast<int>(values_.table.missing),
-                QStringLiteral("An empty field or NaN in place of a velocity: refused, or a sample with mark 0 on "
-                               "the straight line between its neighbours"),
-                this);
+    missing_ = newList(
+        {QStringLiteral("are an error"), QStringLiteral("are bridged and marked as bad")}, asInt(values_.table.missing),
+        QStringLiteral("An empty field or NaN in place of a velocity: refused, or a sample with mark 0 on "
+                       "the straight line between its neighbours"),
+        this);
     name_ = new QLineEdit(values_.name ? displayText(*values_.name) : QString(), this);
     name_->setToolTip(QStringLiteral("Name of the data file; the table's own when nothing is written here"));
     addField(grid, 0, 0, QStringLiteral("&Unit of the velocities:"), unit_);
@@ -180,7 +180,7 @@ QWidget* CImportDlg::fieldsBox() {
 }
 
 void CImportDlg::takeRole(std::size_t column, int choice) {
-    const ColumnRole role = columnRoles()[static_cast<std::size_t>(choice)];
+    const ColumnRole role = columnRoles()[asSize(choice)];
     roles_[column] = role;
     // A role has one column: the one that had it before is not used.
     for (std::size_t i = 0; i < roles_.size() && !role.isSkipped(); ++i) {
@@ -197,7 +197,7 @@ void CImportDlg::showSteps() {
     if (time == roles_.end()) {
         return;
     }
-    const std::optional<TimeSteps> steps = timeStepsOf(timesOf(text_, static_cast<std::size_t>(time - roles_.begin())));
+    const std::optional<TimeSteps> steps = timeStepsOf(timesOf(text_, asSize(time - roles_.begin())));
     if (!steps) {
         steps_->setText(QStringLiteral("The times do not rise."));
         return;
@@ -220,10 +220,10 @@ void CImportDlg::showFault(const ImportFault& fault) {
     const TablePreview preview =
         previewTable(fault.text, fault.line > kRowsBeforeFault ? fault.line - kRowsBeforeFault : 1);
     showRows(preview);
-    const int column = std::clamp(static_cast<int>(fault.column) - 1, 0, std::max(table_->columnCount() - 1, 0));
+    const int column = std::clamp(asInt(fault.column) - 1, 0, std::max(table_->columnCount() - 1, 0));
     for (std::size_t row = 0; row < preview.rows.size(); ++row) {
         if (preview.rows[row].line == fault.line) {
-            table_->setCurrentCell(static_cast<int>(row) + 1, column);
+            table_->setCurrentCell(asInt(row) + 1, column);
             table_->scrollToItem(table_->currentItem(), QAbstractItemView::PositionAtCenter);
         }
     }
@@ -256,7 +256,7 @@ bool CImportDlg::takeFields(FieldReader& reader) {
 bool CImportDlg::eventFilter(QObject* watched, QEvent* event) {
     const auto list = std::find(lists_.begin(), lists_.end(), watched);
     if (event->type() == QEvent::FocusIn && list != lists_.end()) {
-        table_->scrollTo(table_->model()->index(kRoleRow, static_cast<int>(list - lists_.begin())));
+        table_->scrollTo(table_->model()->index(kRoleRow, asInt(list - lists_.begin())));
     }
     return CParameterDialog::eventFilter(watched, event);
 }

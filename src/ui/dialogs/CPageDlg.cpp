@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 #include "ui/dialogs/PageSketch.h"
@@ -99,8 +100,8 @@ QWidget* CPageDlg::layoutBox() {
         QAbstractButton* button = layout_->button(i);
         button->setIcon(pageLayoutIcon(i, size, devicePixelRatioF()));
         button->setIconSize(size);
-        button->setToolTip(names[static_cast<std::size_t>(i)]);
-        button->setAccessibleName(names[static_cast<std::size_t>(i)]);
+        button->setToolTip(names[asSize(i)]);
+        button->setAccessibleName(names[asSize(i)]);
         row->addWidget(button);
     }
     row->addStretch();
@@ -121,8 +122,8 @@ QWidget* CPageDlg::sizesBox() {
     addHead(2, QStringLiteral("Y"), kWidthTip);
     for (int i = 0; i < kPaneCount; ++i) {
         const Pane pane = static_cast<Pane>(i);
-        PaneFields& fields = panes_[static_cast<std::size_t>(i)];
-        fields.printed = new QCheckBox(QString::fromUtf8(kPaneLabels[static_cast<std::size_t>(i)]), this);
+        PaneFields& fields = panes_[asSize(i)];
+        fields.printed = new QCheckBox(QString::fromUtf8(kPaneLabels[asSize(i)]), this);
         fields.printed->setChecked(values_.*printFlagOf(pane) != 0);
         fields.printed->setToolTip(QStringLiteral("Print this pane; one that is not printed takes no room"));
         const PagePaneSize& size = values_.*sizeOf(pane);
@@ -191,7 +192,7 @@ PageAtrType CPageDlg::fieldsAsTheyAre() const {
     for (int i = 0; i < kPaneCount; ++i) {
         // A stored flag of another value than 1 stays while its box is not clicked.
         std::int32_t& flag = page.*printFlagOf(static_cast<Pane>(i));
-        const bool printed = panes_[static_cast<std::size_t>(i)].printed->isChecked();
+        const bool printed = panes_[asSize(i)].printed->isChecked();
         flag = printed == (flag != 0) ? flag : static_cast<std::int32_t>(printed);
     }
     return page;
@@ -202,7 +203,7 @@ bool CPageDlg::readNumbers(PageAtrType& page, const std::function<bool(NumberFie
                 read(bottom_, page.bottomMargin);
     for (int i = 0; i < kPaneCount && good; ++i) {
         PagePaneSize& size = page.*sizeOf(static_cast<Pane>(i));
-        const PaneFields& fields = panes_[static_cast<std::size_t>(i)];
+        const PaneFields& fields = panes_[asSize(i)];
         good = read(fields.height, size.height) && read(fields.width, size.width);
     }
     return good && read(inner_, page.innerMargin) && read(fontScale_, page.fontScale);

@@ -12,6 +12,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "model/Index.h"
 #include "ui/dialogs/CPlotOptDlg.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldTips.h"
@@ -57,8 +58,8 @@ QWidget* CPlotOptDlg::typeBox(std::span<const ScaleType> allowedScales) {
     for (const auto& [text, type] : scales) {
         if (std::find(allowedScales.begin(), allowedScales.end(), type) != allowedScales.end()) {
             auto* item = new QListWidgetItem(text, scale_);
-            item->setData(Qt::UserRole, static_cast<int>(type));
-            if (static_cast<int>(type) == values_.scaleType) {
+            item->setData(Qt::UserRole, asInt(type));
+            if (asInt(type) == values_.scaleType) {
                 scale_->setCurrentItem(item);
             }
         }

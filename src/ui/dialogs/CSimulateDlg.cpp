@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
+#include "model/Index.h"
 #include "ui/dialogs/CUpDown.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
@@ -218,8 +219,8 @@ void CSimulateDlg::limitHarmonics() {
 bool CSimulateDlg::takeFields(FieldReader& reader) {
     limitHarmonics();
     SimulationParameters read = shown_;
-    SimulationParameters::Component& velocity = read.components[static_cast<std::size_t>(component_)];
-    Harmonic& wave = velocity.harmonics[static_cast<std::size_t>(harmonic_)];
+    SimulationParameters::Component& velocity = read.components[asSize(component_)];
+    Harmonic& wave = velocity.harmonics[asSize(harmonic_)];
     read.fileName = editedText(fileName_->text(), values_.fileName);
     read.compass = compass_->isChecked();
     read.whiteNoise = whiteNoise_->isChecked();
@@ -242,7 +243,7 @@ bool CSimulateDlg::takeFields(FieldReader& reader) {
         return false;
     }
     for (SimulationParameters::Component& component : read.components) {
-        component.harmonics.resize(static_cast<std::size_t>(read.harmonicCount));
+        component.harmonics.resize(asSize(read.harmonicCount));
     }
     values_ = read;
     return true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/Simulation.h"
+#include "model/Index.h"
 #include "ui/dialogs/CParameterDialog.h"
 
 class QCheckBox;
@@ -41,8 +42,8 @@ class CSimulateDlg : public CParameterDialog {
     void chooseComponent(int component);
     void chooseHarmonic(int number);
     void limitHarmonics();
-    SimulationParameters::Component& component() { return shown_.components[static_cast<std::size_t>(component_)]; }
-    Harmonic& harmonic() { return component().harmonics[static_cast<std::size_t>(harmonic_)]; }
+    SimulationParameters::Component& component() { return shown_.components[asSize(component_)]; }
+    Harmonic& harmonic() { return component().harmonics[asSize(harmonic_)]; }
 
     SimulationParameters values_;
     SimulationParameters shown_;  ///< every component with all the harmonics that can be asked for

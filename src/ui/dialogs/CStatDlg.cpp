@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 #include "ui/dialogs/FieldTips.h"
@@ -13,8 +14,7 @@ namespace vorlan {
 
 CStatDlg::CStatDlg(const StationaritySettings& settings, QWidget* parent)
     : CParameterDialog(QStringLiteral("Stationarity Analysis | Parameters"), parent), values_(settings) {
-    mode_ =
-        radioButtons({QStringLiteral("&fixed"), QStringLiteral("&cumulative")}, static_cast<int>(settings.mode), this);
+    mode_ = radioButtons({QStringLiteral("&fixed"), QStringLiteral("&cumulative")}, asInt(settings.mode), this);
     bands_ = new IntegerField(this);
     bands_->setInteger(settings.bands);
     auto* grid = new QGridLayout;
@@ -30,7 +30,7 @@ CStatDlg::CStatDlg(const StationaritySettings& settings, QWidget* parent)
 
 bool CStatDlg::takeFields(FieldReader& reader) {
     StationaritySettings read = values_;
-    read.mode = static_cast<BandMode>(chosen(mode_, static_cast<int>(values_.mode)));
+    read.mode = static_cast<BandMode>(chosen(mode_, asInt(values_.mode)));
     if (!reader.integer(bands_, read.bands).require(refusalOf(read), {{"bands", bands_}}).good()) {
         return false;
     }

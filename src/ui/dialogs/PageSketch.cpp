@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -101,7 +103,7 @@ void PageSketch::paintPanes(QPainter& painter, const PageLayout& layout) const {
         painter.setPen(QPen(placed.fits ? kPaneEdge : kTooLargeEdge, 1.0));
         painter.drawRect(box);
         painter.setPen(kText);
-        const QString word = QString::fromUtf8(kPaneWords[static_cast<std::size_t>(placed.pane)]);
+        const QString word = QString::fromUtf8(kPaneWords[asSize(placed.pane)]);
         if (painter.fontMetrics().horizontalAdvance(word) <= box.width() &&
             painter.fontMetrics().height() <= box.height()) {
             painter.drawText(box, Qt::AlignCenter, word);

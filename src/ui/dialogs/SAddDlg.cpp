@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
 
@@ -15,7 +16,7 @@ SAddDlg::SAddDlg(QWidget* parent) : CParameterDialog(QStringLiteral("Grid and Bo
         fields_[axis] = new NumberField(this);
         fields_[axis]->setNumber(values_[axis]);
         fields_[axis]->setToolTip(QStringLiteral("Coordinate of the new node, m; three decimals are kept"));
-        addField(grid, static_cast<int>(axis), 0, texts[axis], fields_[axis], QStringLiteral("m"));
+        addField(grid, asInt(axis), 0, texts[axis], fields_[axis], QStringLiteral("m"));
     }
     grid->setColumnStretch(3, 1);
     body()->addLayout(grid);

@@ -13,6 +13,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "stages/PaneDescription.h"
 #include "stages/PlanReadOut.h"
 #include "stages/TurbulenceReadOut.h"
@@ -347,7 +348,7 @@ void CMainFrame::cyclePane(int step) {
     // Clockwise, as the panes stand on the screen.
     constexpr std::array<Pane, kPaneCount> order = {Pane::LeftTop, Pane::RightTop, Pane::RightBottom, Pane::LeftBottom};
     const auto here = std::find(order.begin(), order.end(), document_.ActivePane()) - order.begin();
-    panes_->view(order[static_cast<std::size_t>((here + step + kPaneCount) % kPaneCount)]).setFocus();
+    panes_->view(order[asSize((here + step + kPaneCount) % kPaneCount)]).setFocus();
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {

@@ -5,6 +5,7 @@
 #include <QProxyStyle>
 #include <algorithm>
 
+#include "model/Index.h"
 #include "model/Text.h"
 #include "ui/frame/MenuTable.h"
 
@@ -97,7 +98,7 @@ QAction* CommandActions::makeAction(const MenuItem& item) {
     }
     const Command command = item.command;
     connect(action, &QAction::triggered, this, [this, command] { Q_EMIT triggered(command); });
-    actions_[static_cast<std::size_t>(command)] = action;
+    actions_[asSize(command)] = action;
     return action;
 }
 

@@ -7,6 +7,8 @@
 
 #include "app/CommandState.h"
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 /// The actions of all commands, built from the menu table, and the menu bar that shows them.
@@ -17,7 +19,7 @@ class CommandActions : public QObject {
     /// Fills menuBar. The recent workspaces stand where the menu table places them.
     CommandActions(QMenuBar& menuBar, QObject* parent);
 
-    QAction* of(Command command) const { return actions_[static_cast<std::size_t>(command)]; }
+    QAction* of(Command command) const { return actions_[asSize(command)]; }
     /// Enables and checks every action as the document says. The window's own switches keep their check marks.
     void update(const CVorl_ADVDoc& document, const ShownPanes& shown);
     void setRecentFiles(const QStringList& paths);

@@ -10,6 +10,7 @@
 #include "app/CommandReports.h"
 #include "io/AtomicFile.h"
 #include "io/WorkspaceFile.h"
+#include "model/Index.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
 #include "plot/RenderFile.h"
@@ -25,7 +26,7 @@ namespace {
 constexpr const char* kSuffixes[] = {"png", "svg", "pdf"};
 
 QString suffixOf(FigureChoice::Format format) {
-    return QString::fromLatin1(kSuffixes[static_cast<int>(format)]);
+    return QString::fromLatin1(kSuffixes[asInt(format)]);
 }
 
 }  // namespace
@@ -64,7 +65,7 @@ QString Figures::proposedName() const {
     QStringList parts{QFileInfo(files_.documentName()).completeBaseName(),
                       QString::fromLatin1(stageRow(document_.CurrentStage()).name)};
     if (choice_.scope == FigureChoice::Scope::ActiveView) {
-        parts << QString::fromStdString(paneNames()[static_cast<std::size_t>(document_.ActivePane())]);
+        parts << QString::fromStdString(paneNames()[asSize(document_.ActivePane())]);
     }
     return parts.join(QLatin1Char('-')) + QLatin1Char('.') + suffixOf(choice_.format);
 }
@@ -97,8 +98,7 @@ void Figures::copy() {
         data->setText(QString::fromStdString(tabSeparated(*table)));
     }
     QApplication::clipboard()->setMimeData(data);
-    report_(
-        QStringLiteral("%1 copied").arg(QLatin1String(kPaneTexts[static_cast<std::size_t>(document_.ActivePane())])));
+    report_(QStringLiteral("%1 copied").arg(QLatin1String(kPaneTexts[asSize(document_.ActivePane())])));
 }
 
 }  // namespace vorlan

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <array>
 
+#include "model/Index.h"
 #include "ui/frame/ManualWindow.h"
 
 namespace vorlan {
@@ -46,7 +47,7 @@ constexpr DialogPage kDialogPages[] = {
 }  // namespace
 
 QString manualPageOf(Stage stage) {
-    return QString::fromLatin1(kStagePages[static_cast<std::size_t>(stage)]);
+    return QString::fromLatin1(kStagePages[asSize(stage)]);
 }
 
 QString manualPageOf(const QWidget& dialog) {

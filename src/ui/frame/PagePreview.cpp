@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QToolBar>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 bool isPreview(const QPrinter& printer) {
@@ -32,7 +34,7 @@ void PagePreview::addChoice(const PrintChoice& choice) {
     for (const QString& text : choice.texts()) {
         list->addItem(text);
     }
-    list->setCurrentIndex(static_cast<int>(scope_));
+    list->setCurrentIndex(asInt(scope_));
     bar->insertSeparator(bar->actions().value(0));
     bar->insertWidget(bar->actions().value(0), list);
     // Room for the whole bar, whose last buttons choose paper and print.

@@ -11,6 +11,7 @@
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
 #include "io/WorkspaceFile.h"
+#include "model/Index.h"
 #include "model/Text.h"
 #include "plot/PdfDocument.h"
 #include "ui/frame/PagePreview.h"
@@ -39,7 +40,7 @@ std::vector<ReportPage> inRange(const QPrinter& printer, const std::vector<Repor
     }
     std::vector<ReportPage> chosen;
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        if (ranges.contains(static_cast<int>(i) + 1)) {
+        if (ranges.contains(asInt(i) + 1)) {
             chosen.push_back(pages[i]);
         }
     }
@@ -50,7 +51,7 @@ std::vector<ReportPage> inRange(const QPrinter& printer, const std::vector<Repor
 class PageProgress {
   public:
     PageProgress(std::size_t pages, QWidget* parent)
-        : box_(QString(), QStringLiteral("Cancel"), 0, static_cast<int>(pages), parent) {
+        : box_(QString(), QStringLiteral("Cancel"), 0, asInt(pages), parent) {
         constexpr int kPatience = 500;  // ms
         box_.setWindowTitle(QStringLiteral("Vorlan"));
         box_.setWindowModality(Qt::WindowModal);
@@ -59,7 +60,7 @@ class PageProgress {
     /// False when the user cancelled.
     bool begin(std::size_t page) {
         box_.setLabelText(QStringLiteral("Page %1 of %2").arg(page + 1).arg(box_.maximum()));
-        box_.setValue(static_cast<int>(page));
+        box_.setValue(asInt(page));
         return !box_.wasCanceled();
     }
 
@@ -98,7 +99,7 @@ PrintChoice PagePrinter::choices(PrintScope scope) const {
     PrintChoice choice;
     choice.scope = scope;
     for (std::size_t i = 0; i < choice.pages.size(); ++i) {
-        choice.pages[i] = static_cast<int>(pagesOf(static_cast<PrintScope>(i)).size());
+        choice.pages[i] = asInt(pagesOf(static_cast<PrintScope>(i)).size());
     }
     return choice;
 }

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "app/CVorl_ADVDoc.h"
+#include "model/Index.h"
 #include "ui/views/CVorl_ADVView.h"
 
 class QSplitter;
@@ -17,7 +18,7 @@ class PaneGrid : public QWidget {
   public:
     explicit PaneGrid(QWidget* parent = nullptr);
 
-    CVorl_ADVView& view(Pane pane) const { return *views_[static_cast<std::size_t>(pane)]; }
+    CVorl_ADVView& view(Pane pane) const { return *views_[asSize(pane)]; }
     const std::array<CVorl_ADVView*, kPaneCount>& views() const { return views_; }
     /// Gives every pane what it shows now.
     void describe(const CVorl_ADVDoc& document);

@@ -7,6 +7,7 @@
 #include <chrono>
 
 #include "io/FileError.h"
+#include "model/Index.h"
 #include "model/Text.h"
 
 namespace vorlan {
@@ -49,7 +50,7 @@ void Recovery::keep() {
     }
     if (sinceCopy_.isValid() && sinceCopy_.elapsed() < kMilliseconds) {
         if (!timer_.isActive()) {
-            timer_.start(static_cast<int>(kMilliseconds - sinceCopy_.elapsed()));
+            timer_.start(asInt(kMilliseconds - sinceCopy_.elapsed()));
         }
         return;
     }

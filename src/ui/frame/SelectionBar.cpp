@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
+#include "model/Index.h"
 #include "model/ProbeInformation.h"
 #include "model/Text.h"
 #include "ui/dialogs/NameSelector.h"
@@ -89,8 +90,8 @@ void SelectionBar::refresh(const CVorl_ADVDoc& document) {
     {
         const QSignalBlocker quietValues(values_);
         const QSignalBlocker quietPanes(panes_);
-        values_->setCurrentIndex(static_cast<int>(document.CurrentValue()));
-        panes_->setCurrentIndex(static_cast<int>(document.ActivePane()));
+        values_->setCurrentIndex(asInt(document.CurrentValue()));
+        panes_->setCurrentIndex(asInt(document.ActivePane()));
     }
     const bool free = !document.IsRunning();
     files_->setEnabled(free);

@@ -1,5 +1,6 @@
 #include "ui/frame/TurbulenceTools.h"
 
+#include "model/Index.h"
 #include "stages/TurbulenceReadOut.h"
 #include "ui/views/tools/DissipationTool.h"
 #include "ui/views/tools/ScalesTool.h"
@@ -62,7 +63,7 @@ void TurbulenceTools::beginDissipation(CVorl_ADVView& view) {
         return;
     }
     const SAdvProbe& probe = document_.Probe();
-    auto tool = std::make_unique<DissipationTool>(view, *source, static_cast<int>(probe.spectralUnit),
+    auto tool = std::make_unique<DissipationTool>(view, *source, asInt(probe.spectralUnit),
                                                   convectiveVelocity(probe, document_.Settings()));
     connect(
         tool.get(), &DissipationTool::chosen, this,
@@ -118,7 +119,7 @@ void TurbulenceTools::beginTriangle(CVorl_ADVView& view) {
     }
     const SAdvProbe& probe = document_.Probe();
     start(view,
-          std::make_unique<TriangleTool>(view, *source, static_cast<int>(probe.spectralUnit),
+          std::make_unique<TriangleTool>(view, *source, asInt(probe.spectralUnit),
                                          convectiveVelocity(probe, document_.Settings())),
           QString::fromLatin1(kTriangleHint));
 }

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "model/Index.h"
+
 namespace vorlan {
 
 namespace {
@@ -141,7 +143,7 @@ bool UserBoxes::choosePrinter(QWidget* parent, QPrinter& printer, PrintChoice& c
         buttons.push_back(new QRadioButton(text, box));
         column->addWidget(buttons.back());
     }
-    buttons[static_cast<std::size_t>(choice.scope)]->setChecked(true);
+    buttons[asSize(choice.scope)]->setChecked(true);
     // Above the printer; a platform with another dialog shows it among the options.
     if (auto* layout = qobject_cast<QBoxLayout*>(dialog.layout())) {
         layout->insertWidget(0, box);

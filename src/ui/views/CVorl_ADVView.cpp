@@ -9,6 +9,7 @@
 #include <new>
 #include <utility>
 
+#include "model/Index.h"
 #include "plot/PaintPane.h"
 #include "ui/views/tools/PaneTool.h"
 
@@ -26,7 +27,7 @@ CVorl_ADVView::CVorl_ADVView(Pane pane, QWidget* parent) : QWidget(parent), pane
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAccessibleName(QString::fromUtf8(kPaneTexts[static_cast<std::size_t>(pane)]));
+    setAccessibleName(QString::fromUtf8(kPaneTexts[asSize(pane)]));
 }
 
 CVorl_ADVView::~CVorl_ADVView() = default;

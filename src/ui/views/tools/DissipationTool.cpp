@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "model/Index.h"
 #include "stages/TurbulenceReadOut.h"
 #include "ui/views/CVorl_ADVView.h"
 
@@ -30,8 +31,8 @@ void DissipationTool::begin() {
         return;
     }
     const CScreenUtils& g = *geometry;
-    extractor_.Initialise(g.originX, g.originY, g.xMin, g.yMin, g.xScale, g.yScale, static_cast<int>(g.scaleType),
-                          unitSelector_, convectiveVelocity_);
+    extractor_.Initialise(g.originX, g.originY, g.xMin, g.yMin, g.xScale, g.yScale, asInt(g.scaleType), unitSelector_,
+                          convectiveVelocity_);
     anchor_ = {g.originX + g.width / 3, g.originY - g.height / 2};
     offset_.reset();
     image_ = QImage(view().size(), QImage::Format_ARGB32_Premultiplied);
