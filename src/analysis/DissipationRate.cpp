@@ -10,7 +10,6 @@ namespace {
 constexpr double kRadiansPerCycle = 6.283185307178;
 constexpr double kStructureConstant = 1.92;
 constexpr int kHertz = 0;
-constexpr int kUserMode = 1;
 }  // namespace
 
 double dissipationFromSpectrum(double frequency, double density, int unitSelector, double convectiveVelocity) {
@@ -43,7 +42,8 @@ double averagedVelocity(const SAdvProbe& probe) {
 }
 
 double convectiveVelocity(const SAdvProbe& probe, const WorkspaceSettings& settings) {
-    return settings.meanVelocityMode == kUserMode ? settings.userMeanVelocity : averagedVelocity(probe);
+    const MeanVelocitySettings& chosen = settings.meanVelocity;
+    return chosen.mode == MeanVelocityMode::User ? chosen.value : averagedVelocity(probe);
 }
 
 }  // namespace vorlan

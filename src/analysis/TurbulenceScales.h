@@ -36,4 +36,17 @@ IndexRange indexRange(const ScalesReading& reading, const SAdvProbe& probe);
 /// Integral time scales Tu, Tv, Tw, s (correlation), or integrals of the spectra Su, Sv, Sw, (cm/s)^2, over range.
 std::array<double, 3> integratedScales(ScalesSource source, const SAdvProbe& probe, const IndexRange& range);
 
+/// Trapezoidal integral of R / variance over lags first..last, s. The last index is reduced to the length of the
+/// correlation function and the loop ends at last - 2; 0 when first is not below last - 1.
+double correlationIntegral(const STimeSeries& series, int first, int last);
+
+/// Trapezoidal integral of the spectrum over indexes first..last, (cm/s)^2; the loop ends at last - 3.
+double spectrumIntegral(const STimeSeries& series, int first, int last);
+
+/// Kolmogorov micro-scale, cm, of a dissipation rate in cm^2/s^3: (1.01e-6 / epsilon)^0.25.
+double kolmogorovMicroScale(double dissipationRate);
+
+/// Mean turbulent acceleration in units of gravity: 3 sqrt(epsilon^3 / 0.0101) / 981.
+double turbulentAcceleration(double dissipationRate);
+
 }  // namespace vorlan

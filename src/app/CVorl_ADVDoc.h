@@ -184,7 +184,6 @@ class CVorl_ADVDoc {
     /// The printed page of a stage. Refused when it cannot be printed on any paper.
     Outcome SetPage(Stage stage, const PageAtrType& page);
     Outcome SetMeanVelocity(const MeanVelocitySettings& chosen);
-    MeanVelocitySettings GetMeanVelocity() const;
     /// The stored attributes of a diagram of the active probe, created from the defaults when there are none.
     void SetFrame(int group, int record, const FrameAttributesType& frame);
     /// The same for the plans that span all files.

@@ -84,10 +84,6 @@ std::string somethingForARecipe(const CVorl_ADVDoc& document, const ShownPanes&)
                                                        : "";
 }
 
-std::string notYetOffered(const CVorl_ADVDoc&, const ShownPanes&) {
-    return "this version does not offer it";
-}
-
 bool inZoomMode(const CVorl_ADVDoc& document) {
     return document.HasProbe() && document.Probe().zoomMode != 0;
 }
@@ -172,7 +168,6 @@ std::string reasonOf(const CVorl_ADVDoc& document, const CommandRow& row, const 
 
 CommandState commandState(const CVorl_ADVDoc& document, Command command, const ShownPanes& shown) {
     CommandState state;
-    state.reason = notYetOffered(document, shown);
     for (const CommandRow& row : commandTable()) {
         if (row.command == command) {
             state.checked = row.checked != nullptr && row.checked(document);

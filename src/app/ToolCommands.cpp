@@ -45,19 +45,14 @@ Outcome CVorl_ADVDoc::SetPage(Stage stage, const PageAtrType& page) {
 
 Outcome CVorl_ADVDoc::SetMeanVelocity(const MeanVelocitySettings& chosen) {
     WorkspaceSettings settings = Settings();
-    settings.meanVelocityMode = chosen.mode;
-    settings.userMeanVelocity = chosen.value;
+    settings.meanVelocity = chosen;
     Write("Mean Velocity", {.settings = settings},
           {DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace, chosen)});
     Tell(Change::Content);
     return Report(Outcome::Done, [&] {
-        return chosen.mode == 0 ? "Mean velocity: that of the record"
-                                : formatted("Mean velocity: %g cm/s", chosen.value);
+        return chosen.mode == MeanVelocityMode::Averaged ? "Mean velocity: that of the record"
+                                                         : formatted("Mean velocity: %g cm/s", chosen.value);
     });
-}
-
-MeanVelocitySettings CVorl_ADVDoc::GetMeanVelocity() const {
-    return {workspace_.settings.meanVelocityMode, workspace_.settings.userMeanVelocity};
 }
 
 }  // namespace vorlan

@@ -7,9 +7,9 @@
 
 #include "analysis/DissipationRate.h"
 #include "analysis/EditingAssessment.h"
-#include "analysis/MicroScales.h"
 #include "analysis/Quadrants.h"
 #include "analysis/RotationSettings.h"
+#include "analysis/TurbulenceScales.h"
 #include "model/Index.h"
 #include "model/Printable.h"
 #include "model/ProbeInformation.h"
@@ -244,7 +244,7 @@ std::string summaryAsJson(const Workspace& workspace, const std::string& version
     const WorkspaceSettings& settings = workspace.settings;
     json["boundaries"] = boundariesAsJson(workspace.boundaries);
     json["samplingVolumes"] = samplingVolumesAsJson(workspace.dataFiles);
-    json["meanVelocity"] = {{"mode", settings.meanVelocityMode}, {"value", settings.userMeanVelocity}};
+    json["meanVelocity"] = {{"mode", asInt(settings.meanVelocity.mode)}, {"value", settings.meanVelocity.value}};
     json["vectors"] = {{"plane", settings.vectors.plane},
                        {"pixels", settings.vectors.pixels},
                        {"speed", settings.vectors.speed},

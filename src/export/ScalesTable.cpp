@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "analysis/MicroScales.h"
+#include "analysis/TurbulenceScales.h"
 #include "model/Text.h"
 
 namespace vorlan {

@@ -217,6 +217,21 @@ struct VectorSettings {
     friend bool operator==(const VectorSettings&, const VectorSettings&) = default;
 };
 
+enum class MeanVelocityMode : std::int32_t { Averaged = 0, User = 1 };
+
+/// The convective velocity of Taylor's hypothesis, which the dialog "Mean Velocity | Parameters" edits.
+struct MeanVelocitySettings {
+    MeanVelocityMode mode = MeanVelocityMode::Averaged;
+    double value = 10.0;  ///< cm/s; the user's, whose range counts in the user's mode only
+
+    template <class Self, class Visit>
+    static void Fields(Self& self, Visit visit) {
+        visit(SettingField{"mode", {}, {{"averaged", 0}, {"user", 1}}}, self.mode);
+        visit(SettingField{"value", {0.005, 1000.0}}, self.value);
+    }
+    friend bool operator==(const MeanVelocitySettings&, const MeanVelocitySettings&) = default;
+};
+
 // Why a dialog may not be accepted; empty when it may.
 
 /// Only values equal to 0 are refused.

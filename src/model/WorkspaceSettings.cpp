@@ -74,8 +74,8 @@ void WorkspaceSettings::Serialize(Archive& archive) {
     }
     serializeAll(archive, quadrants.increment, quadrants.maximum, quadrants.ejectionThreshold, quadrants.sweepThreshold,
                  quadrants.maximumLag, quadrants.stressType);
-    serializeAll(archive, vectors.plane, vectors.pixels, vectors.speed, vectors.smaller, userMeanVelocity,
-                 meanVelocityMode);
+    serializeAll(archive, vectors.plane, vectors.pixels, vectors.speed, vectors.smaller, meanVelocity.value,
+                 meanVelocity.mode);
 }
 
 }  // namespace vorlan

@@ -36,9 +36,8 @@ struct WorkspaceSettings {
     bool lastUnitIsRad = false;  ///< switchD
     QuadrantSettings quadrants;
     VectorSettings vectors;
-    double userMeanVelocity = 10.0;     ///< cm/s
-    std::int32_t meanVelocityMode = 0;  ///< 0 averaged, 1 the user's
-    bool planChosen = false;            ///< not stored: the plane of the plans was chosen since the workspace was read
+    MeanVelocitySettings meanVelocity;
+    bool planChosen = false;  ///< not stored: the plane of the plans was chosen since the workspace was read
 
     /// 56 fields in their stored order. Coded fields out of range keep the value they have.
     void Serialize(Archive& archive);

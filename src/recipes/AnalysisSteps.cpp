@@ -59,22 +59,25 @@ Outcome runQuadrants(StepContext& context, const StepValues& values) {
     return outcome;
 }
 
-constexpr Range kMeanVelocities{MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum};
+Range meanVelocities() {
+    const MeanVelocitySettings usual;
+    return fieldOf(usual, usual.value).range;
+}
 
 Outcome runMeanVelocity(StepContext& context, const StepValues& values) {
-    MeanVelocitySettings settings = context.document.GetMeanVelocity();
-    settings.mode = values.choice("mode");
+    const MeanVelocitySettings before = context.document.Settings().meanVelocity;
+    auto settings = settingsOf<MeanVelocitySettings>(values, before);
     // As in the dialog: what nobody uses is taken when it could be used, else the value stays.
-    if (kMeanVelocities.holds(values.real("value"))) {
-        settings.value = values.real("value");
+    if (!meanVelocities().holds(settings.value)) {
+        settings.value = before.value;
     }
     return context.document.SetMeanVelocity(settings);
 }
 
 std::string faultOfMeanVelocity(const StepValues& values) {
-    constexpr int kUserMode = 1;
-    const bool wrong = values.choice("mode") == kUserMode && !kMeanVelocities.holds(values.real("value"));
-    return wrong ? "\"value\" must be " + rangeText(kMeanVelocities) : "";
+    const auto settings = settingsOf<MeanVelocitySettings>(values);
+    const bool wrong = settings.mode == MeanVelocityMode::User && !meanVelocities().holds(settings.value);
+    return wrong ? "\"value\" must be " + rangeText(meanVelocities()) : "";
 }
 
 }  // namespace
@@ -130,7 +133,7 @@ std::vector<StepKind> analysisSteps() {
          .run = runQuadrants,
          .command = Command::QuadrantsAnalysis},
         {.name = "mean-velocity",
-         .keys = {choiceKey("mode", {"averaged", "user"}, "averaged"), realKey("value", 10.0)},
+         .keys = withoutRange(keysOf<MeanVelocitySettings>(), "value"),
          .run = runMeanVelocity,
          .command = Command::MeanVelocity,
          .faultOfValues = faultOfMeanVelocity,

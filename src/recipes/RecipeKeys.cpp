@@ -104,6 +104,15 @@ KeyRule keyOf(const SettingField& field, double fallback) {
     return key;
 }
 
+std::vector<KeyRule> withoutRange(std::vector<KeyRule> keys, const std::string& name) {
+    for (KeyRule& key : keys) {
+        if (key.name == name) {
+            key.range = Range{};
+        }
+    }
+    return keys;
+}
+
 std::vector<KeyRule> withoutFallback(std::vector<KeyRule> keys, const std::vector<std::string>& names) {
     for (KeyRule& key : keys) {
         if (std::find(names.begin(), names.end(), key.name) != names.end()) {

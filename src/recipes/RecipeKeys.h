@@ -103,6 +103,9 @@ std::vector<KeyRule> keysOf() {
 /// Keys of these names whose absence has a meaning of its own.
 std::vector<KeyRule> withoutFallback(std::vector<KeyRule> keys, const std::vector<std::string>& names);
 
+/// A key of this name whose range is checked elsewhere.
+std::vector<KeyRule> withoutRange(std::vector<KeyRule> keys, const std::string& name);
+
 /// The settings with the values of a step in the place of what they held.
 template <class Settings>
 Settings settingsOf(const StepValues& values, Settings settings = {}) {

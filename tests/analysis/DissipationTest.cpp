@@ -39,8 +39,7 @@ TEST(DissipationRate, FollowsTheFormulas) {
     SAdvProbe probe = probeWithFunctions();
     WorkspaceSettings settings;
     EXPECT_DOUBLE_EQ(convectiveVelocity(probe, settings), std::sqrt(9.0 + 16.0 + 25.0));
-    settings.meanVelocityMode = 1;
-    settings.userMeanVelocity = 23.7;
+    settings.meanVelocity = {MeanVelocityMode::User, 23.7};
     for (const auto& [unit, expected] : {std::pair(0U, 5.302266082006752), std::pair(1U, 0.8438818565400845)}) {
         probe.spectralUnit = unit;
         EXPECT_DOUBLE_EQ(dissipationRate({kSpectrum, 2.5, 0.8}, probe, settings), expected);

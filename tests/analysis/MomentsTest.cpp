@@ -6,8 +6,8 @@
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
 #include "analysis/ProbeMoments.h"
-#include "analysis/SeriesIntegrals.h"
 #include "analysis/Stresses.h"
+#include "analysis/TurbulenceScales.h"
 #include "model/Errors.h"
 
 namespace vorlan::test {

@@ -43,8 +43,7 @@ TEST_F(RunTest, SelectionEndsAsItWasLoadedAndSettingsAsTheStepsLeaveThem) {
     EXPECT_EQ(result.settings.previousItem, 7);
     EXPECT_EQ(result.settings.spectral.lags, 20);
     EXPECT_EQ(result.settings.spectral.truncationMode, 1);
-    EXPECT_EQ(result.settings.meanVelocityMode, 1);
-    EXPECT_EQ(result.settings.userMeanVelocity, 25.0);
+    EXPECT_EQ(result.settings.meanVelocity, (MeanVelocitySettings{MeanVelocityMode::User, 25.0}));
     EXPECT_TRUE(probeOf(result, 0, 0).IsDone(DoneMark::Spectral));
     EXPECT_EQ(probeOf(result, 0, 1), probeOf(workspace, 0, 1));
     EXPECT_TRUE(probeOf(result, 0, 2).IsDone(DoneMark::Spectral));

@@ -23,7 +23,7 @@ class Working {
         if (process_ == 0) {
             RecoveryCopy copy(folder);
             Workspace workspace;
-            workspace.settings.userMeanVelocity = 12.5;
+            workspace.settings.meanVelocity.value = 12.5;
             copy.write(workspace, {});
             copy.write(workspace, original);
             (void)!::write(ready[1], "!", 1);
@@ -60,7 +60,7 @@ TEST(RecoveryCopies, ArePickedUpOnceTheirProgramWasKilled) {
         const auto left = RecoveryCopy::leftBehind(place);
         ASSERT_EQ(left.size(), 1U);
         EXPECT_EQ(left[0].original, folder / "first.avp");
-        EXPECT_EQ(openWorkspace(left[0].copy).settings.userMeanVelocity, 12.5);
+        EXPECT_EQ(openWorkspace(left[0].copy).settings.meanVelocity.value, 12.5);
         EXPECT_TRUE(RecoveryCopy::leftBehind(place).empty()) << "somebody else is asked about it";
     }
     second.kill();

@@ -70,7 +70,7 @@ TEST(Layout, EveryMemberHasItsPlace) {
         SHOWN(d.lags, d.truncationMode, d.unitButton, d.windowButton, d.percent, s.lastTruncationPoint) +
         SHOWN(s.lastWindowCode, s.lastUnitIsRad, q.increment, q.maximum, q.ejectionThreshold) +
         SHOWN(q.sweepThreshold, q.maximumLag, q.stressType, s.vectors.plane, s.vectors.pixels, s.vectors.speed) +
-        SHOWN(s.vectors.smaller, s.userMeanVelocity, s.meanVelocityMode) +
+        SHOWN(s.vectors.smaller, s.meanVelocity.value, s.meanVelocity.mode) +
         SHOWN(file.fileName, file.channelCount, file.headerBlock[0], file.headerBlock[299]) +
         SHOWN(file.channels[7].textA[0], file.channels[7].textB[0], file.channels[7].textC[25]) +
         SHOWN(file.channels[7].flag, file.channels[7].valueC, file.channelWords[7], file.headerPairs[3]) +

@@ -179,7 +179,8 @@ class DialogsHabits : public QObject {
             row("histogram", std::function(fieldsOf<CHistDlg>), HistogramSettings{}),
             row("import", import, offer),
             row("mean velocity", velocity, MeanVelocitySettings{}, std::optional(12.5)),
-            row("user's mean velocity", velocity, MeanVelocitySettings{1, 10.0}, std::optional<double>()),
+            row("user's mean velocity", velocity, MeanVelocitySettings{MeanVelocityMode::User, 10.0},
+                std::optional<double>()),
             row("plot options", plot, logarithmic, std::span<const ScaleType>(kScales)),
             row("quadrants", std::function(fieldsOf<CQuadrDlg>), QuadrantSettings{}),
             row<CRecipeDlg>(

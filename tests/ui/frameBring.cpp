@@ -218,12 +218,12 @@ class FrameBring : public QObject {
         {
             RecoveryCopy crashed(folder.toStdString());
             Workspace workspace = driver.document().GetWorkspace();
-            workspace.settings.userMeanVelocity = 12.5;
+            workspace.settings.meanVelocity.value = 12.5;
             crashed.write(workspace, driver.path("flume.avp").toStdString());
         }
         driver.boxes.recoverAnswer = UserBoxes::RecoverAnswer::Recover;
         QVERIFY(driver.frame->recovery().offer());
-        QCOMPARE(driver.document().Settings().userMeanVelocity, 12.5);
+        QCOMPARE(driver.document().Settings().meanVelocity.value, 12.5);
         QVERIFY(driver.document().IsModified());
         QCOMPARE(QString::fromStdString(driver.document().GetPath().filename()), QStringLiteral("flume.avp"));
         QCOMPARE(copies(), 1);

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "model/Index.h"
 #include "model/Text.h"
 #include "ui/dialogs/FieldLayout.h"
 #include "ui/dialogs/FieldReader.h"
@@ -16,13 +17,13 @@
 namespace vorlan {
 
 namespace {
-constexpr int kUserMode = 1;
+constexpr int kUserMode = asInt(MeanVelocityMode::User);
 }
 
 CMeanVelDlg::CMeanVelDlg(const MeanVelocitySettings& settings, std::optional<double> averaged, QWidget* parent)
     : CParameterDialog(QStringLiteral("Mean Velocity | Parameters"), parent), values_(settings) {
     mode_ = radioButtons({QStringLiteral("&Averaged Flow Velocity   ="), QStringLiteral("&Defined by the User [cm/s]")},
-                         settings.mode, this);
+                         asInt(settings.mode), this);
     auto* box = new QGroupBox(QStringLiteral("Convective velocity"), this);
     auto* average = new QLabel(box);
     if (averaged.has_value()) {
@@ -30,10 +31,9 @@ CMeanVelDlg::CMeanVelDlg(const MeanVelocitySettings& settings, std::optional<dou
     }
     value_ = new NumberField(box);
     value_->setNumber(settings.value);
-    value_->setEnabled(settings.mode == kUserMode);
+    value_->setEnabled(settings.mode == MeanVelocityMode::User);
     box->setToolTip(fieldTip("Velocity that carries the turbulence past the probe, by which times become lengths"));
-    value_->setToolTip(
-        fieldTip("Convective velocity", "cm/s", {MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum}));
+    value_->setToolTip(fieldTip("Convective velocity", "cm/s", fieldOf(settings, settings.value).range));
     auto* grid = new QGridLayout(box);
     grid->addWidget(mode_->button(0), 0, 0);
     grid->addWidget(average, 0, 1);
@@ -46,8 +46,9 @@ CMeanVelDlg::CMeanVelDlg(const MeanVelocitySettings& settings, std::optional<dou
 
 bool CMeanVelDlg::takeFields(FieldReader& reader) {
     MeanVelocitySettings read = values_;
-    read.mode = chosen(mode_, values_.mode);
-    if (!reader.number(value_, read.value, MeanVelocitySettings::kMinimum, MeanVelocitySettings::kMaximum).good()) {
+    read.mode = static_cast<MeanVelocityMode>(chosen(mode_, asInt(values_.mode)));
+    const Range range = fieldOf(values_, values_.value).range;
+    if (!reader.number(value_, read.value, range.minimum, range.maximum).good()) {
         return false;
     }
     values_ = read;

@@ -137,7 +137,8 @@ void UserCommands::dispatch(Command command) {
             ask<CVectorsDlg>(&CVorl_ADVDoc::VectorsOfMeanVelocities, shownVectors(document_.GetWorkspace()));
             return;
         case Command::MeanVelocity:
-            ask<CMeanVelDlg>(&CVorl_ADVDoc::SetMeanVelocity, document_.GetMeanVelocity(), document_.AveragedVelocity());
+            ask<CMeanVelDlg>(&CVorl_ADVDoc::SetMeanVelocity, document_.Settings().meanVelocity,
+                             document_.AveragedVelocity());
             return;
         case Command::GridEditor:
             return editGrid();
