@@ -179,7 +179,7 @@ void paint(const PaneRequest& request, const PaneContent& content, Choices& choi
 
 }  // namespace
 
-void FuzzPort::breathe() {
+void FuzzPort::pump() {
     if (++breaths_ > kLongestRun) {
         throw Cancelled();
     }

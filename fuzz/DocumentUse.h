@@ -14,7 +14,7 @@ class FuzzPort : public SilentPort {
     bool confirm(Question) override { return answer; }
     bool accept(const std::string&) override { return answer; }
     void beginRun(Calculation) override { breaths_ = 0; }
-    void breathe() override;
+    void pump() override;
 
     bool answer = true;
 

@@ -31,7 +31,7 @@ class QuietPort : public vorlan::RecipePort {
     void endRun() override {}
     void status(const std::string&) override {}
     void position(int) override {}
-    void breathe() override {}
+    void pump() override {}
 
   private:
     void say(const std::string&) override {}

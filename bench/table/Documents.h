@@ -20,7 +20,7 @@ class GapPort : public vorlan::SilentPort {
         note();
         running_ = false;
     }
-    void breathe() override {
+    void pump() override {
         note();
         ++breaths_;
     }

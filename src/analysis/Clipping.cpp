@@ -77,7 +77,7 @@ void enterZoomMode(SAdvProbe& probe) {
 
 void resetProbe(SAdvProbe& probe, Progress& progress) {
     probe.Reset();
-    progress.breathe();
+    progress.pump();
     formStresses(probe, StressResolution::SamePosition, progress);
     probe.zoomMode = 0;
     setRecordTitle(probe, "Sampled Velocities");

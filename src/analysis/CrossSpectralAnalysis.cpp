@@ -43,7 +43,7 @@ void computeCovariances(SAdvProbe& probe, int lags, Progress& progress) {
     std::array<std::vector<double>, SAdvProbe::kComponents> fluctuations;
     for (std::size_t c = 0; c < fluctuations.size(); ++c) {
         fluctuations[c] = workingFluctuation(probe, asInt(c));
-        progress.breathe();
+        progress.pump();
     }
     Functions forward;
     Functions backward;
@@ -98,12 +98,12 @@ std::string analyseCrossSpectra(SAdvProbe& probe, Progress& progress) {
         return kTruncationTooLarge;
     }
     progress.status(kCrossSpectralStatus);
-    progress.breathe();
+    progress.pump();
     for (SMultiArray* table : {&probe.CrossForward(), &probe.CrossBackward(), &probe.CoSpectra(),
                                &probe.QuadratureSpectra(), &probe.Phase(), &probe.Coherence()}) {
         table->RemoveAll();
     }
-    progress.breathe();
+    progress.pump();
 
     progress.position(5);
     prepareStresses(probe, progress);

@@ -80,10 +80,10 @@ int visitSuspects(int samples, Progress& progress, Suspect suspect, Visit visit)
             }
         }
         if (++parts % kPartsPerBreath == 0) {
-            progress.breathe();
+            progress.pump();
         }
     }
-    progress.breathe();
+    progress.pump();
     return std::max(samples - 2, 0);
 }
 

@@ -74,11 +74,11 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         SArray& column = velocities.ElementAt(component);
         const std::vector<double> samples = column.Values();
-        progress.breathe();
+        progress.pump();
         const std::vector<double> outputs = filtered(samples, weights, settings.type, progress);
-        progress.breathe();
+        progress.pump();
         column.StoreValues(outputs);
-        progress.breathe();
+        progress.pump();
     }
 }
 

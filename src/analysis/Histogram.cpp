@@ -101,7 +101,7 @@ std::string analyseDistributions(SAdvProbe& probe, const HistogramSettings& sett
         columnMoments({ColumnSamples::of(probe.seriesU.values), ColumnSamples::of(probe.seriesV.values),
                        ColumnSamples::of(probe.seriesW.values)},
                       progress);
-    progress.breathe();
+    progress.pump();
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
         series.moments = moments[asSize(component)];
@@ -111,7 +111,7 @@ std::string analyseDistributions(SAdvProbe& probe, const HistogramSettings& sett
             }
             computeHistogram(series, settings.grades);
         }
-        progress.breathe();
+        progress.pump();
     }
     probe.SetDone(DoneMark::Histograms);
     return {};

@@ -35,7 +35,7 @@ void inPieces(const ThreeColumns& columns, const std::array<double, 3>& means, P
             summed[c] = {columns[c].units.data() + first, columns[c].scale, means[c]};
         }
         sum(summed.data(), std::min(kPiece, common - first));
-        progress.breathe();
+        progress.pump();
     }
 }
 

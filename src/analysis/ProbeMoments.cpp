@@ -42,7 +42,7 @@ void computeProbeMoments(SAdvProbe& probe, Progress& progress) {
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         probe.SetVelocityMoments(component, moments[asSize(component)]);
     }
-    progress.breathe();
+    progress.pump();
 }
 
 }  // namespace vorlan

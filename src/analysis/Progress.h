@@ -24,7 +24,7 @@ class Progress {
     virtual void done(double) {}
     /// Called between blocks of work (at least after each lag or frequency of a plain loop). Throws Cancelled when
     /// the run is not wanted any more.
-    virtual void breathe() = 0;
+    virtual void pump() = 0;
 };
 
 /// Tells nobody, runs to the end.
@@ -32,7 +32,7 @@ class NoProgress : public Progress {
   public:
     void status(const std::string&) override {}
     void position(int) override {}
-    void breathe() override {}
+    void pump() override {}
 };
 
 /// For callers that nobody waits for. It holds no state.

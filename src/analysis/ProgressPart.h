@@ -12,7 +12,7 @@ class ProgressPart : public Progress {
     void status(const std::string& text) override { whole_.status(text); }
     void position(int percent) override { whole_.position(percent); }
     void done(double share) override { whole_.done(from_ + (to_ - from_) * share); }
-    void breathe() override { whole_.breathe(); }
+    void pump() override { whole_.pump(); }
 
   private:
     Progress& whole_;

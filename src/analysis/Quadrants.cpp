@@ -44,15 +44,15 @@ PairRecord pairRecord(const SAdvProbe& probe, int type, Progress& progress) {
     const StressPair& pair = kStressPairComponents[asSize(type)];
     PairRecord record;
     record.a = workingFluctuation(probe, pair.first);
-    progress.breathe();
+    progress.pump();
     record.b = workingFluctuation(probe, pair.second);
-    progress.breathe();
+    progress.pump();
     record.r = probe.Stresses().GetAt(type).Values();
     record.meanStress = probe.statistics[SAdvProbe::kMeanStresses + asSize(type)];
     for (double& r : record.r) {
         r /= record.meanStress;
     }
-    progress.breathe();
+    progress.pump();
     return record;
 }
 
@@ -113,14 +113,14 @@ void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSet
     std::vector<std::size_t> sweeps;
     if (record.meanStress < 0.0) {
         ejections = eventsOf(record, 1, settings.ejectionThreshold);
-        progress.breathe();
+        progress.pump();
         sweeps = eventsOf(record, 3, settings.sweepThreshold);
     } else if (record.meanStress > 0.0) {
         ejections = eventsOf(record, 0, settings.ejectionThreshold);
-        progress.breathe();
+        progress.pump();
         sweeps = eventsOf(record, 2, settings.sweepThreshold);
     }
-    progress.breathe();
+    progress.pump();
     storePattern(probe.EjectionPattern(), ejections, record, deviations, lag, progress);
     storePattern(probe.SweepPattern(), sweeps, record, deviations, lag, progress);
 }
@@ -160,7 +160,7 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
     const int sizes = *holes;
     const int lag = *lags;
     progress.status(kQuadrantStatus);
-    progress.breathe();
+    progress.pump();
 
     prepareStresses(probe, progress);
     const PairRecord record = pairRecord(probe, settings.stressType, progress);
@@ -170,7 +170,7 @@ std::string analyseQuadrants(SAdvProbe& probe, const QuadrantSettings& settings,
         storeShares(probe, sweepHoles(record.r, record.a, record.b, settings.increment, sizes, kShareResolution),
                     sizes);
     }
-    progress.breathe();
+    progress.pump();
     storePatterns(probe, record, settings, lag, progress);
 
     probe.quadrantStress = static_cast<std::uint32_t>(settings.stressType);

@@ -115,7 +115,7 @@ void rotateColumns(SArray& first, SArray& second, int samples, double angle, Pro
     const PairTurn turn(first.GetScale(), second.GetScale(), angle);
     for (std::size_t at = 0, parts = 0; at < count; at += kPart, ++parts) {
         if (parts % kPartsPerBreath == 0) {
-            progress.breathe();
+            progress.pump();
         }
         const std::size_t part = std::min(kPart, count - at);
         turn.turn(x.subspan(at, part), y.subspan(at, part));

@@ -67,12 +67,12 @@ std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& p
         series.unitSelector = static_cast<std::uint32_t>(run.unitSelector);
 
         const std::vector<double> samples = series.values.Values();
-        progress.breathe();
+        progress.pump();
         series.moments = momentsOf(samples);
-        progress.breathe();
+        progress.pump();
         const std::vector<double> deviations = deviationsFrom(samples, series.moments.mean);
         advance(5);
-        progress.breathe();
+        progress.pump();
 
         ProgressPart covariances = part(10);
         storeColumn(series.correlation, kCovarianceResolution, autocovariance(deviations, run.lags, covariances));

@@ -53,7 +53,7 @@ void computeFixedBands(STimeSeries& series, std::span<const double> values, std:
     const std::size_t length = values.size() / bands;
     const auto compute = [&](std::size_t band, std::size_t first) {
         computeBand(series, asInt(band), values.subspan(first, length));
-        progress.breathe();
+        progress.pump();
     };
     for (std::size_t k = 0; k + 2 < bands; ++k) {
         compute(k, k * length);
@@ -97,7 +97,7 @@ void computeCumulativeBands(STimeSeries& series, std::span<const double> values,
                                static_cast<double>((first + b + 1) * length));
         }
     }
-    progress.breathe();
+    progress.pump();
 }
 
 }  // namespace
@@ -111,7 +111,7 @@ void computeBands(STimeSeries& series, BandMode mode, int bands, Progress& progr
     }
     series.bands = static_cast<std::uint32_t>(bands);
     const std::vector<double> values = series.values.Values();
-    progress.breathe();
+    progress.pump();
     const auto count = asSize(bands);
     if (mode == BandMode::Cumulative) {
         computeCumulativeBands(series, values, count, progress);

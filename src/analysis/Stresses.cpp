@@ -43,7 +43,7 @@ void storeProducts(SMultiArray& stresses, const ThreeColumns& columns, const std
     constexpr std::size_t kPartsPerBreath = 64;
     for (std::size_t first = 0; first < samples; first += kPart) {
         if (first / kPart % kPartsPerBreath == 0) {
-            progress.breathe();
+            progress.pump();
         }
         const std::size_t count = std::min(kPart, samples - first);
         const auto part = [&](std::size_t c) {
@@ -63,7 +63,7 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
     const ThreeColumns columns = workingVelocities(probe);
     const std::array<double, 3> means = columnMeans(columns, progress);
     std::copy(means.begin(), means.end(), probe.scalarResults.begin() + SAdvProbe::kFluctuationMeans);
-    progress.breathe();
+    progress.pump();
 
     const SMultiArray& velocities = probe.Velocities();
     SMultiArray& stresses = probe.Stresses();
@@ -73,7 +73,7 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
         stresses.ElementAt(pair).SetScale(velocities.GetAt(lender).GetScale());
     }
     storeProducts(stresses, columns, means, progress);
-    progress.breathe();
+    progress.pump();
 
     // The moments are those of the stored products, of the samples that count.
     std::array<SArray, 3> counted = countedColumns(probe, {&stresses.GetAt(0), &stresses.GetAt(1), &stresses.GetAt(2)});
@@ -87,12 +87,12 @@ void formStresses(SAdvProbe& probe, StressResolution resolution, Progress& progr
         probe.SetStressMoments(pair, series.moments);
     }
     probe.stressesFormed = 1;
-    progress.breathe();
+    progress.pump();
 }
 
 void computeStressStatistics(SAdvProbe& probe, Progress& progress) {
     const std::array<Moments, 3> velocities = columnMoments(workingVelocities(probe), progress);
-    progress.breathe();
+    progress.pump();
     const SMultiArray& stresses = probe.Stresses();
     const std::array<double, 3> means =
         columnMeans({ColumnSamples::of(stresses.GetAt(0)), ColumnSamples::of(stresses.GetAt(1)),
@@ -102,7 +102,7 @@ void computeStressStatistics(SAdvProbe& probe, Progress& progress) {
         probe.statistics[SAdvProbe::kVelocityVariances + c] = velocities[c].variance;
         probe.statistics[SAdvProbe::kMeanStresses + c] = means[c];
     }
-    progress.breathe();
+    progress.pump();
 }
 
 std::vector<double> workingFluctuation(const SAdvProbe& probe, int component) {

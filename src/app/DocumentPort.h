@@ -33,7 +33,7 @@ enum class Calculation {
 const char* nameOf(Calculation calculation);
 
 /// How the document speaks with whoever uses it: the window with boxes and a status bar, the command line with its
-/// options and standard error, a test with a record of what was asked. A run is cancelled by breathe().
+/// options and standard error, a test with a record of what was asked. A run is cancelled by pump().
 class DocumentPort : public Progress {
   public:
     /// True for OK.
@@ -63,7 +63,7 @@ class SilentPort : public DocumentPort {
     void endRun() override {}
     void status(const std::string&) override {}
     void position(int) override {}
-    void breathe() override {}
+    void pump() override {}
 };
 
 }  // namespace vorlan

@@ -35,7 +35,7 @@ void ConsolePort::position(int percent) {
     }
 }
 
-void ConsolePort::breathe() {
+void ConsolePort::pump() {
     if (stopped()) {
         throw Cancelled();
     }

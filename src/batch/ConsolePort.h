@@ -23,7 +23,7 @@ class ConsolePort : public RecipePort {
     void endRun() override;
     void status(const std::string& text) override;
     void position(int percent) override;
-    void breathe() override;
+    void pump() override;
 
   private:
     void say(const std::string& line) override;

@@ -29,7 +29,7 @@ class RecordingPort : public DocumentPort {
     void endRun() override { ++ends; }
     void status(const std::string& text) override { statuses.push_back(text); }
     void position(int percent) override { positions.push_back(percent); }
-    void breathe() override {
+    void pump() override {
         if (pumpsLeft >= 0 && pumpsLeft-- == 0) {
             throw Cancelled();
         }

@@ -59,7 +59,7 @@ TEST_F(Commands, CancellingStoresNothingAnywhereInTheRun) {
 TEST_F(Commands, NothingStartsDuringARun) {
     class Nosy : public RecordingPort {
       public:
-        void breathe() override {
+        void pump() override {
             state = commandState(*document, Command::SimulateTimeSeries).enabled ||
                     commandState(*document, Command::NewWorkspace).enabled;
             inner = document->ResetTimeSeries();

@@ -7,7 +7,7 @@
 
 namespace vorlan {
 
-/// Lets the progress breathe once per some millions of terms: about every millisecond, whatever the block sizes. It
+/// Pumps the progress once per some millions of terms: about every millisecond, whatever the block sizes. It
 /// tells the share that is done when it knows how many terms there are, about.
 class Pacer {
   public:
@@ -21,7 +21,7 @@ class Pacer {
             if (allTerms_ > 0.0) {
                 progress_.done(std::min(workedBefore_ / allTerms_, 1.0));
             }
-            progress_.breathe();
+            progress_.pump();
         }
     }
 

@@ -7,7 +7,7 @@
 namespace vorlan {
 
 namespace {
-// Steps per call: long series let the progress breathe within one block of lags.
+// Steps per call: long series pump within one block of lags.
 constexpr std::size_t kSteps = std::size_t{1} << 16;
 }  // namespace
 
@@ -17,11 +17,11 @@ std::vector<double> slidingProducts(std::span<const double> x, std::span<const d
     // A register may start at the last x; a block's later lags start before the first y and end behind the last.
     std::vector<double> paddedX(x.size() + kernels.lanes, 0.0);
     std::copy(x.begin(), x.end(), paddedX.begin());
-    progress.breathe();
+    progress.pump();
     std::vector<double> paddedY(y.size() + 2 * block, 0.0);
     std::copy(y.begin(), y.end(), paddedY.begin() + static_cast<std::ptrdiff_t>(block));
 
-    progress.breathe();
+    progress.pump();
 
     std::vector<double> result(lags);
     std::vector<double> sums(block);
@@ -38,7 +38,7 @@ std::vector<double> slidingProducts(std::span<const double> x, std::span<const d
         }
         std::copy_n(sums.begin(), count, result.begin() + static_cast<std::ptrdiff_t>(first));
     }
-    progress.breathe();
+    progress.pump();
     return result;
 }
 

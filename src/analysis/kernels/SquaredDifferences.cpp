@@ -26,7 +26,7 @@ std::vector<double> squaredDifferences(std::span<const double> values, std::size
         }
         std::copy_n(sums.begin(), count, result.begin() + static_cast<std::ptrdiff_t>(first));
     }
-    progress.breathe();
+    progress.pump();
     return result;
 }
 

@@ -65,7 +65,7 @@ Series trigonometricSums(std::span<const std::vector<double>> terms, const Phase
             pacer.worked(shared * count * kFrequencyBlock);
         }
     }
-    progress.breathe();
+    progress.pump();
     return result;
 }
 

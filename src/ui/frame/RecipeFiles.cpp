@@ -34,9 +34,9 @@ class WindowRecipePort : public RecipePort {
     void endRun() override {}
     void status(const std::string& text) override { window_.status(text); }
     void position(int percent) override { window_.position(percent); }
-    void breathe() override {
+    void pump() override {
         try {
-            window_.breathe();
+            window_.pump();
         } catch (const Cancelled&) {
             stopped_ = true;
             throw;

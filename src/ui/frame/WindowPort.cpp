@@ -113,7 +113,7 @@ void WindowPort::done(double share) {
     position(static_cast<int>(share * 100.0));
 }
 
-void WindowPort::breathe() {
+void WindowPort::pump() {
     if (sinceEvents_.elapsed() >= kMillisecondsBetweenEvents) {
         QCoreApplication::processEvents();
         sinceEvents_.restart();

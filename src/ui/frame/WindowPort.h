@@ -40,7 +40,7 @@ class WindowPort : public QObject, public DocumentPort {
     void status(const std::string& text) override;
     void position(int percent) override;
     void done(double share) override;
-    void breathe() override;
+    void pump() override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
