@@ -274,7 +274,7 @@ void giveCommand(CVorl_ADVDoc& document, FuzzPort& port, Choices& choices) {
             return;
         }
         case 21:
-            document.SetMeanVelocity({choices.code<int>(2), choices.real()});
+            document.SetMeanVelocity({choices.code<MeanVelocityMode>(2), choices.real()});
             return;
         case 22:
             if (const int group = choices.below(8); group == 7) {

@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "DocumentUse.h"
+#include "plot/ToolkitPictures.h"
 #include "recipes/Recipe.h"
 #include "recipes/RecipePort.h"
 #include "recipes/RunError.h"
@@ -47,7 +48,7 @@ void run(const vorlan::Recipe& recipe) {
     document.AppendFile(record);
     document.SelectProbe(0);
     PendingOutputs outputs;
-    Renderer renderer;
+    Renderer renderer(toolkitPictures);
     GridEditor grid(document);
     StepContext context{document, port, outputs, renderer, "in.avp", {}, grid};
     for (const RecipeStep& step : recipe.steps) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/Index.h"
 #include "plot/NiceNumbers.h"
 
 namespace vorlan {
@@ -28,7 +27,7 @@ double usable(double limit) {
 
 int countedMarks(const AxisLimits& limits) {
     const double n = std::fabs(limits.upper - limits.lower) / std::fabs(limits.step) * (1.0 + kIntervalTolerance);
-    return n >= 1.0 ? asInt(std::min<double>(n, kMostMarks)) : 1;
+    return n >= 1.0 ? static_cast<int>(std::min<double>(n, kMostMarks)) : 1;
 }
 
 double magnitude(const AxisLimits& limits) {
@@ -131,11 +130,11 @@ AxisLimits logarithmicLimits(const AxisRule& rule, const DataInterval& data, int
         last = std::round(last);
         limits.lower = std::pow(10.0, first);
         limits.upper = std::pow(10.0, last);
-        limits.marks = asInt(last - first);
+        limits.marks = static_cast<int>(last - first);
     } else {
         limits.lower = lowerGiven ? rule.lower : std::pow(10.0, first);
         limits.upper = upperGiven && rule.upper != rule.lower ? rule.upper : std::pow(10.0, last);
-        limits.marks = std::max(asInt(std::fabs(last - first)), 1);
+        limits.marks = std::max(static_cast<int>(std::fabs(last - first)), 1);
     }
     limits.step = 1.0;
     return limits;

@@ -83,7 +83,7 @@ void paintBar(QPainter& painter, const SeriesAtrType& attributes, const Box& box
         return;
     }
     const QColor colour = colourOf(attributes.colour);
-    const auto lighter = [](int part) { return asInt(part + (255 - part) * kBarTint); };
+    const auto lighter = [](int part) { return static_cast<int>(part + (255 - part) * kBarTint); };
     const QColor tint(lighter(colour.red()), lighter(colour.green()), lighter(colour.blue()));
     const int border = scaledSize(attributes.penWidth, kLargestPen, lengthScale);
     const QRect rect(box.left, box.top, box.width(), box.height());

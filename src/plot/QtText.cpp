@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/Index.h"
 #include "model/Printable.h"
 #include "model/Text.h"
 
@@ -62,7 +61,7 @@ QFont fittedFont(const QString& text, const QSize& room, QFont font, const QPain
         return size.width() <= room.width() && size.height() <= room.height();
     };
     while (font.pixelSize() > 1 && !fits()) {
-        font.setPixelSize(asInt(font.pixelSize() * kSmaller));
+        font.setPixelSize(static_cast<int>(font.pixelSize() * kSmaller));
     }
     return font;
 }

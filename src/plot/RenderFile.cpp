@@ -8,7 +8,6 @@
 #include <QSvgGenerator>
 #include <cmath>
 
-#include "model/Index.h"
 #include "model/Printable.h"
 #include "plot/PaintPane.h"
 #include "plot/PdfFile.h"
@@ -18,7 +17,7 @@ namespace vorlan {
 namespace {
 
 constexpr int kGap = 6;
-constexpr auto kPixelsPerInch = asInt(kScreenDpi);
+constexpr auto kPixelsPerInch = static_cast<int>(kScreenDpi);
 constexpr double kMetresPerInch = 0.0254;
 // What stands in for the usual face where it is not installed.
 constexpr char kUsualFaces[] = "Arial, 'Liberation Sans', Helvetica, sans-serif";

@@ -6,7 +6,6 @@
 
 #include "model/Archive.h"
 #include "model/FrameAttributes.h"
-#include "model/Index.h"
 #include "model/PixelScale.h"
 #include "model/Text.h"
 
@@ -19,7 +18,7 @@ constexpr int kMostDigits = 12;
 constexpr double kEndTolerance = 1e-9;  // decades
 
 int decadeOffset(int k, int pixelsPerDecade) {
-    return asInt(std::log10(static_cast<double>(k)) * pixelsPerDecade);
+    return static_cast<int>(std::log10(static_cast<double>(k)) * pixelsPerDecade);
 }
 
 int exponentOf(double decade) {
@@ -79,7 +78,7 @@ bool SAxis::carriesLabels() const {
 }
 
 void SAxis::recomputeMarks() {
-    markCount = std::max(1, asInt(std::fabs(maximum - minimum) / std::fabs(markStep)));
+    markCount = std::max(1, static_cast<int>(std::fabs(maximum - minimum) / std::fabs(markStep)));
     pixelsPerMark = length / markCount;
 }
 

@@ -107,7 +107,7 @@ NamedStep stepOf(const QuadrantSettings& settings) {
 
 NamedStep stepOf(const MeanVelocitySettings& settings) {
     NamedStep step{"mean-velocity", {}};
-    step.values.set("mode", settings.mode);
+    step.values.set("mode", asInt(settings.mode));
     step.values.set("value", settings.value);
     return step;
 }

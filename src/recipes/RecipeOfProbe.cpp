@@ -67,6 +67,10 @@ std::string valueText(const KeyRule& key, const StepValues& values) {
             return bracketed(values.pair(key.name), realText);
         case KeyType::Choices:
             return bracketed(values.choices(key.name), word);
+        case KeyType::RealOrAuto: {
+            const std::optional<double> real = values.realOrAuto(key.name);
+            return real ? realText(*real) : quoted("auto");
+        }
     }
     return {};
 }

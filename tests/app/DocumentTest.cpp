@@ -76,7 +76,7 @@ TEST(Document, IsLedThroughASession) {
     for (const int tab : {1, 2, 3, 4, 5, 0, 9}) {
         session.after(formatted("tab %d", tab), [tab](Doc& d) { d.SelectStage(tab); });
     }
-    session.after("the user's mean velocity", [](Doc& d) { d.SetMeanVelocity({1, 25.0}); });
+    session.after("the user's mean velocity", [](Doc& d) { d.SetMeanVelocity({MeanVelocityMode::User, 25.0}); });
     session.after("filter", [](Doc& d) {
         FilterSettings settings;
         settings.halfWidth = 1.0;

@@ -152,7 +152,7 @@ TEST_F(Commands, EachSaysHowItEnded) {
     document.Undo();
     document.Redo();
     document.SetFrame(0, 0, frame);
-    document.SetMeanVelocity({1, 12.5});
+    document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
     document.SetPage(Stage::Spectral, document.GetWorkspace().pages.GetAt(3));
     document.Clip(-1.0, 2.0);
     port.pumpsLeft = 0;
@@ -186,11 +186,11 @@ TEST_F(Commands, EachSaysHowItEnded) {
 
 TEST_F(Commands, WhatChangesNothingIsNoModification) {
     const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "same.avp";
-    document.SetMeanVelocity({1, 12.5});
+    document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
     document.Distributions({});
     document.SaveWorkspace(path);
     document.SelectStage(0);
-    document.SetMeanVelocity({1, 12.5});
+    document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
     document.Distributions({});
     document.SetFrame(0, 1, frameOrDefault(document.Probe(), 0, 1));
     document.PlaceProbe(0, 0, {});

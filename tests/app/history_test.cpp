@@ -57,7 +57,7 @@ void doSomething(CVorl_ADVDoc& document, RecordingPort& port, std::mt19937& rand
             document.SpectralAnalysis(lagsOf(10 + pick(200)));
             return;
         case 14:
-            document.SetMeanVelocity({1, 1.0 + pick(9)});
+            document.SetMeanVelocity({MeanVelocityMode::User, 1.0 + pick(9)});
             return;
         case 15:
             document.VectorsOfMeanVelocities({pick(3), 10 + pick(9), 5.0, 2.0});
@@ -125,7 +125,7 @@ TEST(History, TheModifiedMarkFollowsTheSavedState) {
     EXPECT_STREQ(document.RedoName(), "Clipping");
     document.Undo();
     EXPECT_TRUE(document.IsModified()) << "in front of what was saved";
-    document.SetMeanVelocity({1, 5.0});
+    document.SetMeanVelocity({MeanVelocityMode::User, 5.0});
     EXPECT_TRUE(document.IsModified()) << "beside it, for good";
     EXPECT_EQ(document.Redo(), Outcome::Refused);
     document.OpenWorkspace(path);

@@ -67,7 +67,7 @@ class User {
                     document_.QuadrantsAnalysis({0.1 + 0.1 * pick(9), 5.0, 1.0, 2.0, 2.0 + pick(2), pick(3)});
                 });
             case 12:
-                document_.SetMeanVelocity({pick(2), 1.0 + pick(90) / 7.0});
+                document_.SetMeanVelocity({static_cast<MeanVelocityMode>(pick(2)), 1.0 + pick(90) / 7.0});
                 return;
             case 13:
                 document_.VectorsOfMeanVelocities({pick(3), 10 + pick(9), 5.0, 2.0});

@@ -175,6 +175,8 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// The pair belongs together; the compiler sees one half of it where it inlines the other.
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
