@@ -162,7 +162,11 @@ void CMainFrame::connectWidgets() {
     qApp->installEventFilter(new DialogHelp(this));
     document_.SetListener([this](Change change) { documentChanged(change); });
     port_.setRunListener([this](bool running) { runStateChanged(running); });
-    port_.setReportListener([this](const QString& text) { showReport(text); });
+    port_.setReportListener([this](const QString& text) {
+        QStringList parts{text, std::exchange(resultsGrownOld_, QString())};
+        parts.removeAll(QString());
+        showReport(parts.join(QStringLiteral("   ")));
+    });
     connect(actions_, &CommandActions::triggered, this, &CMainFrame::runCommand);
     connect(actions_, &CommandActions::recentChosen, &files_, &WorkspaceFiles::openRecent);
     connect(&files_, &WorkspaceFiles::recentListChanged, this,
@@ -220,15 +224,13 @@ void CMainFrame::documentChanged(Change change) {
     resultsGrownOld_ = old != oldResults_ ? QString::fromStdString(old) : QString();
     oldResults_ = std::move(old);
     if (change != Change::View) {
-        showReport({});
+        showReport(resultsGrownOld_);
     }
     recovery_.keep();
 }
 
 void CMainFrame::showReport(const QString& text) {
-    QStringList parts{text, resultsGrownOld_};
-    parts.removeAll(QString());
-    report_ = parts.join(QStringLiteral("   "));
+    report_ = text;
     showRest();
 }
 
@@ -315,7 +317,9 @@ std::optional<SampleAxis> CMainFrame::clippedRecord() const {
 }
 
 void CMainFrame::showDraggedInterval(Pane pane, double from, double to) {
-    statusPane_->setText(QString::fromStdString(dragReadOut(document_.CurrentStage(), pane, from, to)));
+    if (!document_.IsRunning()) {
+        statusPane_->setText(QString::fromStdString(dragReadOut(document_.CurrentStage(), pane, from, to)));
+    }
 }
 
 void CMainFrame::clipToInterval(Pane, double from, double to) {
@@ -326,6 +330,7 @@ void CMainFrame::clipToInterval(Pane, double from, double to) {
 
 void CMainFrame::showPaneMenu(Pane pane, QPoint globalPosition) {
     QMenu menu(this);
+    menu.setToolTipsVisible(true);
     for (const Command command : {Command::BitmapCopy, Command::Print, Command::PlotFrameOptions}) {
         menu.addAction(actions_->of(command));
     }

@@ -143,6 +143,9 @@ void CVorl_ADVView::chooseInterval() {
 }
 
 bool CVorl_ADVView::keyOfInterval(const QKeyEvent& event) {
+    if (record_ && !geometry_) {
+        repaint();  // nobody has seen yet where the diagram stands
+    }
     if (!record_ || !geometry_) {
         return false;
     }
