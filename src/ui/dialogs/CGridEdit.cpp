@@ -49,7 +49,7 @@ void fill(QComboBox* list, const QStringList& texts, int current) {
     list->setEnabled(!texts.isEmpty());
 }
 
-QComboBox* newList(QWidget* parent, const QString& toolTip) {
+NameSelector* newList(QWidget* parent, const QString& toolTip) {
     constexpr int kCharacters = 22;
     auto* list = new NameSelector(toolTip, parent);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -316,7 +316,7 @@ void CGridEdit::refreshLists() {
         boundaries.append(QString::fromStdString(text));
     }
     fill(boundaries_, boundaries, editor_.boundary());
-    boundaries_->setToolTip(editor_.boundary() < 0 ? QString() : toText(editor_.boundaryPath()));
+    boundaries_->setWholeName(editor_.boundary() < 0 ? QString() : toText(editor_.boundaryPath()));
     QStringList files;
     QStringList probes;
     const SAdvFilesArray& dataFiles = document_.GetWorkspace().dataFiles.files;

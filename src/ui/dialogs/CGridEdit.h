@@ -18,6 +18,7 @@ class QVBoxLayout;
 namespace vorlan {
 
 class GridPreviewWidget;
+class NameSelector;
 class NumberField;
 
 /// How the editor asks for files: the chosen path, empty when the user cancels. proposed is a file, or a folder to
@@ -80,7 +81,7 @@ class CGridEdit : public QDialog {
     MessageFunction show_ = showDialogMessage;
     bool taking_ = false;
 
-    QComboBox* boundaries_ = nullptr;
+    NameSelector* boundaries_ = nullptr;
     QSpinBox* node_ = nullptr;
     PositionFields nodePosition_;
     QPushButton* save_ = nullptr;

@@ -15,7 +15,8 @@ NameSelector::NameSelector(const QString& purpose, QWidget* parent) : QComboBox(
 
 bool NameSelector::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        setToolTip(currentText().isEmpty() ? purpose_ : QStringLiteral("%1: %2").arg(purpose_, currentText()));
+        const QString name = wholeName_.isEmpty() ? currentText() : wholeName_;
+        setToolTip(name.isEmpty() ? purpose_ : QStringLiteral("%1: %2").arg(purpose_, name));
     }
     return QComboBox::event(event);
 }

@@ -10,12 +10,16 @@ class NameSelector : public QComboBox {
   public:
     NameSelector(const QString& purpose, QWidget* parent);
 
+    /// What the tip says in the place of the name; empty for the name.
+    void setWholeName(const QString& name) { wholeName_ = name; }
+
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     QString purpose_;
+    QString wholeName_;
 };
 
 }  // namespace vorlan
