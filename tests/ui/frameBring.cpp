@@ -15,6 +15,7 @@
 #include "ui/dialogs/CFilterDlg.h"
 #include "ui/frame/ManualPages.h"
 #include "ui/frame/ManualWindow.h"
+#include "ui/frame/PlainFormulas.h"
 
 using namespace vorlan;
 
@@ -207,6 +208,21 @@ class FrameBring : public QObject {
         for (int stage = 0; stage < kStageCount; ++stage) {
             QVERIFY(QFile::exists(ManualWindow::folder() + QLatin1Char('/') + manualPageOf(static_cast<Stage>(stage))));
         }
+    }
+
+    void formulasAreWrittenInLetters() {
+        const std::pair<const char*, const char*> rows[] = {
+            {R"(R_k = \frac{1}{N-k}\sum_{j=0}^{N-k-1} d_{j+k}\, d_j)", "Rₖ = 1/(N-k)Σ_(j=0)^(N-k-1) dⱼ₊ₖ dⱼ"},
+            {R"(S_i = 2\,(R_0 + 2 s_i)\,\Delta t \;\text{ in (cm/s)²/Hz})", "Sᵢ = 2 (R₀ + 2 sᵢ) Δ t   in (cm/s)²/Hz"},
+            {R"(\sqrt{\bar{u}^2}, \tfrac{1}{2}, 360^\circ)", "√ū², 1/2, 360°"},
+            {R"(a_{)", "a"},
+        };
+        for (const auto& [formula, plain] : rows) {
+            QCOMPARE(plainFormula(QString::fromUtf8(formula)).normalized(QString::NormalizationForm_C),
+                     QString::fromUtf8(plain).normalized(QString::NormalizationForm_C));
+        }
+        QCOMPARE(withPlainFormulas(QStringLiteral("For $k \\le M$ use `$HOME` and\n```\n$x_1$\n```")),
+                 QStringLiteral("For k ≤ M use `$HOME` and\n```\n$x_1$\n```"));
     }
 
     void whatWasNotSavedIsRecovered() {

@@ -11,19 +11,24 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "ui/frame/PlainFormulas.h"
+
 namespace vorlan {
 
 namespace {
 
 const QString kFirstPage = QStringLiteral("README.md");
 
-/// Pictures are made as narrow as the page.
+/// Pictures are made as narrow as the page, and formulas are written in letters.
 class PageBrowser : public QTextBrowser {
   public:
     explicit PageBrowser(QWidget* parent) : QTextBrowser(parent) {}
 
     QVariant loadResource(int type, const QUrl& name) override {
         const QVariant resource = QTextBrowser::loadResource(type, name);
+        if (type == QTextDocument::MarkdownResource) {
+            return withPlainFormulas(QString::fromUtf8(resource.toByteArray()));
+        }
         if (type != QTextDocument::ImageResource) {
             return resource;
         }
