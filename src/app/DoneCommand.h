@@ -10,6 +10,7 @@
 #include "analysis/SpectralSettings.h"
 #include "analysis/TurbulenceScales.h"
 #include "app/CommandValues.h"
+#include "model/FrameSlot.h"
 #include "model/PageAttributes.h"
 #include "model/Stages.h"
 #include "model/WorkspaceSettings.h"
@@ -25,16 +26,25 @@ struct ClipGiven {
     double to;
 };
 struct CrossSpectraGiven {};
+/// Diagrams with their attributes in front of the command and after it.
+struct FramesGiven {
+    struct Frame {
+        FrameSlot slot;
+        FrameAttributesType before;
+        FrameAttributesType after;
+    };
+    std::vector<Frame> frames;
+};
 struct PageGiven {
     Stage stage;
     PageAtrType before;
     PageAtrType after;
 };
 
-using GivenCommand =
-    std::variant<ZoomGiven, ResetGiven, ClipGiven, RotationSettings, EditingSettings, FilterSettings,
-                 StationaritySettings, HistogramSettings, SpectralDialogValues, CrossSpectraGiven, QuadrantSettings,
-                 VectorSettings, DissipationReading, ScalesReading, MeanVelocitySettings, PositionChange, PageGiven>;
+using GivenCommand = std::variant<ZoomGiven, ResetGiven, ClipGiven, RotationSettings, EditingSettings, FilterSettings,
+                                  StationaritySettings, HistogramSettings, SpectralDialogValues, CrossSpectraGiven,
+                                  QuadrantSettings, VectorSettings, DissipationReading, ScalesReading,
+                                  MeanVelocitySettings, PositionChange, FramesGiven, PageGiven>;
 
 /// A command that was done, with what it needs to be done again elsewhere.
 struct DoneCommand {

@@ -47,12 +47,18 @@ void CVorl_ADVDoc::SetPlanFrame(int record, const FrameAttributesType& frame) {
 }
 
 void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const FrameChange& change, bool allProbes) {
+    FramesGiven given;
     const auto changes = [&](const FrameSlot& slot, FrameAttributesType& stored) {
         const FrameAttributesType before = stored;
         change(slot, stored);
-        return !(stored == before);
+        if (stored == before) {
+            return false;
+        }
+        given.frames.push_back({slot, before, stored});
+        return true;
     };
     WorkspacePatch patch;
+    DoneCommands done;
     SFrameAtrArray plans = workspace_.dataFiles.frameAttributes;
     bool plansChange = false;
     for (const FrameSlot& slot : slots) {
@@ -62,10 +68,12 @@ void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const Frame
     }
     if (plansChange) {
         patch.planFrames = std::move(plans);
+        done.push_back(DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace, std::move(given)));
     }
     const auto changeProbe = [&](int file, int index) {
         SAdvProbe probe = workspace_.dataFiles.files.GetAt(file).probes.GetAt(index);
         bool probeChanges = false;
+        given = {};
         for (const FrameSlot& slot : slots) {
             if (!slot.inSet) {
                 const bool slotChanges =
@@ -75,6 +83,7 @@ void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const Frame
             }
         }
         if (probeChanges) {
+            done.push_back(DoneOn(file, index, std::move(given)));
             patch.probes.push_back({file, index, std::move(probe)});
         }
     };
@@ -87,7 +96,7 @@ void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const Frame
         }
     }
     if (patch.planFrames || !patch.probes.empty()) {
-        Write(kFrameCommand, std::move(patch));
+        Write(kFrameCommand, std::move(patch), std::move(done));
         Tell(Change::Content);
     }
     port_->report(frameReport(ActivePane()));

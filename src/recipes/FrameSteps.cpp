@@ -6,6 +6,7 @@
 #include "model/FrameSlot.h"
 #include "recipes/RecipeSteps.h"
 #include "recipes/RunError.h"
+#include "recipes/StepsOfCommands.h"
 #include "recipes/TextValues.h"
 
 namespace vorlan {
@@ -218,7 +219,69 @@ std::vector<KeyRule> frameKeys() {
     return keys;
 }
 
+std::string fontText(const FontDescription& font) {
+    return font.face() + ", " + std::to_string(font.height()) + ", " + std::to_string(font.weight()) +
+           (font.italic() ? ", italic" : "") + (font.underline() ? ", underline" : "") +
+           (font.strikeOut() ? ", strike-out" : "");
+}
+
+/// Names the diagram of a slot.
+void giveDiagram(const FrameSlot& slot, StepValues& values) {
+    for (int stage = 0; stage < kStageCount; ++stage) {
+        for (int pane = 0; pane < kPaneCount; ++pane) {
+            for (const int value : {0, 1}) {
+                if (frameSlotOf(static_cast<Stage>(stage), static_cast<Pane>(pane), static_cast<PhysicalValue>(value),
+                                false) == slot &&
+                    !values.has("stage")) {
+                    values.set("stage", stage);
+                    values.set("pane", pane);
+                    values.set("values", value);
+                }
+            }
+        }
+    }
+}
+
 }  // namespace
+
+NamedStep stepOf(const FramesGiven::Frame& given) {
+    const FrameAttributesType& before = given.before;
+    const FrameAttributesType& after = given.after;
+    NamedStep step{"frame", {}};
+    giveDiagram(given.slot, step.values);
+    const auto giveChanged = [&](const char* name, auto member, const auto& value) {
+        if (!(after.*member == before.*member)) {
+            step.values.set(name, value);
+        }
+    };
+    for (const auto& key : kTexts) {
+        giveChanged(key.name, key.member, after.*key.member);
+    }
+    for (const auto& key : kCounts) {
+        giveChanged(key.name, key.member, static_cast<int>(after.*key.member));
+    }
+    for (const auto& key : kDigits) {
+        giveChanged(key.name, key.member, static_cast<int>(after.*key.member));
+    }
+    for (const auto& key : kFonts) {
+        giveChanged(key.name, key.member, fontText(after.*key.member));
+    }
+    for (const Code& key : codes()) {
+        giveChanged(key.name, key.member, static_cast<int>(after.*key.member));
+    }
+    for (const FreeValue& key : kFreeValues) {
+        const bool isFree = after.*key.mode != 0;
+        if (after.*key.mode != before.*key.mode || (isFree && after.*key.value != before.*key.value)) {
+            step.values.set(key.name, isFree ? KeyValue(after.*key.value) : KeyValue(std::string("auto")));
+        }
+    }
+    giveChanged("grid_style", &FrameAttributesType::gridLineStyle, after.gridLineStyle == 0 ? 0 : 1);
+    giveChanged("grid_color", &FrameAttributesType::gridColour,
+                std::array<double, 3>{static_cast<double>(after.gridColour & 255),
+                                      static_cast<double>(after.gridColour >> 8 & 255),
+                                      static_cast<double>(after.gridColour >> 16 & 255)});
+    return step;
+}
 
 std::vector<StepKind> frameSteps() {
     return {{.name = "frame", .keys = frameKeys(), .run = runFrame, .faultOfValues = faultOfFrame}};

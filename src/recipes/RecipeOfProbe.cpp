@@ -85,6 +85,19 @@ std::string stepText(const NamedStep& step) {
     return text;
 }
 
+template <class Given>
+std::vector<NamedStep> stepsOf(const Given& given) {
+    return {stepOf(given)};
+}
+
+std::vector<NamedStep> stepsOf(const FramesGiven& given) {
+    std::vector<NamedStep> steps;
+    for (const FramesGiven::Frame& frame : given.frames) {
+        steps.push_back(stepOf(frame));
+    }
+    return steps;
+}
+
 /// Collects steps so that repeated stages find the parameters that they found.
 class StepList {
   public:
@@ -96,11 +109,12 @@ class StepList {
             provide(done, DoneMark::Histograms, &WorkspaceSettings::histograms);
             provide(done, DoneMark::Quadrants, &WorkspaceSettings::quadrants);
         }
-        NamedStep step = std::visit([](const auto& given) { return stepOf(given); }, done.given);
-        if (done.repeated == false) {
-            step.values.set("repeat", false);
+        for (NamedStep& step : std::visit([](const auto& given) { return stepsOf(given); }, done.given)) {
+            if (done.repeated == false) {
+                step.values.set("repeat", false);
+            }
+            text_ += stepText(step);
         }
-        text_ += stepText(step);
         remember(done.given, &WorkspaceSettings::stationarity);
         remember(done.given, &WorkspaceSettings::histograms);
         remember(done.given, &WorkspaceSettings::quadrants);

@@ -32,6 +32,7 @@ NamedStep stepOf(const DissipationReading& reading);
 NamedStep stepOf(const ScalesReading& reading);
 NamedStep stepOf(const PositionChange& position);
 /// With the keys that the command has changed.
+NamedStep stepOf(const FramesGiven::Frame& given);
 NamedStep stepOf(const PageGiven& given);
 
 }  // namespace vorlan

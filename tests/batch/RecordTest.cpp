@@ -22,7 +22,7 @@ class User {
     /// Commands on the active probe whose parameters suit the record.
     void act() {
         port_.answer = pick(3) != 0;
-        switch (pick(19)) {
+        switch (pick(20)) {
             case 0:
                 return change(Command::ZoomAndClipping, [&] { document_.EnterZoomMode(); });
             case 1:
@@ -80,6 +80,19 @@ class User {
                 return ifSpectra([&] { document_.ExtractDissipationRate({DissipationSource(pick(2)), 2.0, 0.3}); });
             case 16:
                 return ifSpectra([&] { document_.ExtractScales({ScalesSource(pick(2)), 0.0, 1.0 + 0.1 * pick(9)}); });
+            case 18:
+                document_.ChangeFrames(
+                    frameSlotsOf(Stage::Spectral),
+                    [&](const FrameSlot&, FrameAttributesType& frame) {
+                        frame.plotTitle = "title " + std::to_string(pick(3));
+                        frame.xMinMode = pick(2);
+                        frame.xMin = frame.xMinMode != 0 ? -1.0 - pick(5) / 7.0 : frame.xMin;
+                        frame.legendFont.setHeight(10 + pick(5));
+                        frame.gridColour = pick(1 << 24);
+                        frame.scaleType = 0;
+                    },
+                    pick(2) == 0);
+                return;
             case 17: {
                 PageAtrType page = pageOfStage(document_.GetWorkspace(), Stage::Spectral);
                 page.header = "a \"page\" \\" + std::to_string(pick(9));
