@@ -151,7 +151,7 @@ class DialogsHabits : public QObject {
         };
         const std::function figure = [=](const CFigureDlg& d) {
             return joined({number(d.values().scope), number(d.values().format), number(d.values().size.width),
-                           number(d.values().size.height)});
+                           number(d.values().size.height), number(d.values().dpi)});
         };
         ImportOffer offer;
         offer.import.tables = {"a.csv", "b.csv"};

@@ -111,6 +111,7 @@ class FrameBring : public QObject {
                 buttons[3 + format]->click();
                 type(dialog, "&Width:", "640");
                 type(dialog, "&Height:", "480");
+                type(dialog, "Dots per &inch:", "144");
             });
         };
         const auto rendered = [&](const QString& name, const QStringList& more) {
@@ -123,7 +124,8 @@ class FrameBring : public QObject {
         QVERIFY(save(0, 0, "pane.png"));
         QVERIFY(bytes(driver.path("pane.png")) ==
                 rendered(QStringLiteral("a.png"),
-                         size + QStringList{QStringLiteral("--pane"), QStringLiteral("left-top")}));
+                         size + QStringList{QStringLiteral("--dpi"), QStringLiteral("144"), QStringLiteral("--pane"),
+                                            QStringLiteral("left-top")}));
         QVERIFY(save(1, 1, "four.svg"));
         QVERIFY(bytes(driver.path("four.svg")) == rendered(QStringLiteral("a.svg"), size));
         QVERIFY(save(2, 2, "page.pdf"));

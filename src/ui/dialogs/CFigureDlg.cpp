@@ -42,9 +42,16 @@ CFigureDlg::CFigureDlg(const FigureChoice& choice, QWidget* parent)
     height_->setToolTip(width_->toolTip());
     addField(grid, 0, 0, QStringLiteral("&Width:"), width_, QStringLiteral("pixels"));
     addField(grid, 1, 0, QStringLiteral("&Height:"), height_, QStringLiteral("pixels"));
+    dpi_ = new IntegerField(this);
+    dpi_->setInteger(choice.dpi);
+    dpi_->setToolTip(
+        QStringLiteral("10 to 2400, of a PNG: letters, ticks and pens grow with it, 96 as on the screen; "
+                       "for print 300 and about three times the pixels"));
+    addField(grid, 2, 0, QStringLiteral("Dots per &inch:"), dpi_);
     grid->setColumnStretch(3, 1);
     body()->addLayout(grid);
     connect(scope_, &QButtonGroup::idClicked, this, &CFigureDlg::showAllowed);
+    connect(format_, &QButtonGroup::idClicked, this, &CFigureDlg::showAllowed);
     showAllowed();
     finish(firstStop(scope_));
 }
@@ -62,6 +69,7 @@ void CFigureDlg::showAllowed() {
     for (IntegerField* side : {width_, height_}) {
         side->setEnabled(scope != FigureChoice::Scope::Page);
     }
+    dpi_->setEnabled(format_->checkedId() == static_cast<int>(FigureChoice::Format::Png));
 }
 
 bool CFigureDlg::takeFields(FieldReader& reader) {
@@ -70,6 +78,7 @@ bool CFigureDlg::takeFields(FieldReader& reader) {
     read.format = static_cast<FigureChoice::Format>(chosen(format_, 0));
     reader.integer(width_, read.size.width, 1, PictureSize::kLargest);
     reader.integer(height_, read.size.height, 1, PictureSize::kLargest);
+    reader.integer(dpi_, read.dpi, static_cast<int>(kDpiRange.minimum), static_cast<int>(kDpiRange.maximum));
     if (!reader.good()) {
         return false;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recipes/TextValues.h"
+#include "recipes/RenderRun.h"
 #include "ui/dialogs/CParameterDialog.h"
 
 class QButtonGroup;
@@ -17,6 +17,7 @@ struct FigureChoice {
     Scope scope = Scope::ActiveView;
     Format format = Format::Png;
     PictureSize size = {};  ///< of a picture; a page has the size of its paper
+    int dpi = kUsualDpi;    ///< of a PNG
 
     /// Four views in one PDF are the page, and the page is nothing else.
     static bool allows(Scope scope, Format format) {
@@ -42,6 +43,7 @@ class CFigureDlg : public CParameterDialog {
     QButtonGroup* format_;
     IntegerField* width_;
     IntegerField* height_;
+    IntegerField* dpi_;
 };
 
 }  // namespace vorlan

@@ -78,6 +78,7 @@ std::string Figures::bytesOf(const PaperSize& paper, const QString& path) {
     }
     request.value = document_.CurrentValue();
     request.size = choice_.size;
+    request.dpi = choice_.dpi;
     request.paper = paper;
     request.path = QFile::encodeName(path).toStdString();
     const std::string named = QFile::encodeName(files_.documentName()).toStdString();
