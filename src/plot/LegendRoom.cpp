@@ -15,8 +15,9 @@ Box grown(const Box& box, int by) {
     return {box.left - by, box.top - by, box.right + by, box.bottom + by};
 }
 
+// The last pixels of a box lie before its right and lower sides.
 bool touches(const Box& box, const Line& line) {
-    return clippedLine(line, box).has_value();
+    return clippedLine(line, {box.left, box.top, box.right - 1, box.bottom - 1}).has_value();
 }
 
 bool linesTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry) {
@@ -57,7 +58,7 @@ bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geom
         const SeriesAtrType& attributes = series.attributes;
         const auto scaled = [lengthScale](int pixels) { return static_cast<int>(std::ceil(pixels * lengthScale)); };
         // Pens are wider than the lines that they follow.
-        const Box reach = grown(box, scaled(std::max(attributes.penWidth, 1)) / 2 + 1);
+        const Box reach = grown(box, scaled(std::max(attributes.penWidth, 1)) / 2);
         const int size = scaled(attributes.markerSize);
         switch (attributes.style) {
             case SeriesStyle::Line:
