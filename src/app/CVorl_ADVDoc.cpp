@@ -107,6 +107,7 @@ void CVorl_ADVDoc::Write(const char* command, WorkspacePatch patch, DoneCommands
         return;
     }
     const bool modifies = command != nullptr && !patch.OnlySelects(workspace_);
+    history_.MakeRoomFor(patch);
     patch.Exchange(workspace_);
     // The patch holds what was replaced now.
     if (modifies) {

@@ -4,6 +4,17 @@
 
 namespace vorlan {
 
+void History::MakeRoomFor(const WorkspacePatch& patch) {
+    const auto make = [](auto& list, std::size_t size) {
+        if (list.capacity() < size) {
+            list.reserve(2 * size);
+        }
+    };
+    std::vector<WorkspacePatch::ProbePart>& selected = steps_[done_].selections.probes;
+    make(selected, selected.size() + patch.probes.size());
+    make(steps_, done_ + 2);
+}
+
 void History::Record(const char* command, WorkspacePatch replaced, DoneCommands done) {
     ForgetTakenBackOpening();
     steps_.resize(done_ + 1);

@@ -25,6 +25,8 @@ class History {
         WorkspacePatch selections = {};  ///< made between this command and the next
     };
 
+    /// Makes room for what is recorded next, so that it is not refused when the workspace has changed already.
+    void MakeRoomFor(const WorkspacePatch& patch);
     /// A command was done. What was taken back before it cannot be done again.
     void Record(const char* command, WorkspacePatch replaced, DoneCommands done);
     /// Something was selected, by a command that changed nothing else when there is one in done.

@@ -22,7 +22,8 @@ class BoundaryFormatError : public FileError {
 
 /// Reads the nodes of boundary.path: three single-precision numbers per node, separated by any white space, line ends
 /// included. Node i goes into entry i; entries beyond the last node read keep their values. An empty file holds no
-/// nodes. BoundaryOpenError changes nothing; after BoundaryFormatError the nodes before the bad line stay.
+/// nodes. BoundaryOpenError, also for what is no regular file, and FileError when the disk fails change nothing; after
+/// BoundaryFormatError the nodes before the bad line stay.
 void readBoundary(SBndFile& boundary);
 
 /// The same from a text that stands for the file at boundary.path.

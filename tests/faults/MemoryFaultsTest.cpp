@@ -30,6 +30,80 @@ std::string stored(const CVorl_ADVDoc& document) {
     return std::string(test::asText(archive.bytes()));
 }
 
+struct Step {
+    const char* name;
+    Outcome (*give)(CVorl_ADVDoc& document);
+};
+
+class MemoryOfCommands : public testing::TestWithParam<Step> {};
+
+TEST_P(MemoryOfCommands, EndsThemAsIfTheyHadNotBegun) {
+    int failed = 0;
+    for (int request = 0;; request = after(request)) {
+        SCOPED_TRACE(request);
+        Port port;
+        CVorl_ADVDoc document(port);
+        document.SimulateTimeSeries({.length = 4.0, .whiteNoise = true}, 1);
+        document.SelectProbe(0);
+        document.SpectralAnalysis(SpectralSettings{});
+        document.NewBoundary("/dev/null");  // the third step: one more needs room in the history
+        const WorkspaceSettings settings = document.Settings();
+        const std::string before = stored(document);
+        Outcome outcome = Outcome::Refused;
+        bool told = false;
+        test::failAllocation(request);
+        try {
+            outcome = GetParam().give(document);
+        } catch (const std::bad_alloc&) {
+            told = true;
+        } catch (const FileError& error) {
+            told = std::string(error.what()).find("not enough memory") != std::string::npos;
+        }
+        if (!test::allocationFailed()) {
+            EXPECT_EQ(outcome, Outcome::Done);
+            break;
+        }
+        ++failed;
+        told = told || (!port.refusals.empty() && port.refusals.back() == "Out of memory.");
+        EXPECT_FALSE(document.IsRunning());
+        if (outcome == Outcome::Done) {
+            continue;  // it could do without
+        }
+        EXPECT_TRUE(told);
+        if (document.Settings() == settings) {
+            EXPECT_TRUE(stored(document) == before);
+        } else {
+            // A refused command keeps its parameters, as one that can be taken back.
+            EXPECT_EQ(document.Undo(), Outcome::Done);
+            EXPECT_TRUE(stored(document) == before);
+        }
+        EXPECT_EQ(GetParam().give(document), Outcome::Done) << "again, with memory";
+    }
+    EXPECT_GT(failed, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands, MemoryOfCommands,
+    testing::Values(Step{"simulate", [](CVorl_ADVDoc& d) { return d.SimulateTimeSeries({.length = 4.0}, 2); }},
+                    Step{"clip", [](CVorl_ADVDoc& d) { return d.Clip(0.0, 2.0); }},
+                    Step{"edit", [](CVorl_ADVDoc& d) { return d.EditTimeSeries({}); }},
+                    Step{"rotate", [](CVorl_ADVDoc& d) { return d.ChangeCoordinateSystem({.heading = 9.0}); }},
+                    Step{"stationarity",
+                         [](CVorl_ADVDoc& d) {
+                             return d.StationarityAnalysis({BandMode::Fixed, 5});
+                         }},
+                    Step{"distributions", [](CVorl_ADVDoc& d) { return d.Distributions({}); }},
+                    Step{"crossSpectra", [](CVorl_ADVDoc& d) { return d.CrossSpectralAnalysis(); }},
+                    Step{"quadrants",
+                         [](CVorl_ADVDoc& d) {
+                             return d.QuadrantsAnalysis({0.5, 5.0, 1.0, 2.0, 2.0, 1});
+                         }},
+                    Step{"node",
+                         [](CVorl_ADVDoc& d) {
+                             return d.InsertNode(0, 0, {1.0, 2.0, 3.0});
+                         }}),
+    [](const auto& step) { return step.param.name; });
+
 class MemoryOfFiles : public BatchTest {};
 
 TEST_F(MemoryOfFiles, LeavesWhatIsOpenAndWhatIsSaved) {
