@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QCloseEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
@@ -95,10 +97,14 @@ class FrameFiles : public QObject {
         driver.trigger(Command::NewWorkspace);
         QVERIFY2(driver.document().HasFile(), "nor does one that fails");
         QVERIFY(driver.boxes.refusals.last().contains(QLatin1String("/nonexistent/folder")));
+        driver.boxes.savePath = driver.path("pipe");
+        QCOMPARE(::mkfifo(qPrintable(driver.boxes.savePath), 0600), 0);
+        driver.trigger(Command::NewWorkspace);
+        QVERIFY2(driver.document().HasFile(), "nor one that would wait for somebody who reads");
         driver.boxes.saveAnswer = UserBoxes::SaveAnswer::Discard;
         driver.trigger(Command::NewWorkspace);
         QVERIFY(!driver.document().HasFile());
-        QCOMPARE(driver.boxes.saveQuestions.size(), 5);
+        QCOMPARE(driver.boxes.saveQuestions.size(), 6);
         QVERIFY(driver.frame->close());
     }
 

@@ -208,7 +208,8 @@ void UserCommands::editGrid() {
     using ChoosePath = QString (UserBoxes::*)(QWidget*, const QString&);
     const auto inFolder = [this](ChoosePath choose) {
         return [this, choose](QWidget* parent, const QString& proposed) {
-            return (boxes_->*choose)(parent, QDir(files_.folder()).filePath(proposed));
+            const QString path = (boxes_->*choose)(parent, QDir(files_.folder()).filePath(proposed));
+            return isRefusedPipe(path, *boxes_, parent) ? QString() : path;
         };
     };
     CGridEdit dialog(
@@ -281,7 +282,7 @@ void UserCommands::exportData(ExportKind kind) {
     }
     const QString path =
         boxes_->chooseExport(&window_, QDir(files_.folder()).filePath(QString::fromLatin1(info.defaultFile)));
-    if (path.isEmpty()) {
+    if (path.isEmpty() || isRefusedPipe(path, *boxes_, &window_)) {
         return report_(QString::fromLatin1(kCancelledReport));
     }
     const std::string file = QFile::encodeName(path).toStdString();

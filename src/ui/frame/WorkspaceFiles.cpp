@@ -40,6 +40,15 @@ class Waiting {
 
 }  // namespace
 
+bool isRefusedPipe(const QString& path, UserBoxes& boxes, QWidget* window) {
+    std::error_code error;
+    if (!std::filesystem::is_fifo(toPath(path), error)) {
+        return false;
+    }
+    boxes.refuse(window, QStringLiteral("%1 is a pipe, not a file.").arg(path));
+    return true;
+}
+
 QString WorkspaceFiles::documentName() const {
     return document_.GetPath().empty() ? QStringLiteral("Untitled") : toText(document_.GetPath().filename());
 }
@@ -119,6 +128,9 @@ bool WorkspaceFiles::saveAs() {
 }
 
 bool WorkspaceFiles::saveTo(const QString& path) {
+    if (isRefusedPipe(path, *boxes_, &window_)) {
+        return false;
+    }
     try {
         const Waiting waiting(*this, "Writing %1 ...", path);
         document_.SaveWorkspace(toPath(path));

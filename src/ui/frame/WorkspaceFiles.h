@@ -9,6 +9,9 @@
 
 namespace vorlan {
 
+/// Whether the path is a pipe, which nothing is written to here: the window would wait until somebody reads. Says so.
+bool isRefusedPipe(const QString& path, UserBoxes& boxes, QWidget* window);
+
 /// New, open, save and the question about unsaved changes, for the window's document.
 class WorkspaceFiles : public QObject {
     Q_OBJECT
