@@ -24,7 +24,7 @@ constexpr const char* kTitle = "Cleaned-up time series";
 /// the table meanwhile.
 class Columns {
   public:
-    Columns(SMultiArray& table, int samples) : table_(table) {
+    Columns(SMultiArray& table, int samples, Progress& progress) : table_(table), progress_(progress) {
         for (int c = 0; c < 3; ++c) {
             const SArray& column = table.GetAt(c);
             if (column.GetSize() < samples) {
@@ -43,6 +43,7 @@ class Columns {
             // The column may have been shared until now.
             own_[c] = table_.ElementAt(asInt(c)).view().data();
             units_[c] = own_[c];
+            progress_.breathe();
         }
         own_[c][i] = truncateToInt32((value(c, i - 1) + value(c, i + 1)) * 0.5 / scales_[c]);
     }
@@ -54,6 +55,7 @@ class Columns {
 
   private:
     SMultiArray& table_;
+    Progress& progress_;
     std::array<const std::int32_t*, 3> units_{};
     std::array<std::int32_t*, 3> own_{};  // null until a value is replaced
     std::array<double, 3> scales_{};
@@ -65,7 +67,7 @@ class Columns {
 template <class Suspect, class Visit>
 int visitSuspects(int samples, Progress& progress, Suspect suspect, Visit visit) {
     constexpr int kPart = 4096;
-    constexpr int kPartsPerBreath = 64;
+    constexpr int kPartsPerBreath = 16;
     std::array<bool, kPart> suspects;
     bool next = false;
     int parts = 0;
@@ -123,8 +125,8 @@ CriterionResult testScores(SAdvProbe& probe, std::size_t scoreTable, ScoreStatis
     if (samples < 3) {
         return result;
     }
-    const Columns scores(probe.workTables[scoreTable], samples);
-    Columns velocities(probe.Velocities(), samples);
+    const Columns scores(probe.workTables[scoreTable], samples, progress);
+    Columns velocities(probe.Velocities(), samples, progress);
     const auto reject = [&](int i) {
         if (probe.UsesAllSamples()) {
             velocities.interpolateAll(i);
@@ -160,7 +162,7 @@ CriterionResult filterSpikes(SAdvProbe& probe, double accelerationThreshold, Pro
     // sample itself is replaced when both exceed the threshold.
     const bool repairs = probe.UsesAllSamples() && threshold < std::fabs(-1.0 / interval);
     const double small = surelySmall(threshold, interval);
-    Columns velocities(probe.Velocities(), samples);
+    Columns velocities(probe.Velocities(), samples, progress);
     using Turns = std::array<double, 3>;
     const auto turnsAt = [](const Columns& columns, int i) {
         Turns turns;
@@ -207,7 +209,7 @@ CriterionResult testVelocities(SAdvProbe& probe, double k, Progress& progress) {
         means[c] = moments.mean;
         limits[c] = k * std::sqrt(moments.variance);
     }
-    Columns velocities(probe.Velocities(), samples);
+    Columns velocities(probe.Velocities(), samples, progress);
     const auto farOff = [&velocities, means, limits](std::size_t c, int i) {
         return std::fabs(velocities.value(c, i) - means[c]) > limits[c];
     };
