@@ -43,7 +43,7 @@ class Columns {
             // The column may have been shared until now.
             own_[c] = table_.ElementAt(asInt(c)).view().data();
             units_[c] = own_[c];
-            progress_.breathe();
+            progress_.pump();
         }
         own_[c][i] = truncateToInt32((value(c, i - 1) + value(c, i + 1)) * 0.5 / scales_[c]);
     }

@@ -15,15 +15,17 @@ std::vector<double> slidingProducts(std::span<const double> x, std::span<const d
                                     Progress& progress, const KernelSet& kernels) {
     const std::size_t block = kernels.maxLags;
     // A register may start at the last x; a block's later lags start before the first y and end behind the last.
+    // Fresh memory of long series takes as long as what is done with it: a breath for each.
     std::vector<double> paddedX(x.size() + kernels.lanes, 0.0);
+    progress.pump();
     std::copy(x.begin(), x.end(), paddedX.begin());
     progress.pump();
     std::vector<double> paddedY(y.size() + 2 * block, 0.0);
-    std::copy(y.begin(), y.end(), paddedY.begin() + static_cast<std::ptrdiff_t>(block));
-
     progress.pump();
-
+    std::copy(y.begin(), y.end(), paddedY.begin() + static_cast<std::ptrdiff_t>(block));
+    progress.pump();
     std::vector<double> result(lags);
+    progress.pump();
     std::vector<double> sums(block);
     Pacer pacer(progress, static_cast<double>(lags) * static_cast<double>(x.size()));
     for (std::size_t first = 0; first < lags; first += block) {
