@@ -80,7 +80,7 @@ Outcome CVorl_ADVDoc::QuadrantsAnalysis(const QuadrantSettings& settings) {
     command.settings->quadrants = settings;
     return Analyse(
         command, [&](SAdvProbe& copy, Progress& progress) { return analyseQuadrants(copy, settings, progress); },
-        [&] { return quadrantsReport(settings); });
+        [&] { return quadrantsReport(settings, Probe()); });
 }
 
 }  // namespace vorlan

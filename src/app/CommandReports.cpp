@@ -4,6 +4,8 @@
 #include <array>
 
 #include "analysis/EditingAssessment.h"
+#include "analysis/Quadrants.h"
+#include "analysis/SpectralAnalysis.h"
 #include "model/Index.h"
 #include "model/Text.h"
 
@@ -72,18 +74,23 @@ std::string histogramsReport(const HistogramSettings& settings) {
 }
 
 std::string spectraReport(const SAdvProbe& probe) {
-    return "Spectra: " + spectralRunText(probe);
+    std::string text = "Spectra: " + spectralRunText(probe);
+    for (const std::string& overflow : spectrumOverflows(probe)) {
+        text += ". " + overflow;
+    }
+    return text;
 }
 
 std::string crossSpectraReport(const SAdvProbe& probe) {
     return "Cross-spectra: " + spectralRunText(probe);
 }
 
-std::string quadrantsReport(const QuadrantSettings& settings) {
+std::string quadrantsReport(const QuadrantSettings& settings, const SAdvProbe& probe) {
     constexpr std::array<const char*, 3> pairs = {"u'v'", "u'w'", "v'w'"};
     const auto pair = asSize(std::clamp(settings.stressType, 0, 2));
-    return formatted("Quadrants: %s, hole sizes to %g by %g, patterns to %g s", pairs.at(pair), settings.maximum,
-                     settings.increment, settings.maximumLag);
+    const std::string text = formatted("Quadrants: %s, hole sizes to %g by %g, patterns to %g s", pairs.at(pair),
+                                       settings.maximum, settings.increment, settings.maximumLag);
+    return contributionSumsExceed(probe) ? text + ". " + kContributionsExceed : text;
 }
 
 std::string vectorsReport(const VectorSettings& settings) {

@@ -29,7 +29,7 @@ std::string histogramsReport(const HistogramSettings& settings);
 /// "Spectra: 640 lags (20 s), Tukey, Hz".
 std::string spectraReport(const SAdvProbe& probe);
 std::string crossSpectraReport(const SAdvProbe& probe);
-std::string quadrantsReport(const QuadrantSettings& settings);
+std::string quadrantsReport(const QuadrantSettings& settings, const SAdvProbe& probe);
 std::string vectorsReport(const VectorSettings& settings);
 /// "Left top: plot options set".
 std::string frameReport(Pane pane);

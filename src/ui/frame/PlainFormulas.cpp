@@ -161,7 +161,7 @@ QString withPlainFormulas(const QString& markdown) {
                          : part.captured();
         }
     }
-    return plain + QStringView(markdown).mid(done);
+    return plain + markdown.mid(done);
 }
 
 }  // namespace vorlan

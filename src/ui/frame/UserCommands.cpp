@@ -7,8 +7,6 @@
 #include <new>
 #include <ostream>
 
-#include "analysis/Quadrants.h"
-#include "analysis/SpectralAnalysis.h"
 #include "app/CommandReports.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
@@ -115,18 +113,13 @@ void UserCommands::dispatch(Command command) {
             ask<CHistDlg>(&CVorl_ADVDoc::Distributions, usable(settings.histograms));
             return;
         case Command::SpectralAnalysis:
-            if (ask<CSpAnalDlg>(&CVorl_ADVDoc::SpectralAnalysis, spectralSettingsOf(settings)) == Outcome::Done) {
-                warn(spectrumOverflows(document_.Probe()));
-            }
+            ask<CSpAnalDlg>(&CVorl_ADVDoc::SpectralAnalysis, spectralSettingsOf(settings));
             return;
         case Command::CrossSpectralAnalysis:
             document_.CrossSpectralAnalysis();
             return;
         case Command::QuadrantsAnalysis:
-            if (ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, usable(settings.quadrants)) == Outcome::Done &&
-                contributionSumsExceed(document_.Probe())) {
-                warn({kContributionsExceed});
-            }
+            ask<CQuadrDlg>(&CVorl_ADVDoc::QuadrantsAnalysis, usable(settings.quadrants));
             return;
         case Command::ExtractDissipationRate:
         case Command::ExtractScales:
@@ -156,16 +149,6 @@ void UserCommands::dispatch(Command command) {
         return exportData(*kind);
     }
     runFileCommand(command);
-}
-
-void UserCommands::warn(const std::vector<std::string>& texts) {
-    QStringList lines;
-    for (const std::string& text : texts) {
-        lines.append(QString::fromStdString(text));
-    }
-    if (!lines.isEmpty()) {
-        showStatus_(lines.join(QStringLiteral("; ")));
-    }
 }
 
 void UserCommands::runFileCommand(Command command) {

@@ -56,8 +56,6 @@ class UserCommands {
 
   private:
     void dispatch(Command command);
-    /// Says in the status line what is wrong with results that were stored all the same.
-    void warn(const std::vector<std::string>& texts);
     void runFileCommand(Command command);
     void simulate();
     /// Opens a parameter dialog made of arguments and gives the document's command what the user accepted.

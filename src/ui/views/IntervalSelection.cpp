@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "analysis/Clipping.h"
-#include "model/Index.h"
 
 namespace vorlan {
 
@@ -30,7 +29,7 @@ void IntervalSelection::move(const Step& step, bool otherEdge, const SampleAxis&
     const double last = axis.count;
     double sample = std::clamp(std::round(edge / axis.interval), 0.0, last);
     sample = step.toStart ? 0.0 : step.toEnd ? last : std::clamp(sample + step.samples, 0.0, last);
-    edge = clippingTime(asInt(sample), axis.interval);
+    edge = clippingTime(static_cast<int>(sample), axis.interval);
 }
 
 }  // namespace vorlan
