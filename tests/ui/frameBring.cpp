@@ -214,7 +214,7 @@ class FrameBring : public QObject {
 
     void formulasAreWrittenInLetters() {
         const std::pair<const char*, const char*> rows[] = {
-            {R"(R_k = \frac{1}{N-k}\sum_{j=0}^{N-k-1} d_{j+k}\, d_j)", "Rₖ = 1/(N-k)Σ_(j=0)^(N-k-1) dⱼ₊ₖ dⱼ"},
+            {R"(R_k = \frac{1}{N-k}\sum_{j=0}^{N-k-1} d_{j+k}\, d_j)", "Rₖ = 1/(N-k)Σ_(j=0)^(N-k-1) dⱼ₊ₖ  dⱼ"},
             {R"(S_i = 2\,(R_0 + 2 s_i)\,\Delta t \;\text{ in (cm/s)²/Hz})", "Sᵢ = 2 (R₀ + 2 sᵢ) Δ t   in (cm/s)²/Hz"},
             {R"(\sqrt{\bar{u}^2}, \tfrac{1}{2}, 360^\circ)", "√ū², 1/2, 360°"},
             {R"(a_{)", "a"},
