@@ -197,6 +197,12 @@ TEST_F(RecordTest, TheRecipeOfADaysWorkMakesTheSameBytes) {
     EXPECT_GT(steps, 100U);
 }
 
+std::vector<std::byte> bytesOf(SAdvProbe probe) {
+    Archive archive = Archive::storing();
+    probe.Serialize(archive);
+    return archive.takeBytes();
+}
+
 TEST_F(RecordTest, OfAProbeAmongOthersToo) {
     const std::string input = withProbes("a.avp", 2);
     for (unsigned seed = 1; seed <= 8; ++seed) {
@@ -213,11 +219,9 @@ TEST_F(RecordTest, OfAProbeAmongOthersToo) {
         }
         SAdvProbe expected = document.Probe();
         const Workspace workspace = openWorkspace(repeated(document, input));
-        // Which tab is selected, and that results are old, is no part of what was done.
+        // Which tab is selected is no part of what was done. Moments may be no number: the stored bytes count.
         expected.selectedTab = probeOf(workspace, 0, 1).selectedTab;
-        expected.resultsAreOld = {};
-        expected.stageIsOld = {};
-        EXPECT_TRUE(probeOf(workspace, 0, 1) == expected) << read(path("recipe.toml"));
+        EXPECT_TRUE(bytesOf(probeOf(workspace, 0, 1)) == bytesOf(expected)) << read(path("recipe.toml"));
         EXPECT_TRUE(probeOf(workspace, 0, 0) == probeOf(openWorkspace(input), 0, 0));
     }
 }

@@ -170,7 +170,6 @@ class FrameCommands : public QObject {
         driver.document().PlaceProbe(0, 0, {1234.567, 0.1, 7.0 / 3.0});
         const std::vector<std::pair<Command, const char*>> dialogs = {
             {Command::CoordinateSystem, "Coordinate System"},
-            {Command::EditingTimeSeries, "Editing Time Series"},
             {Command::StationarityAnalysis, "Stationarity Analysis | Parameters"},
             {Command::Histograms, "Univariate Distributions | Histogram Parameters"},
             {Command::SpectralAnalysis, "Spectral Analysis | Parameters"},

@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -92,7 +93,6 @@ CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const Scale
     giveToAll_->setToolTip(
         QStringLiteral("OK, and scale, fonts, frame, ticks and legend to every diagram of the stage"));
     connect(giveToAll_, &QPushButton::clicked, this, &CPlotOptDlg::acceptForAll);
-    right->addWidget(giveToAll_);
     right->addStretch();
     auto* columns = new QHBoxLayout;
     columns->addLayout(left);
@@ -101,6 +101,11 @@ CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const Scale
     showFonts();
     showColour();
     finish(scale_);
+    // Beside OK, where small screens show it without scrolling.
+    auto* buttons = findChild<QDialogButtonBox*>();
+    buttons->addButton(giveToAll_, QDialogButtonBox::ActionRole);
+    setTabOrder(buttons->button(QDialogButtonBox::Ok), giveToAll_);
+    setTabOrder(giveToAll_, buttons->button(QDialogButtonBox::Cancel));
 }
 
 IntegerField* CPlotOptDlg::newCount(int value) {

@@ -172,7 +172,7 @@ void CMainFrame::connectWidgets() {
     connect(&files_, &WorkspaceFiles::recentListChanged, this,
             [this] { actions_->setRecentFiles(files_.recentPaths()); });
     connect(&files_, &WorkspaceFiles::waiting, this, [this](const QString& text) {
-        statusPane_->setText(text.isEmpty() ? QStringLiteral("Ready") : text);
+        text.isEmpty() ? showRest() : statusPane_->setText(text);
         statusPane_->repaint();
     });
     connect(selectionBar_, &SelectionBar::fileChosen, this, [this](int index) { document_.SelectFile(index); });
