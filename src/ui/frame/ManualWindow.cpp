@@ -38,7 +38,11 @@ class PageBrowser : public QTextBrowser {
         }
         constexpr int kBeside = 40;  // margins and scroll bar
         const int room = std::max(viewport()->width() - kBeside, 200);
-        return image.width() > room ? image.scaledToWidth(room, Qt::SmoothTransformation) : image;
+        if (image.width() <= room) {
+            return image;
+        }
+        // A picture with a palette would be dithered.
+        return image.convertToFormat(QImage::Format_RGB32).scaledToWidth(room, Qt::SmoothTransformation);
     }
 };
 
