@@ -172,7 +172,7 @@ void paint(const PaneRequest& request, const PaneContent& content, Choices& choi
         const int x = choices.below(320);
         const int y = choices.below(320);
         readOut(request.stage, request.pane, request.value, *geometry, x, y);
-        dragReadOut(request.stage, request.pane, *geometry, x, y);
+        dragReadOut(request.stage, request.pane, geometry->xValue(x), geometry->xValue(y));
         planReadOut(*diagram, *geometry, x, y);
     }
 }
