@@ -20,7 +20,8 @@ endif()
 if(VORLAN_SANITIZE)
   # Lanes of the kernels are built with the sanitizers too: they are what reads past an end first.
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  # The sanitizers load libraries in the program's place: only the older kind of path counts for them, too.
+  add_link_options(-fsanitize=address,undefined -Wl,--disable-new-dtags)
 endif()
 
 # What is released checks the bounds of library calls and its stack, and has its tables of functions read-only. Not the
