@@ -141,8 +141,12 @@ class RandomUser {
             deeds_.removeFirst();
         }
         driver_.frame->statusPane().setText({});
+        ++depth_;
         work();
-        QCoreApplication::processEvents();
+        // What is done in a dialog has the loop of the dialog: another one here could go ever deeper.
+        if (--depth_ == 0) {
+            QCoreApplication::processEvents();
+        }
         // Another workspace has other bytes to come back to.
         const QString status = driver_.status();
         if (status.endsWith(QLatin1String(" opened")) || status == QLatin1String("Empty workspace")) {
@@ -298,6 +302,7 @@ class RandomUser {
     QByteArray loaded_;
     QStringList deeds_;
     int modalDeeds_ = 0;
+    int depth_ = 0;  ///< of deeds within deeds
 };
 
 }  // namespace
