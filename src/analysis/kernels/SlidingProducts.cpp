@@ -15,7 +15,7 @@ std::vector<double> slidingProducts(std::span<const double> x, std::span<const d
                                     Progress& progress, const KernelSet& kernels) {
     const std::size_t block = kernels.maxLags;
     // A register may start at the last x; a block's later lags start before the first y and end behind the last.
-    // Fresh memory of long series takes as long as what is done with it: a breath for each.
+    // Fresh memory of long series takes as long as what is done with it: events are handled after each.
     std::vector<double> paddedX(x.size() + kernels.lanes, 0.0);
     progress.pump();
     std::copy(x.begin(), x.end(), paddedX.begin());
