@@ -107,14 +107,5 @@ TEST(Settings, TruncationPointIsAPercentageOrANumberOfLags) {
     EXPECT_EQ(truncationPoint(settings, 2'000'000'000), 2'147'483'647);
 }
 
-TEST(Settings, RotationStartsAtTheProbeInMetres) {
-    SAdvProbe probe;
-    probe.samplingVolumeY = 250.0;
-    EXPECT_EQ(rotationSettingsOf(probe).position, (std::array<double, 3>{0.0, 250.0 * 0.001, 0.0}));
-    EXPECT_STREQ(coordinateSystemText(probe), "Probe( X, Y, Z ) ");
-    probe.coordinateSystem = 2;
-    EXPECT_STREQ(coordinateSystemText(probe), "Earth ( East, North, Up )");
-}
-
 }  // namespace
 }  // namespace vorlan::test

@@ -121,16 +121,6 @@ TEST(SpectralAnalysis, RecordsItsRunAndTellsItsProgress) {
     }
 }
 
-TEST(SpectralFunctions, RefuseImpossibleLags) {
-    NoProgress progress;
-    const std::vector<double> d = {1.0, -1.0, 0.5};
-    EXPECT_THROW(autocovariance(d, 4, progress), InvalidArgument);
-    EXPECT_THROW(structureFunction(d, -1, progress), InvalidArgument);
-    EXPECT_TRUE(autocovariance(d, 0, progress).empty());
-    EXPECT_EQ(autocovariance(d, 3, progress), (std::vector<double>{2.25 / 3, -1.5 / 2, 0.5}));
-    EXPECT_EQ(structureFunction(d, 3, progress), (std::vector<double>{0.0, (4 + 2.25) / 2, 0.25}));
-}
-
 TEST(SpectralAnalysis, TakesLagsUpToHalfOfTheRecord) {
     EXPECT_TRUE(truncationPointFits(1250, 2501));
     EXPECT_FALSE(truncationPointFits(1251, 2501));

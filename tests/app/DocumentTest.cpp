@@ -34,6 +34,9 @@ class Session {
         for (const std::string& question : port_.questions) {
             text_ += "\n  ? " + question;
         }
+        for (const std::string& report : port_.reports) {
+            text_ += "\n  : " + report;
+        }
         text_ += "\n";
         port_.clear();
         heard_.clear();
@@ -87,6 +90,12 @@ TEST(Document, IsLedThroughASession) {
         settings.treatment = BadSampleTreatment::Remove;
         d.EditTimeSeries(settings);
     });
+    session.after("rotate", [](Doc& d) { d.ChangeCoordinateSystem({.heading = 90.0, .position = {1.0, 0.5, 0.0}}); });
+    session.after("a clip that is refused", [](Doc& d) { d.Clip(-1.0, 2.0); });
+    session.after("vectors", [](Doc& d) { d.VectorsOfMeanVelocities({1, 40, 5.0, 2.0}); });
+    session.after("a page", [](Doc& d) { d.SetPage(Stage::Spectral, d.GetWorkspace().pages.GetAt(3)); });
+    session.after("take back", [](Doc& d) { d.Undo(); });
+    session.after("do again", [](Doc& d) { d.Redo(); });
     session.after("a frame", [](Doc& d) { d.SetFrame(3, 1, FrameAttributesType{}); });
     session.after("a second file", [](Doc& d) { d.SimulateTimeSeries(sampleParameters(10.0), 8); });
     session.after("the first file", [](Doc& d) { d.SelectFile(0); });

@@ -129,61 +129,6 @@ TEST_F(Commands, AStageThatCannotBeRepeatedSaysSoOnceAndTheChainGoesOn) {
     EXPECT_NE(probe.stageTables[SAdvProbe::kTimes], analysed.stageTables[SAdvProbe::kTimes]) << "quadrants repeated";
 }
 
-TEST_F(Commands, EachSaysHowItEnded) {
-    EditingSettings editing;
-    editing.velocityTest = true;
-    FilterSettings filter{FilterShape::Gaussian, FilterType::HighPass, 2.5, 1.0};
-    FrameAttributesType frame = before.frameAttributes[0].GetAt(0);
-    frame.plotTitle = "Flume";
-    port.reports.clear();
-    document.Clip(1.0, 39.0);
-    document.StationarityAnalysis({BandMode::Cumulative, 5});
-    document.Distributions({});
-    document.SpectralAnalysis(lagsOf(50));
-    document.CrossSpectralAnalysis();
-    document.QuadrantsAnalysis({.maximumLag = 4.0});
-    document.VectorsOfMeanVelocities({1, 40, 5.0, 2.0});
-    port.answer = false;
-    document.EditTimeSeries(editing);
-    document.FilterTimeSeries(filter);
-    document.ChangeCoordinateSystem({.heading = 90.0, .position = {1.0, 0.5, 0.0}});
-    port.answer = true;
-    document.ResetTimeSeries();
-    document.Undo();
-    document.Redo();
-    document.SetFrame(0, 0, frame);
-    document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
-    document.SetPage(Stage::Spectral, document.GetWorkspace().pages.GetAt(3));
-    document.Clip(-1.0, 2.0);
-    port.pumpsLeft = 0;
-    document.SpectralAnalysis(lagsOf(50));
-    document.SimulateTimeSeries(sampleParameters(8.0), 7);
-    document.CloseFile();
-    const std::string earlier = ". Earlier results are of the record before";
-    EXPECT_EQ(port.reports, (std::vector<std::string>{
-                                "Kept 1.00 s to 39.00 s, 950 samples",
-                                "Stationarity: 5 bands, cumulative",
-                                "Histograms: 20 grades",
-                                "Spectra: 50 lags (2 s), Tukey, Hz",
-                                "Cross-spectra: 50 lags (2 s), Tukey, Hz",
-                                "Quadrants: u'w', hole sizes to 20 by 0.2, patterns to 4 s",
-                                "Mean velocities in the plane XZ: 5 cm/s is 40 pixels long",
-                                "Velocity: 99.93 % kept   Bad samples interpolated" + earlier,
-                                "Filtered: high-pass, gaussian, cutoff 2.5 Hz" + earlier,
-                                "Rotated: heading 90, pitch 0, roll 0 deg; sampling volume at 1, 0.5, 0 m" + earlier,
-                                "The whole record: 1000 samples, 40.00 s",
-                                "Taken back: Reset Time Series",
-                                "Done again: Reset Time Series",
-                                "Left top: plot options set",
-                                "Mean velocity: 12.5 cm/s",
-                                "Page of Spectral Analysis set up",
-                                "Not done: the record is as it was",
-                                "Cancelled: the record is as it was",
-                                "test simulated: 200 samples, 8 s. Choose a probe",
-                                "test closed",
-                            }));
-}
-
 TEST_F(Commands, WhatChangesNothingIsNoModification) {
     const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "same.avp";
     document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
@@ -237,37 +182,6 @@ TEST_F(Commands, EveryDoneMarkHasAPlaceInTheChain) {
     for (const int count : places) {
         EXPECT_EQ(count, 1);
     }
-}
-
-TEST_F(Commands, AFailedOpenLeavesTheWorkspace) {
-    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "cut.avp";
-    document.SaveWorkspace(path);
-    EXPECT_FALSE(document.IsModified());
-    std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
-    EXPECT_THROW(document.OpenWorkspace(path), FileError);
-    EXPECT_EQ(document.Probe(), before);
-    EXPECT_THROW(document.SaveWorkspace("/nonexistent/folder/x.avp"), FileError);
-    EXPECT_EQ(document.GetPath(), path);
-    std::filesystem::remove(path);
-}
-
-TEST_F(Commands, WhatOthersWroteOnTheFileIsNoticed) {
-    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "two.avp";
-    EXPECT_FALSE(document.IsChangedOnDisk());
-    document.SaveWorkspace(path);
-    EXPECT_FALSE(document.IsChangedOnDisk());
-    SilentPort otherPort;
-    CVorl_ADVDoc second(otherPort);
-    second.OpenWorkspace(path);
-    second.CloseFile();
-    second.SaveWorkspace(path);
-    EXPECT_TRUE(document.IsChangedOnDisk());
-    EXPECT_FALSE(second.IsChangedOnDisk());
-    document.SaveWorkspace(path);
-    EXPECT_FALSE(document.IsChangedOnDisk());
-    // A file that is gone is no change to keep.
-    std::filesystem::remove(path);
-    EXPECT_FALSE(document.IsChangedOnDisk());
 }
 
 }  // namespace

@@ -286,21 +286,5 @@ TEST(GridEditor, PreviewTitlesFollowThePlaneUnlessTheUserWroteThem) {
     EXPECT_THROW(editor.choosePlane(3), InvalidArgument);
 }
 
-TEST(VectorsCommand, MarksTheProbeAndShowsThePlansWithoutOne) {
-    RecordingPort port;
-    CVorl_ADVDoc document(port);
-    EXPECT_EQ(document.VectorsOfMeanVelocities({}), Outcome::Refused);
-    document.SimulateTimeSeries(sampleParameters(), 7);
-    EXPECT_EQ(document.VectorsOfMeanVelocities({0, 20, 5.0, 2.0}), Outcome::Done);
-    EXPECT_EQ(document.CurrentStage(), Stage::MeanVelocityVectors);
-    document.SelectProbe(0);
-    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing);
-    EXPECT_EQ(document.VectorsOfMeanVelocities({1, 30, 4.0, 3.0}), Outcome::Done);
-    EXPECT_TRUE(document.Probe().IsDone(DoneMark::MeanVelocity));
-    EXPECT_EQ(document.CurrentStage(), Stage::MeanVelocityVectors);
-    EXPECT_EQ(document.Settings().vectors.plane, 1);
-    EXPECT_EQ(document.Settings().vectors.pixels, 30);
-}
-
 }  // namespace
 }  // namespace vorlan

@@ -15,20 +15,6 @@ class Selection : public ::testing::Test {
     bool enabled(Command command) const { return commandState(document, command).enabled; }
 };
 
-TEST_F(Selection, ATabOfAnUnknownStageChangesNothingButTheTab) {
-    SimulationParameters p = sampleParameters();
-    SAdvFile file = simulate(p, 1);
-    TabItem odd;
-    odd.imageIndex = 9;
-    file.probes.ElementAt(0).tabItems.Add(odd);
-    document.AppendFile(std::move(file));
-    document.SelectProbe(0);
-    document.SelectStage(1);
-    EXPECT_EQ(document.Settings().choiceA, 1);
-    EXPECT_EQ(document.Settings().activeItem, 1);
-    EXPECT_EQ(document.Probe().selectedTab, 1);
-}
-
 TEST_F(Selection, ClosingStepsDownBeforeItRemoves) {
     for (int i = 0; i < 3; ++i) {
         simulateAndSelect(document, 10.0 + i);

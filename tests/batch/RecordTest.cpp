@@ -1,4 +1,4 @@
-// What was done in a document, as a recipe that this program repeats.
+// What was done in a document can be taken back and done again, and is a recipe that this program repeats.
 #include <random>
 
 #include "analysis/FilterSettings.h"
@@ -173,6 +173,27 @@ class RecordTest : public BatchTest {
         EXPECT_EQ(result.status, 0) << result.err << read(recipe);
         return path("repeated.avp");
     }
+
+    static std::string stored(const CVorl_ADVDoc& document) {
+        Workspace copy = document.GetWorkspace();
+        Archive archive = Archive::storing();
+        copy.Serialize(archive);
+        return std::string(test::asText(archive.bytes()));
+    }
+    /// Everything taken back is what was opened, everything done again what was done.
+    static void expectHistory(CVorl_ADVDoc& document, const std::string& opened) {
+        const std::string done = stored(document);
+        int steps = 0;
+        for (; document.Undo() == Outcome::Done; ++steps) {
+        }
+        EXPECT_GT(steps, 1);
+        EXPECT_TRUE(sameBytes(stored(document), opened));
+        EXPECT_FALSE(document.IsModified());
+        for (; steps > 0; --steps) {
+            ASSERT_EQ(document.Redo(), Outcome::Done);
+        }
+        EXPECT_TRUE(sameBytes(stored(document), done));
+    }
 };
 
 TEST_F(RecordTest, TheRecipeOfADaysWorkMakesTheSameBytes) {
@@ -184,10 +205,12 @@ TEST_F(RecordTest, TheRecipeOfADaysWorkMakesTheSameBytes) {
         CVorl_ADVDoc document(port);
         document.OpenWorkspace(input);
         const WorkspaceSettings loaded = document.Settings();
+        const std::string opened = stored(document);
         User user(document, port, seed);
         for (int i = 0; i < 30; ++i) {
             user.act();
         }
+        expectHistory(document, opened);
         steps += document.CommandsOfProbe().commands.size();
         const std::string output = repeated(document, input);
         document.RestoreSelection(loaded);

@@ -57,23 +57,6 @@ TEST(AtomicFiles, ReplaceOnlyOnCommit) {
     EXPECT_EQ(folder.entries(), 1U);
 }
 
-TEST(AtomicFiles, WhatTheWriterThrowsLeavesTheOldFile) {
-    const TempFolder folder;
-    const auto path = folder / "data";
-    spill(path, "old");
-    EXPECT_THROW(writeFileAtomically(path,
-                                     [](std::ostream& stream) {
-                                         stream << std::string(200000, 'x');
-                                         throw std::runtime_error("stopped");
-                                     }),
-                 std::runtime_error);
-    EXPECT_EQ(slurp(path), "old");
-    EXPECT_EQ(folder.entries(), 1U);
-    const std::string text(200001, 'y');
-    writeFileAtomically(path, [&](std::ostream& stream) { stream << text << 1; });
-    EXPECT_EQ(slurp(path), text + "1");
-}
-
 TEST(AtomicFiles, KeepPermissions) {
     const TempFolder folder;
     const mode_t mask = ::umask(027);
@@ -168,83 +151,6 @@ TEST(AtomicFiles, RespectProtection) {
     EXPECT_EQ(slurp(folder / "free/protected"), "old");
     EXPECT_EQ(folder.entries(), 2U);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "free"), {}), 1);
-}
-
-/// No file of the process grows beyond size while it lives: the way a disk fills up.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{size, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-  private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
-
-Workspace workspaceOf(int samples, std::int32_t value) {
-    Workspace workspace;
-    SArray& axis = workspace.dataFiles.files.GrowTo(0).probes.GrowTo(0).timeAxis;
-    axis.SetSize(samples);
-    axis.SetAt(0, value);
-    axis.SetAt(samples - 1, value);
-    return workspace;
-}
-
-TEST(SavingWorkspaces, AFullDiskLeavesTheOldOne) {
-    const TempFolder folder;
-    const auto path = folder / "site.avp";
-    Workspace small = workspaceOf(100, 1);
-    saveWorkspace(small, path);
-    const std::string old = slurp(path);
-    Workspace large = workspaceOf(100000, 2);
-    for (const rlim_t size : {0, 1000, 50000, 300000}) {
-        const FileSizeLimit limit(size);
-        try {
-            saveWorkspace(large, path);
-            ADD_FAILURE() << size;
-        } catch (const FileError& error) {
-            EXPECT_EQ(error.kind(), FileError::Kind::Unwritable);
-            EXPECT_EQ(error.reason(), "file too large");
-        }
-    }
-    EXPECT_EQ(slurp(path), old);
-    EXPECT_EQ(folder.entries(), 1U);
-}
-
-TEST(SavingWorkspaces, KilledInTheMiddleLeavesOneOfTheTwo) {
-    const TempFolder folder;
-    const auto path = folder / "site.avp";
-    Workspace workspaces[] = {workspaceOf(400000, 1), workspaceOf(300000, 2)};
-    saveWorkspace(workspaces[0], path);
-    for (int round = 0; round < 12; ++round) {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            for (int i = 1;; ++i) {
-                saveWorkspace(workspaces[i % 2], path);
-            }
-        }
-        ::usleep(static_cast<useconds_t>(2000 + 3700 * round));
-        ::kill(child, round % 2 == 0 ? SIGKILL : SIGTERM);
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status));
-        const Workspace found = openWorkspace(path);
-        const SArray& axis = found.dataFiles.files.GetAt(0).probes.GetAt(0).timeAxis;
-        const std::int32_t value = axis.GetAt(0);
-        EXPECT_EQ(axis.GetAt(axis.GetSize() - 1), value);
-        EXPECT_EQ(axis.GetSize(), value == 1 ? 400000 : 300000);
-    }
-    if (keepsNamelessFiles(path.parent_path())) {
-        // All but the moment between naming and renaming leaves nothing behind.
-        EXPECT_LE(folder.entries(), 2U);
-    }
 }
 
 }  // namespace

@@ -69,50 +69,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"tooLarge", "1e30 nan 0\n", "-2147483648,-2147483648,0;", true}),
     [](const auto& row) { return row.param.name; });
 
-TEST(Boundaries, ReadingAgainDoesNotEmptyThem) {
-    const TempFolder folder;
-    SBndFile boundary;
-    boundary.path = (folder / "bank.bnd").string();
-    spill(boundary.path, "1 1 1\n2 2 2\n3 3 3\n");
-    readBoundary(boundary);
-    spill(boundary.path, "9 9 9\n");
-    readBoundary(boundary);
-    EXPECT_EQ(integersOf(boundary), "9000,9000,9000;2000,2000,2000;3000,3000,3000;");
-}
-
-TEST(Boundaries, AreWrittenWithSixDecimals) {
-    const TempFolder folder;
-    SBndFile boundary;
-    boundary.path = (folder / "bank.bnd").string();
-    writeBoundary(boundary);
-    EXPECT_EQ(slurp(boundary.path), "");
-    boundary.SetNode(0, 1.2345, -0.0005, -7.25);
-    boundary.SetNode(1, 1e5, 0.001, 0.0);
-    writeBoundary(boundary);
-    EXPECT_EQ(slurp(boundary.path), "1.234000 0.000000 -7.250000\n100000.000000 0.001000 0.000000\n");
-}
-
-TEST(Boundaries, OpenFailuresChangeNothing) {
-    const TempFolder folder;
-    SBndFile boundary;
-    boundary.SetNode(0, 1, 2, 3);
-    for (const std::string& path : {(folder / "none.bnd").string(), folder.path().string(), std::string()}) {
-        boundary.path = path;
-        try {
-            readBoundary(boundary);
-            ADD_FAILURE() << path;
-        } catch (const BoundaryOpenError& error) {
-            EXPECT_EQ(error.what(), "Cannot find data file: " + path);
-        }
-        EXPECT_EQ(integersOf(boundary), "1000,2000,3000;");
-    }
-    boundary.path = (folder / "none/bank.bnd").string();
-    EXPECT_THROW(writeBoundary(boundary), BoundaryOpenError);
-    boundary.path = folder.path().string();
-    EXPECT_THROW(writeBoundary(boundary), BoundaryOpenError);
-    boundary.path = "/dev/full";
-    EXPECT_THROW(writeBoundary(boundary), FileError);
-}
-
 }  // namespace
 }  // namespace vorlan

@@ -85,13 +85,6 @@ TEST_F(WorkspaceFile, EveryKindOfUnusableFileHasItsOwnReason) {
     }
 }
 
-TEST_F(WorkspaceFile, WithoutAVersionHasTheVerbatimText) {
-    const auto error = openError(Bytes(200, std::byte{'V'}));
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), FileError::Kind::Format);
-    EXPECT_STREQ(error->what(), "Invalid Workspace format.");
-}
-
 /// One file with one probe at least, pages behind it.
 WorkspaceImage sampleImage(std::size_t& pagesAt) {
     for (std::uint64_t seed = 1000;; ++seed) {
@@ -156,24 +149,6 @@ TEST_F(WorkspaceFile, DamagedCountsCostNoMemory) {
         ASSERT_TRUE(error.has_value()) << "text " << i;
         EXPECT_EQ(error->kind(), FileError::Kind::EndOfFile);
     }
-}
-
-TEST_F(WorkspaceFile, FlippedBitsLoadOrAreRefused) {
-    std::size_t pagesAt = 0;
-    const WorkspaceImage image = sampleImage(pagesAt);
-    std::mt19937_64 random(7);
-    int refused = 0;
-    for (int round = 0; round < 300; ++round) {
-        Bytes damaged = image.bytes;
-        for (int flip = 0; flip <= round % 8; ++flip) {
-            damaged[random() % damaged.size()] ^= static_cast<std::byte>(1U << (random() % 8));
-        }
-        test::resetAllocations();
-        refused += openError(damaged).has_value() ? 1 : 0;
-        EXPECT_LT(test::allocatedBytes(), 16 * image.bytes.size() + 200000);
-    }
-    EXPECT_GT(refused, 10);
-    EXPECT_LT(refused, 290);
 }
 
 TEST_F(WorkspaceFile, SavingAndOpeningHoldNoSecondCopy) {

@@ -45,13 +45,6 @@ TEST(ArchiveTexts, TakeTheShortestPrefix) {
     }
 }
 
-TEST(ArchiveTexts, RefuseTheReservedLength) {
-    const auto bytes = bytesOf({0xFF, 0xFE, 0xFF, 'a', 'b', 'c'});
-    Archive in = Archive::loading(bytes);
-    std::string text;
-    EXPECT_THROW(in.value(text), FormatError);
-}
-
 TEST(ArchiveErrors, TellWhere) {
     const auto bytes = bytesOf({1, 2, 3, 4, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F});
     Archive in = Archive::loading(bytes);

@@ -124,31 +124,6 @@ TEST(Arrays, CopiesShareTheirElementsUntilOneIsWritten) {
     EXPECT_EQ(kept.GetSize(), 3);
 }
 
-TEST(Arrays, EveryKindComesBackAsItWasStored) {
-    SDMultiArray doubles;
-    doubles.GrowTo(1).Add(0.1);
-    StrArray names;
-    names.Add("a");
-    names.Add(std::string(300, 'b'));
-    SSuperArray tables;
-    tables.GrowTo(1).Reshape(2, 0.25);
-    Archive out = Archive::storing();
-    doubles.Serialize(out);
-    names.Serialize(out);
-    tables.Serialize(out);
-    SDMultiArray doublesBack;
-    StrArray namesBack;
-    SSuperArray tablesBack;
-    Archive in = Archive::loading(out.bytes());
-    doublesBack.Serialize(in);
-    namesBack.Serialize(in);
-    tablesBack.Serialize(in);
-    EXPECT_EQ(in.remaining(), 0U);
-    EXPECT_EQ(doublesBack, doubles);
-    EXPECT_EQ(namesBack, names);
-    EXPECT_EQ(tablesBack, tables);
-}
-
 std::string tabTexts(std::initializer_list<std::uint32_t> stages) {
     STabsArray tabs;
     for (const std::uint32_t stage : stages) {

@@ -65,24 +65,5 @@ TEST(Pages, UnknownTailsAreKept) {
     }
 }
 
-TEST(Pages, ABlockThatEndsEarlyIsAnEndOfFile) {
-    const Bytes block = pageBlock("header");
-    for (const std::size_t length : {std::size_t{2}, std::size_t{30}, block.size() / 2, block.size() - 1}) {
-        const Bytes image = joined(numberedImage(), Bytes(block.begin(), block.begin() + static_cast<long>(length)));
-        Archive archive = Archive::loading(image);
-        Workspace workspace;
-        EXPECT_THROW(workspace.Serialize(archive), EndOfFileError) << length;
-    }
-}
-
-TEST(Pages, RecordOfAStageCode) {
-    const int records[] = {0, 0, 1, 2, 3, 6, 5, 4};
-    for (int code = 0; code < 8; ++code) {
-        EXPECT_EQ(pageRecordOfStageCode(code), records[code]);
-    }
-    EXPECT_EQ(pageRecordOfStageCode(-1), 0);
-    EXPECT_EQ(pageRecordOfStageCode(8), 0);
-}
-
 }  // namespace
 }  // namespace vorlan

@@ -81,13 +81,6 @@ QImage drawnIn(const QRect& area, Draw draw) {
     return image;
 }
 
-QImage drawn(const Polylines& lines, const QPen& pen) {
-    return drawnIn(QRect(0, 0, 1600, 900), [&](QPainter& painter) {
-        painter.setPen(pen);
-        strokePolylines(painter, lines);
-    });
-}
-
 CScreenUtils wideGeometry(double duration) {
     CScreenUtils g;
     g.originX = 50;
@@ -108,20 +101,6 @@ class PaintingTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void envelopeCoversThePixelsOfTheFullLine() {
-        for (const int width : {1, 2, 3}) {
-            const PlotSeries series = noise(60000, 0.01, static_cast<unsigned>(width));
-            const CScreenUtils g = wideGeometry(600.0);
-            const QPen pen = linePen(0, width, 0, 1.0);
-            const QImage full = drawn(fullPolyline(series, g), pen);
-            const QImage thin = drawn(polylineEnvelope(series, g), pen);
-            const qint64 ink = inked(full);
-            QVERIFY(ink > 100000);
-            const qint64 differences = differing(full, thin);
-            QVERIFY2(differences * 10000 <= ink, qPrintable(QString::number(differences)));
-        }
-    }
-
     void denseLinesFillThePixelsOfTheFullLine() {
         CScreenUtils g = wideGeometry(600.0);
         PlotSeries smooth = noise(60000, 0.01, 1);
@@ -203,23 +182,6 @@ class PaintingTest : public QObject {
         QVERIFY(sameAs(paint(diagramOf(noise(10, 1.0, 1)), QSize(110, 70)), "Increase Size to View Data"));
         QVERIFY(inked(paint(PaneMessage{"text"}).image) > 10);
         QCOMPARE(inked(paint(std::monostate()).image), 0);
-    }
-
-    void tablesAndPanelsArePainted() {
-        TableContent table;
-        table.headers = {"  ", "Mean"};
-        table.rows = {{"U", {1.0}}, {"V", {2.0}}};
-        const Painted painted = paint(table);
-        QVERIFY(!painted.geometry);
-        QCOMPARE(painted.image.pixel(250, 0), kWhite);
-        int rules = 0;
-        for (int y = 0; y < painted.image.height(); ++y) {
-            rules += painted.image.pixel(1, y) == QRgb(0xFF000000) && painted.image.pixel(498, y) == QRgb(0xFF000000);
-        }
-        QCOMPARE(rules, 2);
-        const QSize low(500, 40);
-        QVERIFY(paint(table, low).image == paint(PaneMessage{"Increase Size to View Data"}, low).image);
-        QVERIFY(inked(paint(TextPanel{{"one", "two"}, {}}).image) > 2 * inked(paint(TextPanel{{"o"}, {}}).image));
     }
 
     void filesHoldThePanes() {

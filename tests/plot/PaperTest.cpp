@@ -102,15 +102,6 @@ class PaperTest : public QObject {
         }
     }
 
-    void areaThatIsPrinted() {
-        PageAtrType attributes;
-        QRectF area = printedArea(pageOf(attributes));
-        QVERIFY(std::abs(area.left() - 25) < 0.1 && std::abs(area.right() - 133) < 0.1);
-        QVERIFY(std::abs(area.top() - 25) < 0.1 && area.bottom() > 197 && area.bottom() < 201);
-        attributes.header = std::string(400, 'x');
-        QVERIFY(printedArea(pageOf(attributes)).top() < 25);
-    }
-
     void documentsHoldNoDateAndTheSameBytes() {
         const QByteArray bytes = documentOf({{{0, "a"}}, {{0, "a"}}});
         QVERIFY(bytes.startsWith("%PDF"));

@@ -87,49 +87,4 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"vertical", {{2, 0.1, 80, 1}, {2, 0.2, 95, 2}, {2, 0.3, 110, 3}, {2, 0.4, 125, 4}}, 4}),
     [](const auto& row) { return row.param.name; });
 
-TEST(Plan, LabelsTellTheirMarksApart) {
-    const FrameLayout layout = SPlotFrame(planOf({{1.5, 0.25, 20.0, 5.0}}), FixedMeasure()).layout(kPane);
-    EXPECT_GT(layout.geometry.xMax - layout.geometry.xMin, 1.0);
-    EXPECT_LE(layout.geometry.xMin, 1.0);
-    EXPECT_GE(layout.geometry.xMax, 2.0);
-    for (const AxisLimits& limits :
-         {AxisLimits{0.3, 0.4, 0.025, 4}, AxisLimits{0.0, 16.0, 2.0, 8}, AxisLimits{-1.0, 1.0, 2.0 / 3.0, 3}}) {
-        const int digits = labelDigits(limits, 1);
-        const auto miss = [&](int d) {
-            double most = 0.0;
-            for (int i = 0; i <= limits.marks; ++i) {
-                const double value = limits.lower + i * limits.step;
-                most = std::max(most, std::fabs(std::stod(std::to_string(std::llround(value * std::pow(10.0, d)))) /
-                                                    std::pow(10.0, d) -
-                                                value));
-            }
-            return most / limits.step;
-        };
-        EXPECT_LE(miss(digits), 0.02);
-        EXPECT_TRUE(digits == 1 || miss(digits - 1) > 0.02) << digits;
-    }
-    EXPECT_EQ(labelDigits({0.3, 0.4, 0.025, 4}, 1), 3);
-}
-
-TEST(Plan, NamesThinOutInACrowd) {
-    std::mt19937 random(3);
-    std::vector<Place> places;
-    for (int i = 0; i < 500; ++i) {
-        places.push_back({static_cast<double>(random() % 1000) * 0.01, static_cast<double>(random() % 1000) * 0.001,
-                          static_cast<double>(random() % 60), 0.0});
-    }
-    const Diagram plan = planOf(places);
-    const FixedMeasure measure;
-    const FrameLayout layout = SPlotFrame(plan, measure).layout(kPane);
-    ASSERT_EQ(layout.state, FrameLayout::State::Drawn);
-    const std::vector<PlacedText> names = pointTexts(plan, layout.geometry, measure, 1.0);
-    EXPECT_GT(names.size(), 20U);
-    EXPECT_LT(names.size(), 250U);
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        for (std::size_t k = 0; k < i; ++k) {
-            ASSERT_FALSE(names[i].box.overlaps(names[k].box));
-        }
-    }
-}
-
 }  // namespace

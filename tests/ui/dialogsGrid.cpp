@@ -91,23 +91,6 @@ class DialogsGrid : public QObject {
         });
     }
 
-    void plansHaveOptionsAndReadOutsWithoutAProbe() {
-        FrameDriver driver;
-        SimulationParameters parameters;
-        driver.document().SimulateTimeSeries(parameters, 7);
-        QVERIFY(driver.withDialog(Command::MeanVelocityVectors, "Vectors of Mean Velocities | View Parameters"));
-        driver.document().SelectActivePane(Pane::LeftTop);
-        QVERIFY(driver.enabled(Command::PlotFrameOptions));
-        QVERIFY(driver.withDialog(Command::PlotFrameOptions, "Plot Frame Options"));
-        const auto* plan = std::get_if<Diagram>(&driver.content(Pane::LeftTop));
-        QVERIFY(plan != nullptr);
-        CVorl_ADVView& view = driver.frame->panes().view(Pane::LeftTop);
-        view.grab();
-        const CScreenUtils geometry = view.geometry().value();
-        QTest::mouseMove(&view, {geometry.xPixel(plan->labels[0].x), geometry.yPixel(plan->labels[0].y)});
-        QTRY_COMPARE(driver.status(), QStringLiteral("test, Probe 1   X: 0.000 m   Y: 0.000 m   Z: 0.000 m"));
-    }
-
   private:
     static QPushButton* button(QDialog& editor, const char* text) {
         for (auto* candidate : editor.findChildren<QPushButton*>()) {

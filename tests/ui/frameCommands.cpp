@@ -231,20 +231,6 @@ class FrameCommands : public QObject {
         QCOMPARE(marked(), QStringLiteral("-!-!!!"));
     }
 
-    void editingTellsWhatWasKept() {
-        FrameDriver driver;
-        driver.simulate();
-        QVERIFY(driver.withDialog(Command::EditingTimeSeries, "Editing Time Series", [](QDialog& dialog) {
-            for (QAbstractButton* box : dialog.findChildren<QAbstractButton*>()) {
-                if (box->text() == QLatin1String("&Velocity Threshold:")) {
-                    box->click();
-                }
-            }
-        }));
-        QVERIFY2(driver.status().startsWith(QLatin1String("Velocity: ")), qPrintable(driver.status()));
-        QVERIFY(driver.status().endsWith(QLatin1String(" % kept   Bad samples interpolated")));
-    }
-
     void exportsWriteWhereTheUserWants() {
         FrameDriver driver;
         driver.simulate();
@@ -288,16 +274,6 @@ class FrameCommands : public QObject {
         QVERIFY(!driver.enabled(Command::PlotFrameOptions));
         driver.trigger(Command::ResultsTable);
         QVERIFY(driver.enabled(Command::PlotFrameOptions));
-    }
-
-    void bitmapCopyIsTheActivePane() {
-        FrameDriver driver;
-        driver.simulate();
-        driver.trigger(Command::BitmapCopy);
-        const QImage image = QApplication::clipboard()->image();
-        QVERIFY(!image.isNull());
-        QCOMPARE(image.pixelColor(1, 1), QColor(Qt::white));
-        QVERIFY(image.size().width() <= driver.frame->panes().view(Pane::LeftTop).width());
     }
 };
 

@@ -212,23 +212,6 @@ class FrameFiles : public QObject {
         QVERIFY(closed);
     }
 
-    void commandLinesAreRead() {
-        const auto read = [](std::initializer_list<const char*> arguments) {
-            QStringList line{QStringLiteral("vorlan")};
-            for (const char* argument : arguments) {
-                line.append(QString::fromUtf8(argument));
-            }
-            return line;
-        };
-        QCOMPARE(readCommandLine(read({"a.avp"})).workspace.value(), QStringLiteral("a.avp"));
-        QCOMPARE(readCommandLine(read({"--", "-x.avp"})).workspace.value(), QStringLiteral("-x.avp"));
-        QVERIFY(readCommandLine(read({"--nonsense"})).refusal->contains(QLatin1String("unknown option --nonsense")));
-        QVERIFY(readCommandLine(read({"a", "b"})).refusal.has_value());
-        QVERIFY(requestedText(read({"-style", "fusion", "--help"}))->contains(QLatin1String("Usage: vorlan")));
-        QCOMPARE(requestedText(read({"--version"})).value(), QStringLiteral("Vorlan 1.59\n"));
-        QVERIFY(!requestedText(read({"a.avp", "--", "--help"})).has_value());
-    }
-
     void theToolkitTakesItsOptionsFirst() {
         const auto run = [](const QStringList& arguments, const char* platform) {
             QProcess program;

@@ -271,21 +271,6 @@ class FrameTools : public QObject {
         driver.document().SelectStage(0);
         QVERIFY(!driver.enabled(Command::ExtractDissipationRate));
     }
-
-    void whatWasReadBeforeAChangeIsSaidToBeOld() {
-        SpectralDriver driver;
-        driver.document().ExtractDissipationRate({DissipationSource::Spectrum, 1.0, 2.0});
-        driver.boxes.confirmAnswer = false;
-        driver.document().Clip(1.0, 30.0);
-        const QString note = QStringLiteral("Dissipation rate: read before the last change of the record");
-        QCOMPARE(driver.status(), QStringLiteral("Kept 1.00 s to 30.00 s, 725 samples. Earlier results are of the "
-                                                 "record before   ") +
-                                      note);
-        QCOMPARE(QString::fromStdString(std::get<TableContent>(driver.content(Pane::RightBottom)).note), note);
-        driver.boxes.confirmAnswer = true;
-        driver.document().ExtractDissipationRate({DissipationSource::Spectrum, 1.0, 2.0});
-        QVERIFY(std::get<TableContent>(driver.content(Pane::RightBottom)).note.empty());
-    }
 };
 
 QTEST_MAIN(FrameTools)
