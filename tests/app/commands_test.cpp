@@ -8,13 +8,10 @@
 #include "analysis/SpectralAnalysis.h"
 #include "app/CommandState.h"
 #include "app/RecomputeChain.h"
-#include "io/FileError.h"
 #include "model/DefaultFrames.h"
 
 namespace vorlan {
 namespace {
-
-constexpr const char* kRepeatQuestion = "The Time Series was changed. Repeat all previous calculations ?";
 
 class Commands : public ::testing::Test {
   protected:

@@ -260,19 +260,6 @@ TEST(GridEditor, TriesFilesAgainAndRefusesWhatIsNotThere) {
     EXPECT_EQ(editor.boundaryPath(), path.string());
 }
 
-TEST(GridEditor, PositionsAreKeptOrStoredInThousandths) {
-    RecordingPort port;
-    CVorl_ADVDoc document(port);
-    simulateAndSelect(document);
-    GridEditor editor(document);
-    EXPECT_EQ(editor.moveProbe({1.25, std::nullopt, -0.0333}), Outcome::Done);
-    EXPECT_EQ(editor.moveProbe({std::nullopt, 0.7, std::nullopt}), Outcome::Done);
-    const SAdvProbe& probe = document.Probe();
-    EXPECT_EQ((Position{probe.samplingVolumeX, probe.samplingVolumeY, probe.samplingVolumeZ}),
-              (Position{1.25 / 0.001, 0.7 / 0.001, -0.0333 / 0.001}));
-    EXPECT_EQ(document.PlaceProbe(0, 1, {}), Outcome::Refused);
-}
-
 TEST(GridEditor, PreviewTitlesFollowThePlaneUnlessTheUserWroteThem) {
     RecordingPort port;
     CVorl_ADVDoc document(port);

@@ -2,17 +2,12 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
-#include <ostream>
 
 #include "io/FileError.h"
 #include "io/TempFolder.h"
-#include "io/WorkspaceFile.h"
 
 namespace vorlan {
 namespace {

@@ -1,16 +1,13 @@
 #include "io/BoundaryFile.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
-#include <clocale>
 
 #include "io/TempFolder.h"
 
 namespace vorlan {
 namespace {
 
-using test::slurp;
 using test::spill;
 using test::TempFolder;
 

@@ -82,17 +82,5 @@ TEST(ImportedProbes, MissingRowsHaveNoScore) {
     EXPECT_EQ(columnOf(probe.workTables[SAdvProbe::kWorkPressure], 0), (std::vector<double>{5, 6, 7}));
 }
 
-TEST(ImportedProbes, ImpossibleSettingsAreRefused) {
-    RecordColumns record = recordOf("u,v,w\n1,2,3\n2,3,5\n");
-    ImportSettings settings = everyFifth();
-    settings.samplingInterval = 0.0;
-    EXPECT_THROW(importedProbe(record, settings), InvalidArgument);
-    settings = everyFifth();
-    settings.resolution = kNone;
-    EXPECT_THROW(importedProbe(record, settings), InvalidArgument);
-    record.values[RecordColumns::V].pop_back();
-    EXPECT_THROW(importedProbe(record, everyFifth()), InvalidArgument);
-}
-
 }  // namespace
 }  // namespace vorlan

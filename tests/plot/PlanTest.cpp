@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
 
-#include "plot/AxisLimits.h"
 #include "plot/FixedMeasure.h"
 #include "plot/PointNames.h"
 #include "plot/PolylineEnvelope.h"

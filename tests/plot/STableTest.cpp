@@ -4,8 +4,6 @@
 
 #include <array>
 
-#include "model/Archive.h"
-#include "model/Errors.h"
 #include "plot/FixedMeasure.h"
 
 using namespace vorlan;
@@ -46,21 +44,6 @@ TEST(STable, ManyRowsShrinkAndNeverGoUnnoticed) {
     }
     EXPECT_TRUE(complete);
     EXPECT_FALSE(shapesOf(statistics(), {0, 0, 20, 330}).complete) << "no room for a single letter";
-}
-
-TEST(STable, IndexesAndFormatsAreChecked) {
-    STable table(statistics());
-    EXPECT_EQ(table.cell(0, 1), "2.50");
-    EXPECT_EQ(table.cell(0, 3), "");
-    EXPECT_THROW(table.cell(2, 0), InvalidArgument);
-    EXPECT_THROW(table.cell(0, 4), InvalidArgument);
-    EXPECT_THROW(table.cell(-1, 0), InvalidArgument);
-    EXPECT_THROW(table.header(5), InvalidArgument);
-    EXPECT_THROW(table.rowTitle(2), InvalidArgument);
-    table.formats[1] = "%.3e";
-    EXPECT_EQ(table.cell(0, 1), "2.500e+00");
-    table.formats[1] = "%s%n";
-    EXPECT_EQ(table.cell(0, 1), "2.50");
 }
 
 namespace {

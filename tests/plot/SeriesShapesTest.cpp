@@ -151,22 +151,6 @@ TEST(SeriesShapes, LinesAreCutAtTheEdges) {
     EXPECT_EQ(cut.parts[1], (std::vector<Spot>{{100, 50}, {10, 50}}));
 }
 
-TEST(SeriesShapes, NamesOfPointsAvoidEachOtherAndArrows) {
-    Diagram diagram;
-    PlotSeries s = series({50.0}, {50.0});
-    s.attributes.style = SeriesStyle::Arrows;
-    s.vx = {40.0};
-    s.vy = {0.0};
-    diagram.plot.series = {s};
-    diagram.labels = {{50.0, 50.0, "P1"}, {50.0, 50.0, "P2"}, {500.0, 50.0, "outside"}};
-    const std::vector<PlacedText> texts = pointTexts(diagram, unitGeometry(), FixedMeasure(), 1.0);
-    ASSERT_EQ(texts.size(), 2U);
-    EXPECT_FALSE(texts[0].box.overlaps(texts[1].box));
-    for (const PlacedText& text : texts) {
-        EXPECT_FALSE(clippedLine({{60, 60}, {100, 60}}, text.box)) << text.text;
-    }
-}
-
 TEST(SeriesShapes, SlopeTrianglesFollowTheirPowerLaw) {
     CScreenUtils g = unitGeometry();
     g.xMin = g.yMin = 1.0;
