@@ -274,4 +274,4 @@ class FrameTools : public QObject {
 };
 
 QTEST_MAIN(FrameTools)
-#include "frameTools.moc"
+#include "FrameToolsTest.moc"

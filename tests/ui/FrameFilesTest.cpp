@@ -247,4 +247,4 @@ class FrameFiles : public QObject {
 };
 
 QTEST_MAIN(FrameFiles)
-#include "frameFiles.moc"
+#include "FrameFilesTest.moc"

@@ -136,4 +136,4 @@ class FramePrinting : public QObject {
 };
 
 QTEST_MAIN(FramePrinting)
-#include "framePrinting.moc"
+#include "FramePrintingTest.moc"

@@ -141,4 +141,4 @@ class DialogsGrid : public QObject {
 };
 
 QTEST_MAIN(DialogsGrid)
-#include "dialogsGrid.moc"
+#include "DialogsGridTest.moc"

@@ -111,4 +111,4 @@ class FrameMouse : public QObject {
 };
 
 QTEST_MAIN(FrameMouse)
-#include "frameMouse.moc"
+#include "FrameMouseTest.moc"

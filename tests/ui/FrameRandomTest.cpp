@@ -338,4 +338,4 @@ int main(int argc, char** argv) {
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "frameRandom.moc"
+#include "FrameRandomTest.moc"

@@ -124,4 +124,4 @@ class DialogsPage : public QObject {
 };
 
 QTEST_MAIN(DialogsPage)
-#include "dialogsPage.moc"
+#include "DialogsPageTest.moc"

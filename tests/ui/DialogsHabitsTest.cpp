@@ -304,4 +304,4 @@ class DialogsHabits : public QObject {
 };
 
 QTEST_MAIN(DialogsHabits)
-#include "dialogsHabits.moc"
+#include "DialogsHabitsTest.moc"

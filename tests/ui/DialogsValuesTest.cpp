@@ -145,4 +145,4 @@ class DialogsValues : public QObject {
 };
 
 QTEST_MAIN(DialogsValues)
-#include "dialogsValues.moc"
+#include "DialogsValuesTest.moc"

@@ -140,4 +140,4 @@ class DialogsPlotOptions : public QObject {
 };
 
 QTEST_MAIN(DialogsPlotOptions)
-#include "dialogsPlotOptions.moc"
+#include "DialogsPlotOptionsTest.moc"

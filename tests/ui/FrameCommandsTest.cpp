@@ -266,4 +266,4 @@ class FrameCommands : public QObject {
 };
 
 QTEST_MAIN(FrameCommands)
-#include "frameCommands.moc"
+#include "FrameCommandsTest.moc"

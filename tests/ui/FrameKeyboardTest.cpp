@@ -127,4 +127,4 @@ class FrameKeyboard : public QObject {
 };
 
 QTEST_MAIN(FrameKeyboard)
-#include "frameKeyboard.moc"
+#include "FrameKeyboardTest.moc"

@@ -51,4 +51,4 @@ class DialogsNumbers : public QObject {
 };
 
 QTEST_APPLESS_MAIN(DialogsNumbers)
-#include "dialogsNumbers.moc"
+#include "DialogsNumbersTest.moc"

@@ -261,4 +261,4 @@ class FrameBring : public QObject {
 };
 
 QTEST_MAIN(FrameBring)
-#include "frameBring.moc"
+#include "FrameBringTest.moc"
