@@ -20,6 +20,9 @@ class Scanner {
         while (at_ < text_.size()) {
             const char c = text_[at_];
             if (c == '"' || c == '\'') {
+                if (!mayBeginString()) {
+                    return RecipeTextFault{line_, "a quote stands within a word"};
+                }
                 skipString(c);
                 continue;
             }
@@ -42,6 +45,11 @@ class Scanner {
     }
 
   private:
+    /// The library reads on over a quote within a word, and over the letters behind it as if they stood in none.
+    bool mayBeginString() const {
+        return at_ == 0 || std::string_view(" \t\r\n=,[{").find(text_[at_ - 1]) != std::string_view::npos;
+    }
+
     /// Ends behind the string; at the end of its line when it is left open, which the library refuses.
     void skipString(char quote) {
         const std::string triple(3, quote);
