@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kLinksFollowed = 40;
 constexpr int kNamesTried = 100;
+constexpr std::size_t kLongWrite = std::size_t{1} << 20;
 
 // Where a chain of symbolic links ends; the end itself need not exist.
 std::filesystem::path linkEnd(std::filesystem::path path) {
@@ -170,6 +171,10 @@ void AtomicFile::write(std::span<const std::byte> bytes) {
             fail(written < 0 ? errno : ENOSPC);
         }
         bytes = bytes.subspan(asSize(written));
+        if (asSize(written) >= kLongWrite) {
+            // The disk begins with it while the rest is written; commit() waits for all of it, and tells what failed.
+            ::sync_file_range(file_.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
+        }
     }
 }
 

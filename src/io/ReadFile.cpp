@@ -22,15 +22,16 @@ FileError readError(const std::filesystem::path& path, int error) {
 }
 
 // Fresh memory comes in pages of 4 KiB, and clearing them one by one takes longer than reading the file into them: for
-// large columns the system is asked for large pages, some way ahead of where they end. It may refuse.
+// large columns the system is asked for large pages. It may refuse. The next column is asked for as well: the allocator
+// writes behind its end before it is read, and where there is a small page already, no large one comes.
 void wantLargePages([[maybe_unused]] std::span<std::byte> bytes) {
 #if defined(MADV_HUGEPAGE)
     constexpr std::uintptr_t kPage = 4096;
     constexpr std::size_t kWorthwhile = std::size_t{1} << 20;
-    constexpr std::size_t kAhead = std::size_t{2} << 20;
+    constexpr std::size_t kLargePage = std::size_t{2} << 20;
     if (bytes.size() >= kWorthwhile) {
         const std::uintptr_t begin = reinterpret_cast<std::uintptr_t>(bytes.data()) / kPage * kPage;
-        const std::uintptr_t end = reinterpret_cast<std::uintptr_t>(bytes.data()) + bytes.size() + kAhead;
+        const std::uintptr_t end = reinterpret_cast<std::uintptr_t>(bytes.data()) + 2 * bytes.size() + kLargePage;
         ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
     }
 #endif
