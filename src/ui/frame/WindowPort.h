@@ -19,7 +19,7 @@ class WindowPort : public QObject, public DocumentPort {
   public:
     /// Events are taken this often during a run: well below 20 ms, with what lies between two breaths and what the
     /// machine does meanwhile on top.
-    static constexpr int kMillisecondsBetweenEvents = 4;
+    static constexpr int kMillisecondsBetweenEvents = 2;
 
     WindowPort(QWidget& window, UserBoxes& boxes) : window_(window), boxes_(&boxes) {}
 
