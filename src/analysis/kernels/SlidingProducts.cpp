@@ -9,21 +9,29 @@ namespace vorlan {
 namespace {
 // Steps per call: long series pump within one block of lags.
 constexpr std::size_t kSteps = std::size_t{1} << 16;
+
+// The series between zeros. Fresh memory of a long one takes as long as what is done with it: some at a time.
+std::vector<double> padded(std::span<const double> series, std::size_t before, std::size_t behind, Progress& progress) {
+    std::vector<double> padded;
+    padded.reserve(before + series.size() + behind);
+    padded.resize(before, 0.0);
+    for (std::size_t first = 0; first < series.size(); first += kSteps) {
+        const std::span<const double> part = series.subspan(first, std::min(kSteps, series.size() - first));
+        padded.insert(padded.end(), part.begin(), part.end());
+        progress.pump();
+    }
+    padded.resize(before + series.size() + behind, 0.0);
+    return padded;
+}
+
 }  // namespace
 
 std::vector<double> slidingProducts(std::span<const double> x, std::span<const double> y, std::size_t lags,
                                     Progress& progress, const KernelSet& kernels) {
     const std::size_t block = kernels.maxLags;
     // A register may start at the last x; a block's later lags start before the first y and end behind the last.
-    // Fresh memory of long series takes as long as what is done with it: events are handled after each.
-    std::vector<double> paddedX(x.size() + kernels.lanes, 0.0);
-    progress.pump();
-    std::copy(x.begin(), x.end(), paddedX.begin());
-    progress.pump();
-    std::vector<double> paddedY(y.size() + 2 * block, 0.0);
-    progress.pump();
-    std::copy(y.begin(), y.end(), paddedY.begin() + static_cast<std::ptrdiff_t>(block));
-    progress.pump();
+    const std::vector<double> paddedX = padded(x, 0, kernels.lanes, progress);
+    const std::vector<double> paddedY = padded(y, block, block, progress);
     std::vector<double> result(lags);
     progress.pump();
     std::vector<double> sums(block);
