@@ -6,6 +6,7 @@
 #include "plot/PointNames.h"
 #include "plot/PolylineEnvelope.h"
 #include "plot/SeriesShapes.h"
+#include "plot/SlopeTriangle.h"
 
 namespace vorlan {
 
@@ -20,16 +21,20 @@ bool touches(const Box& box, const Line& line) {
     return clippedLine(line, {box.left, box.top, box.right - 1, box.bottom - 1}).has_value();
 }
 
-bool linesTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry) {
-    for (const std::vector<Spot>& part : polylineEnvelope(series, geometry, box.left, box.right).parts) {
-        // A point without neighbours is a dot.
-        for (std::size_t i = 0; i < part.size(); ++i) {
-            if (touches(box, {part[i > 0 ? i - 1 : 0], part[i]})) {
-                return true;
-            }
+bool lineTouches(const Box& box, const std::vector<Spot>& line) {
+    // A point without neighbours is a dot.
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (touches(box, {line[i > 0 ? i - 1 : 0], line[i]})) {
+            return true;
         }
     }
     return false;
+}
+
+bool linesTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry) {
+    const Polylines lines = polylineEnvelope(series, geometry, box.left, box.right);
+    return std::any_of(lines.parts.begin(), lines.parts.end(),
+                       [&](const std::vector<Spot>& part) { return lineTouches(box, part); });
 }
 
 bool markersTouch(const Box& box, const PlotSeries& series, const CScreenUtils& geometry, int size) {
@@ -74,9 +79,17 @@ bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geom
         }
         return false;
     };
-    const std::vector<PlacedText> names = pointTexts(diagram, geometry, measure, lengthScale);
+    const auto namesTouch = [&](const std::vector<PlacedText>& names) {
+        return std::any_of(names.begin(), names.end(), [&](const PlacedText& name) { return name.box.overlaps(box); });
+    };
+    const auto triangleComesIn = [&](const SlopeTriangle& triangle) {
+        const SlopeTriangleShape shape =
+            slopeTriangleShape(triangle, geometry, diagram.frame.labelFont, measure, lengthScale);
+        return lineTouches(box, shape.slope) || lineTouches(box, shape.legs) || namesTouch(shape.texts);
+    };
     return std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), comesIn) ||
-           std::any_of(names.begin(), names.end(), [&](const PlacedText& name) { return name.box.overlaps(box); });
+           std::any_of(diagram.triangles.begin(), diagram.triangles.end(), triangleComesIn) ||
+           namesTouch(pointTexts(diagram, geometry, measure, lengthScale));
 }
 
 }  // namespace vorlan

@@ -7,8 +7,8 @@
 
 namespace vorlan {
 
-/// Whether something that is drawn for a series of the diagram (strokes, markers, bars, arrows) or the name of a point
-/// comes into the box.
+/// Whether something that is drawn for a series of the diagram (strokes, markers, bars, arrows), a slope triangle or
+/// the name of a point comes into the box.
 bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geometry, const TextMeasure& measure,
                 double lengthScale);
 

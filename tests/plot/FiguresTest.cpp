@@ -92,6 +92,14 @@ TEST(Figures, LegendCoversNoData) {
     EXPECT_GT(outside, 5);
 }
 
+TEST(Figures, LegendCoversNoTriangle) {
+    Diagram diagram = diagramOf({wave(1.0, 1)});
+    for (const double from : {10.0, 130.0}) {
+        diagram.triangles = {{from, from + 25.0, 1.15, -0.01, "-5/3"}};
+        EXPECT_EQ(layoutOf(diagram).legend.inPlotArea, from == 10.0);
+    }
+}
+
 TEST(Figures, LabelsTellTheirMarks) {
     for (const double height : {0.1, 0.7, 3.0, 12.5, 640.0, 4e-5}) {
         for (const int digits : {0, 1, 2}) {
