@@ -4,6 +4,7 @@
 
 #include "model/Archive.h"
 #include "model/Index.h"
+#include "model/SampleMarks.h"
 
 namespace vorlan {
 
@@ -72,6 +73,9 @@ void SAdvProbe::Serialize(Archive& archive) {
     tabItems.Serialize(archive);
     for (SFrameAtrArray& frames : frameAttributes) {
         frames.Serialize(archive);
+    }
+    if (archive.isLoading()) {
+        marksMoved = !marksAreOfWorkingSamples(*this);
     }
 }
 

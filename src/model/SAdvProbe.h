@@ -208,7 +208,7 @@ class SAdvProbe : public SObject {
     /// By done mark; not stored either.
     std::array<bool, 6> stageIsOld{};
     /// Whether a record that a filter had shortened was clipped: the marks are then those of other samples. Not stored:
-    /// known while the workspace is open.
+    /// known while the workspace is open, and concluded from the record when one is read.
     bool marksMoved = false;
 
     friend bool operator==(const SAdvProbe&, const SAdvProbe&) = default;

@@ -45,7 +45,7 @@ void addRejected(Diagram& diagram, const SAdvProbe& probe) {
     const auto marks = probe.sampleFlags.view();
     PlotSeries rejected;
     for (const PlotSeries& line : diagram.plot.series) {
-        if (!probe.UsesAllSamples() || line.y.size() < marks.size()) {
+        if (!probe.UsesAllSamples() || line.y.size() != marks.size()) {
             return;
         }
         for (std::size_t i = 0; i < marks.size(); ++i) {

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include "Records.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
+#include "model/Archive.h"
 
 namespace vorlan::test {
 namespace {
@@ -41,6 +43,28 @@ TEST(Clipping, CutsEveryTableAndTheMarksAlike) {
     ASSERT_TRUE(clip(probe, 0.2, 0.4));
     EXPECT_EQ(unitsOf(velocity(probe, 0)), slice(before.workTables[0].GetAt(0), 30, 35));
     EXPECT_EQ(probe.sampleFlags.GetAt(0), 0);
+}
+
+TEST(Clipping, MarksOfOtherSamplesAreKnownAfterReopening) {
+    for (const bool shortened : {false, true}) {
+        SAdvProbe probe = velocityRecord(300);
+        probe.sampleFlags.SetAt(40, 0);
+        velocity(probe, 1).SetAt(40, 7);
+        if (shortened) {
+            for (SArray& column : probe.Velocities()) {
+                std::copy(column.begin() + 4, column.end(), column.begin());
+                column.SetSize(292);
+            }
+        }
+        ASSERT_TRUE(clip(probe, 1.0, 8.0));
+        EXPECT_EQ(probe.marksMoved, shortened);
+        Archive out = Archive::storing();
+        probe.Serialize(out);
+        SAdvProbe reopened;
+        Archive in = Archive::loading(out.bytes());
+        reopened.Serialize(in);
+        EXPECT_EQ(reopened.marksMoved, shortened);
+    }
 }
 
 TEST(Clipping, LimitsAreTruncatedRefusedOrLimitedToTheRecord) {
