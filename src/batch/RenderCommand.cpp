@@ -31,6 +31,9 @@ void requireFittingSizes(const CLI::App& app, const RenderRequest& request) {
             throw usageError(std::string(name) + ": " + faultOfSize(page));
         }
     }
+    if (const std::string fault = faultOfDpi(request.path); app.count("--dpi") > 0 && !fault.empty()) {
+        throw usageError("--dpi: " + fault);
+    }
 }
 
 void runRender(RenderArguments& arguments, const CLI::App& app, Console& console) {

@@ -39,7 +39,9 @@ RenderRequest renderRequestOf(const StepValues& values) {
     if (values.has("size")) {
         request.size = parsePictureSize(values.text("size")).value();
     }
-    request.dpi = values.integer("dpi");
+    if (values.has("dpi")) {
+        request.dpi = values.integer("dpi");
+    }
     if (values.has("right_bottom")) {
         request.showTable = values.choice("right_bottom") == 0;
     }
@@ -67,6 +69,9 @@ std::string faultOfRender(const StepValues& values) {
             return std::string("\"") + name + "\": " + faultOfSize(page);
         }
     }
+    if (const std::string fault = faultOfDpi(values.text("out")); values.has("dpi") && !fault.empty()) {
+        return "\"dpi\": " + fault;
+    }
     return faultOfTriangles(renderRequestOf(values));
 }
 
@@ -92,7 +97,7 @@ std::vector<StepKind> outputSteps() {
         {.name = "render",
          .keys = {required(choiceKey("stage", stageNames())), choiceKey("pane", paneNames()),
                   choiceKey("values", physicalValueNames(), "velocities"), textKey("size", {}, faultOfPictureSize),
-                  within(integerKey("dpi", kUsualDpi), kDpiRange.minimum, kDpiRange.maximum),
+                  within(integerKey("dpi", {}), kDpiRange.minimum, kDpiRange.maximum),
                   choiceKey("right_bottom", rightBottomNames()), choiceKey("paper", paperNames()),
                   booleanKey("landscape", {}), tripleKey("triangle"),
                   required(textKey("out", {}, faultOfPicturePattern))},

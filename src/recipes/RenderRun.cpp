@@ -76,6 +76,10 @@ const char* faultOfSize(bool page) {
     return page ? "a printed page has the size of its paper" : "only a .pdf of all panes stands on paper";
 }
 
+std::string faultOfDpi(const std::string& path) {
+    return formatOf(path) == RenderFormat::Png ? "" : "only a .png has dots per inch";
+}
+
 const std::vector<std::string>& rightBottomNames() {
     static const std::vector<std::string> names = {"table", "diagram"};
     return names;

@@ -47,6 +47,8 @@ struct RenderRequest {
 bool isPage(const std::optional<Pane>& pane, const std::string& path);
 /// Why a page takes no size of a picture, or a picture no paper.
 const char* faultOfSize(bool page);
+/// Why a picture of this path takes no dots per inch; empty for one that does.
+std::string faultOfDpi(const std::string& path);
 
 /// Why no picture can be written to the path; empty when one can.
 std::string faultOfPicturePath(const std::string& path);
