@@ -34,13 +34,17 @@ class Dice {
 
 const std::array<const char*, 11> kTexts = {"", "0", "1", "2", "7", "3.5", "-1", "0.25", "abc", "12", "1e2"};
 
+constexpr std::array<const char*, 3> kTables = {"a.csv", "b.txt", "torn.csv"};
+
 /// Answers every box with dice; paths are those of a folder of its own.
 class RandomBoxes : public ScriptedBoxes {
   public:
     RandomBoxes(Dice& dice, const QTemporaryDir& folder) : dice_(dice), folder_(folder) {}
 
+    bool reading = false;  ///< a workspace, and it was not refused yet
+
     bool confirm(QWidget*, const QString&) override { return !dice_.once(3); }
-    void refuse(QWidget*, const QString&) override {}
+    void refuse(QWidget*, const QString&) override { reading = false; }
     bool retry(QWidget*, const QString&) override { return false; }
     SaveAnswer askToSave(QWidget*, const QString&) override { return static_cast<SaveAnswer>(dice_.below(3)); }
     QString chooseWorkspaceToOpen(QWidget*, const QString&) override { return path({"a.avp", "b.avp", "torn.avp"}); }
@@ -49,6 +53,18 @@ class RandomBoxes : public ScriptedBoxes {
     QString chooseNewBoundary(QWidget*, const QString&) override { return path({"a.bnd", "b.bnd"}); }
     QString chooseBoundaryToOpen(QWidget*, const QString&) override { return path({"a.bnd", "torn.bnd", "c.bnd"}); }
     QString chooseBoundaryToSave(QWidget*, const QString&) override { return path({"a.bnd", "b.bnd"}); }
+    QStringList chooseTables(QWidget*, const QString&) override {
+        QStringList paths;
+        for (int i = dice_.below(4); i > 0; --i) {
+            paths.append(folder_.filePath(QString::fromUtf8(dice_.of(kTables))));
+        }
+        return paths;
+    }
+    QString chooseRecipeToSave(QWidget*, const QString&) override { return path({"a.toml", "a.avp", "no/where.toml"}); }
+    QString chooseRecipeToOpen(QWidget*, const QString&) override { return path({"a.toml", "a.toml", "torn.avp"}); }
+    QString chooseFigure(QWidget*, const QString&) override {
+        return path({"a.png", "a.svg", "a.pdf", "a.avp", "no/where.png"});
+    }
     bool choosePrinter(QWidget*, QPrinter&, PrintChoice&) override { return false; }
     bool choosePaper(QWidget*, QPrinter&) override { return false; }
     void showPreview(QDialog&) override {}
@@ -71,12 +87,29 @@ class RandomUser {
         driver_.document().SaveWorkspace(driver_.path("b.avp").toStdString());
         driver_.simulate(12.0);
         driver_.document().SaveWorkspace(driver_.path("a.avp").toStdString());
-        for (const char* torn : {"torn.avp", "torn.bnd"}) {
-            QFile file(driver_.path(torn));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("1.59\n1 2\n") > 0);
+        writeFile("torn.avp", "1.59\n1 2\n");
+        writeFile("torn.bnd", "1.59\n1 2\n");
+        QByteArray commas = "time,u,v,w\n";
+        QByteArray blanks = "u\n";
+        for (int i = 0; i < 60; ++i) {
+            const QByteArray value = QByteArray::number(i * i % 17);
+            commas += QByteArray::number(i * 0.25) + ',' + value + ",-" + value + ",0." + value + '\n';
+            blanks += value + '\n';
         }
+        writeFile("a.csv", commas);
+        writeFile("b.txt", blanks);
+        writeFile("torn.csv", commas + "1,\"");
+        // A workspace that was opened has other bytes to come back to.
+        const WorkspaceFiles& files = driver_.frame->files();
+        QObject::connect(&files, &WorkspaceFiles::waiting, [this](const QString& text) {
+            boxes_.reading = text.startsWith(QLatin1String("Reading")) || (text.isEmpty() && boxes_.reading);
+        });
+        QObject::connect(&files, &WorkspaceFiles::recentListChanged, [this] {
+            if (std::exchange(boxes_.reading, false)) {
+                loaded_ = stored();
+            }
+        });
         driver_.frame->files().openPath(driver_.path("a.avp"));
-        loaded_ = stored();
     }
 
     /// What was done last, for whoever finds what it led to.
@@ -147,17 +180,19 @@ class RandomUser {
         if (--depth_ == 0) {
             QCoreApplication::processEvents();
         }
-        // Another workspace has other bytes to come back to.
-        const QString status = driver_.status();
-        if (status.endsWith(QLatin1String(" opened")) || status == QLatin1String("Empty workspace")) {
-            if (driver_.document().UndoName() == nullptr && driver_.document().RedoName() == nullptr) {
-                loaded_ = stored();
-            }
+        if (driver_.status() == QLatin1String("Empty workspace")) {
+            loaded_ = stored({});
         }
     }
 
-    QByteArray stored() {
-        Workspace copy = driver_.document().GetWorkspace();
+    void writeFile(const char* name, const QByteArray& text) {
+        QFile file(driver_.path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+
+    QByteArray stored() { return stored(driver_.document().GetWorkspace()); }
+
+    static QByteArray stored(Workspace copy) {
         Archive archive = Archive::storing();
         copy.Serialize(archive);
         const auto bytes = archive.takeBytes();
@@ -247,7 +282,8 @@ class RandomUser {
 
     void drop() {
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(driver_.path(dice_.once(2) ? "b.avp" : "torn.avp"))});
+        static constexpr std::array names = {"a.avp", "b.avp", "torn.avp", "a.csv", "torn.csv"};
+        data.setUrls({QUrl::fromLocalFile(driver_.path(dice_.of(names)))});
         did(QStringLiteral("drop"), [&] {
             QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
             QApplication::sendEvent(driver_.frame.get(), &event);
