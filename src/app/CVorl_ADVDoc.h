@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "analysis/Editing.h"
 #include "analysis/Simulation.h"
@@ -117,8 +118,9 @@ class CVorl_ADVDoc {
     // Data files.
 
     Outcome CloseFile();
-    /// Appends a data file made elsewhere and selects it, without a probe. command names where it comes from.
-    void AppendFile(SAdvFile file, const char* command = "Import Table");
+    /// Appends data files made elsewhere, in one step, and selects the last, without a probe. command names where they
+    /// come from.
+    void AppendFiles(std::vector<SAdvFile> files, const char* command = "Import Table");
     Outcome SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed);
 
     // Pre-processing. Each ends with the change rule: when a stage of the probe is done, the user is asked whether all

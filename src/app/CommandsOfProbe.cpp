@@ -29,12 +29,12 @@ ProbeCommands CVorl_ADVDoc::CommandsOfProbe() const {
                 found.commands.push_back(&*done);
             }
         }
-        if (const auto& part = step->replaced.file) {
-            const bool wasClosed = part->file.has_value();
-            if (!wasClosed && part->index == found.file) {
+        if (const auto& part = step->replaced.files) {
+            const bool wasClosed = !part->files.empty();
+            if (!wasClosed && part->index <= found.file) {
                 break;  // Here the probe came.
             }
-            found.file += wasClosed && part->index <= found.file ? 1 : 0;
+            found.file += wasClosed && part->index <= found.file ? part->count : 0;
         }
         found.settings = step->replaced.settings.value_or(found.settings);
     }

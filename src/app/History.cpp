@@ -36,20 +36,33 @@ void History::ForgetTakenBackOpening() {
     }
 }
 
+const char* History::UndoName() const {
+    if (done_ > 0) {
+        return steps_[done_].command;
+    }
+    const bool selected = steps_.size() > 1 && !steps_.front().selections.IsEmpty();
+    return selected && !openingTakenBack_ ? kSelection : nullptr;
+}
+
+const char* History::RedoName() const {
+    if (openingTakenBack_) {
+        return kSelection;
+    }
+    return done_ + 1 < steps_.size() ? steps_[done_ + 1].command : nullptr;
+}
+
 void History::Undo(Workspace& workspace) {
     Step& step = steps_[done_];
     step.selections.Exchange(workspace);
     step.replaced.Exchange(workspace);
-    --done_;
-    if (done_ == 0) {
-        steps_.front().selections.Exchange(workspace);
-        openingTakenBack_ = true;
-    }
+    openingTakenBack_ = done_ == 0;
+    done_ -= done_ == 0 ? 0 : 1;
 }
 
 void History::Redo(Workspace& workspace) {
     if (std::exchange(openingTakenBack_, false)) {
         steps_.front().selections.Exchange(workspace);
+        return;
     }
     ++done_;
     steps_[done_].replaced.Exchange(workspace);

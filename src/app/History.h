@@ -13,10 +13,13 @@ namespace vorlan {
 /// What was done to a workspace since it was made or opened, to be taken back and done again without a limit. A step
 /// holds what its command replaced, and columns are shared: it costs what the command changed.
 ///
-/// Selections are no steps of their own. They go back with the command in front of them, those before the first
-/// command with that one, so that the workspace is the opened one when everything is taken back.
+/// Selections are no steps of their own: they go back with the command in front of them. Those before the first command
+/// make a step, kSelection, once that command is taken back: the view stays where the command was given, and the
+/// workspace is the opened one when everything is taken back.
 class History {
   public:
+    static constexpr const char* kSelection = "Selection";
+
     struct Step {
         const char* command = nullptr;
         std::uint64_t number = 0;
@@ -33,8 +36,8 @@ class History {
     void RecordSelection(WorkspacePatch replaced, DoneCommands done);
 
     /// Name of the command that Undo() takes back or Redo() does again; null when there is none.
-    const char* UndoName() const { return steps_[done_].command; }
-    const char* RedoName() const { return done_ + 1 < steps_.size() ? steps_[done_ + 1].command : nullptr; }
+    const char* UndoName() const;
+    const char* RedoName() const;
     /// Need a name.
     void Undo(Workspace& workspace);
     void Redo(Workspace& workspace);

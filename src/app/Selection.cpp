@@ -211,7 +211,7 @@ Outcome CVorl_ADVDoc::CloseFile() {
     const std::string name = utf8Text(File().fileName);
     WorkspacePatch patch;
     WorkspaceSettings settings = Settings();
-    patch.file = {ActiveFile(), std::nullopt};
+    patch.files = {ActiveFile(), 1};
     // The indexes step down before the removal, so closing the first of several files leaves none selected.
     --settings.previousFile;
     --settings.activeFile;

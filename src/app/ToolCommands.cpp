@@ -1,6 +1,7 @@
 // The document's commands that are no stage of a probe: new records, the convective velocity, printed pages.
 #include "app/CVorl_ADVDoc.h"
 #include "app/CommandReports.h"
+#include "model/Index.h"
 #include "model/PageLayout.h"
 #include "model/StageTable.h"
 #include "model/Text.h"
@@ -8,16 +9,20 @@
 namespace vorlan {
 
 Outcome CVorl_ADVDoc::SimulateTimeSeries(const SimulationParameters& parameters, std::uint64_t seed) {
-    AppendFile(simulate(parameters, seed), "Simulate Time Series");
+    AppendFiles({simulate(parameters, seed)}, "Simulate Time Series");
     return Report(Outcome::Done, [&] { return simulationReport(File()); });
 }
 
-void CVorl_ADVDoc::AppendFile(SAdvFile file, const char* command) {
+void CVorl_ADVDoc::AppendFiles(std::vector<SAdvFile> files, const char* command) {
+    if (files.empty()) {
+        return;
+    }
     WorkspacePatch patch;
     const int index = workspace_.dataFiles.files.GetSize();
-    patch.file = {index, std::move(file)};
+    const int count = asInt(files.size());
+    patch.files = {index, count, std::move(files)};
     patch.settings = Settings();
-    patch.settings->activeFile = index;
+    patch.settings->activeFile = index + count - 1;
     patch.settings->activeProbe = -1;
     patch.settings->activeItem = -1;
     TakeOverSelection(*patch.settings);

@@ -1,8 +1,11 @@
 #include "app/WorkspacePatch.h"
 
 #include <algorithm>
+#include <iterator>
 #include <type_traits>
 #include <utility>
+
+#include "model/Index.h"
 
 namespace vorlan {
 
@@ -19,13 +22,19 @@ void exchange(std::optional<T>& part, T& held) {
     }
 }
 
-void exchangeFile(std::optional<SAdvFile>& file, int index, SAdvFilesArray& files) {
-    if (file.has_value()) {
-        files.InsertAt(index, std::move(*file));
-        file.reset();
+void exchangeFiles(WorkspacePatch::FilesPart& part, SAdvFilesArray& files) {
+    if (part.files.empty()) {
+        part.files.reserve(asSize(part.count));
+        const auto first = files.begin() + part.index;
+        std::move(first, first + part.count, std::back_inserter(part.files));
+        std::move(first + part.count, files.end(), first);
+        files.SetSize(files.GetSize() - part.count);
     } else {
-        file = std::move(files.ElementAt(index));
-        files.RemoveAt(index);
+        files.SetSize(files.GetSize() + part.count);
+        const auto first = files.begin() + part.index;
+        std::move_backward(first, files.end() - part.count, files.end());
+        std::move(part.files.begin(), part.files.end(), first);
+        part.files.clear();
     }
 }
 
@@ -64,13 +73,13 @@ WorkspacePatch WorkspacePatch::Between(const Workspace& from, const Workspace& t
 }
 
 bool WorkspacePatch::IsEmpty() const {
-    return !settings && probes.empty() && !file && !planFrames && !boundaries && !pages;
+    return !settings && probes.empty() && !files && !planFrames && !boundaries && !pages;
 }
 
 void WorkspacePatch::Exchange(Workspace& workspace) {
     // First what needs memory, then what needs none.
-    if (file.has_value()) {
-        exchangeFile(file->file, file->index, workspace.dataFiles.files);
+    if (files.has_value()) {
+        exchangeFiles(*files, workspace.dataFiles.files);
     }
     exchange(settings, workspace.settings);
     for (ProbePart& part : probes) {
@@ -83,7 +92,7 @@ void WorkspacePatch::Exchange(Workspace& workspace) {
 
 bool WorkspacePatch::IsIn(const Workspace& workspace) const {
     const auto same = [](const auto& part, const auto& held) { return !part.has_value() || *part == held; };
-    return !file.has_value() && same(settings, workspace.settings) &&
+    return !files.has_value() && same(settings, workspace.settings) &&
            same(planFrames, workspace.dataFiles.frameAttributes) && same(boundaries, workspace.boundaries) &&
            same(pages, workspace.pages) && std::all_of(probes.begin(), probes.end(), [&](const ProbePart& part) {
                return workspace.dataFiles.files.GetAt(part.file).probes.GetAt(part.probe) == part.value;

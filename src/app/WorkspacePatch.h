@@ -16,16 +16,17 @@ struct WorkspacePatch {
         int probe;
         SAdvProbe value;
     };
-    /// With a file: it goes in at index. Without: the file at index is taken out.
-    struct FilePart {
+    /// With files: they go in at index. Without: the count files from index on are taken out.
+    struct FilesPart {
         int index;
-        std::optional<SAdvFile> file;
+        int count;
+        std::vector<SAdvFile> files = {};
     };
 
     std::optional<WorkspaceSettings> settings = std::nullopt;
-    /// Probes beside a file part belong to files in front of it, whose indexes it does not move.
+    /// Probes beside a part of files belong to files in front of it, whose indexes it does not move.
     std::vector<ProbePart> probes = {};
-    std::optional<FilePart> file = std::nullopt;
+    std::optional<FilesPart> files = std::nullopt;
     std::optional<SFrameAtrArray> planFrames = std::nullopt;
     std::optional<SBndSet> boundaries = std::nullopt;
     std::optional<SPageAtrArray> pages = std::nullopt;
@@ -40,7 +41,7 @@ struct WorkspacePatch {
     /// True when it differs from the workspace in what is selected only.
     bool OnlySelects(const Workspace& workspace) const;
     /// Two exchanged patches as one: this one was exchanged first, so its parts are the older ones and stay. later has
-    /// no file part.
+    /// no part of files.
     void Precede(WorkspacePatch later);
 };
 

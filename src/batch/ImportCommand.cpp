@@ -109,9 +109,7 @@ Subcommand addImportCommand(CLI::App& program) {
                 if (options->append) {
                     update.emplace(document, options->out, console);
                 }
-                for (SAdvFile& file : readFiles(*options, console)) {
-                    document.AppendFile(std::move(file));
-                }
+                document.AppendFiles(readFiles(*options, console));
                 document.SelectProbe(0);
                 update ? update->save() : saveDocument(document, options->out);
                 return ExitStatus::Done;

@@ -45,6 +45,9 @@ void Figures::save(const PaperSize& paper) {
     if (!path.endsWith(suffix, Qt::CaseInsensitive)) {
         path += suffix;
     }
+    if (isRefusedPipe(path, *boxes_, &window_)) {
+        return report_(QString::fromLatin1(kCancelledReport));
+    }
     const std::string file = QFile::encodeName(path).toStdString();
     const std::string refusal = refusalToReplace(file);
     if (!refusal.empty()) {

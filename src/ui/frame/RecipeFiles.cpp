@@ -82,7 +82,7 @@ std::string bytesOf(const QString& path) {
 void RecipeFiles::save() {
     const QString proposed = QFileInfo(files_.documentName()).completeBaseName() + QStringLiteral(".toml");
     const QString path = boxes_->chooseRecipeToSave(&window_, QDir(files_.folder()).filePath(proposed));
-    if (path.isEmpty()) {
+    if (path.isEmpty() || isRefusedPipe(path, *boxes_, &window_)) {
         return report_(QString::fromLatin1(kCancelledReport));
     }
     const std::string refusal = refusalToReplace(bytesOf(path));

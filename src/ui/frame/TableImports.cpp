@@ -86,19 +86,14 @@ std::optional<ImportFault> TableImports::tryToRead(const TableImport& import) {
 }
 
 void TableImports::append() {
-    QString done;
-    for (SAdvFile& file : read_) {
-        const SAdvProbe& probe = file.probes.GetAt(0);
-        done = QStringLiteral("%1 imported: %2 samples, %3 s")
-                   .arg(QString::fromStdString(utf8Text(file.fileName)))
-                   .arg(probe.WorkingSamples())
-                   .arg(probe.WorkingSamples() * probe.samplingInterval, 0, 'f', 2);
-        document_.AppendFile(std::move(file));
-    }
-    if (read_.size() > 1) {
-        done = QStringLiteral("%1 tables imported").arg(read_.size());
-    }
-    read_.clear();
+    const SAdvFile& last = read_.back();
+    const SAdvProbe& probe = last.probes.GetAt(0);
+    const QString done = read_.size() > 1 ? QStringLiteral("%1 tables imported").arg(read_.size())
+                                          : QStringLiteral("%1 imported: %2 samples, %3 s")
+                                                .arg(QString::fromStdString(utf8Text(last.fileName)))
+                                                .arg(probe.WorkingSamples())
+                                                .arg(probe.WorkingSamples() * probe.samplingInterval, 0, 'f', 2);
+    document_.AppendFiles(std::exchange(read_, {}));
     document_.SelectProbe(0);
     report_(done);
 }
