@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-
 #include "io/FileError.h"
 #include "io/TempFolder.h"
 

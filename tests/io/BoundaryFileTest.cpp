@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 #include "io/TempFolder.h"
 
 namespace vorlan {

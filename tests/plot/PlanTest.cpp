@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-
 #include "plot/FixedMeasure.h"
 #include "plot/PointNames.h"
 #include "plot/PolylineEnvelope.h"

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 #include "plot/FixedMeasure.h"
 
 using namespace vorlan;
