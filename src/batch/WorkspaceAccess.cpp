@@ -53,7 +53,7 @@ void copyWorkspace(const std::filesystem::path& from, const std::filesystem::pat
         }
     };
     InputFile source = reading([&] { return InputFile(from); });
-    AtomicFile target = writing([&] { return AtomicFile(to); });
+    AtomicFile target = writing([&] { return AtomicFile(to, LaterFile::Kept); });
     std::vector<std::byte> buffer(std::min(source.size(), kPiece));
     for (std::size_t left = source.size(); left > 0;) {
         const std::span<std::byte> piece = std::span(buffer).first(std::min(left, buffer.size()));

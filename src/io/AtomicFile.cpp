@@ -88,7 +88,8 @@ class AtomicFileBuffer : public std::streambuf {
 
 }  // namespace
 
-AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), target_(linkEnd(path)) {
+AtomicFile::AtomicFile(const std::filesystem::path& path, LaterFile later)
+    : path_(path), target_(linkEnd(path)), later_(later) {
     struct stat status {};
     const bool exists = ::stat(target_.c_str(), &status) == 0;
     if (!exists && errno != ENOENT) {
@@ -111,6 +112,7 @@ AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), target_
     }
     openTemporary(exists ? S_IRUSR | S_IWUSR : 0666);
     if (exists) {
+        replaced_ = status;
         // Only the superuser can keep the owner; a group that cannot be kept either must not lend its rights to
         // another.
         const bool groupKept = ::fchown(file_.get(), status.st_uid, status.st_gid) == 0 ||
@@ -212,10 +214,27 @@ void AtomicFile::takePlace() {
     } else if (file_.close() != 0 && errno != EINTR) {
         fail(errno);
     }
+    if (later_ == LaterFile::Kept) {
+        requireNoLaterFile();
+    }
     if (::rename(temporary_.c_str(), target_.c_str()) != 0) {
         fail(errno);
     }
     temporary_.clear();
+}
+
+void AtomicFile::requireNoLaterFile() const {
+    struct stat now {};
+    if (::stat(target_.c_str(), &now) != 0) {
+        if (errno != ENOENT) {
+            fail(errno);
+        }
+        return;
+    }
+    if (!replaced_ || now.st_ino != replaced_->st_ino || now.st_size != replaced_->st_size ||
+        now.st_mtim.tv_sec != replaced_->st_mtim.tv_sec || now.st_mtim.tv_nsec != replaced_->st_mtim.tv_nsec) {
+        throw FileError::cannotWrite(FileError::Kind::Unwritable, path_, "another program has written it meanwhile");
+    }
 }
 
 void AtomicFile::fail(int error) const {

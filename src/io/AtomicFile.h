@@ -1,9 +1,12 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <iosfwd>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,6 +14,9 @@
 #include "io/FileDescriptor.h"
 
 namespace vorlan {
+
+/// What becomes of a file that another program writes, or puts in the target's place, while this one is written.
+enum class LaterFile { Replaced, Kept };
 
 /// A file that takes the place of another only when it is complete.
 ///
@@ -21,10 +27,11 @@ namespace vorlan {
 /// replaced are kept; other hard links to it keep the old content, extended attributes are lost. A target that is a
 /// device or a pipe is written directly, since a rename would replace the device.
 ///
-/// Every failure throws FileError of kind Unwritable, NotAFile (a folder) or Missing (no such folder).
+/// Every failure throws FileError of kind Unwritable (also of commit() where a later file is kept), NotAFile (a folder)
+/// or Missing (no such folder).
 class AtomicFile {
   public:
-    explicit AtomicFile(const std::filesystem::path& path);
+    explicit AtomicFile(const std::filesystem::path& path, LaterFile later = LaterFile::Replaced);
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;
     AtomicFile& operator=(const AtomicFile&) = delete;
@@ -39,6 +46,7 @@ class AtomicFile {
     void tryNames(const std::function<bool(const char*)>& take);
     /// Gives the complete file the target's name.
     void takePlace();
+    void requireNoLaterFile() const;
     /// Where the system shows the open file.
     std::string ownPath() const;
     std::filesystem::path folder() const;
@@ -48,6 +56,8 @@ class AtomicFile {
     std::filesystem::path target_;     // the link's end
     std::filesystem::path temporary_;  // empty when the target is written directly, or while the file has no name
     bool nameless_ = false;
+    LaterFile later_;
+    std::optional<struct stat> replaced_;  // the target as it was; nothing where there was none
     FileDescriptor file_;
 };
 

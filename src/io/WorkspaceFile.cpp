@@ -88,7 +88,7 @@ std::string refusalToReplace(const std::filesystem::path& path) {
 }
 
 void saveWorkspace(Workspace& workspace, const std::filesystem::path& path) {
-    AtomicFile file(path);
+    AtomicFile file(path, LaterFile::Kept);
     AtomicFileSink sink(file);
     Archive archive = Archive::storing(sink);
     workspace.Serialize(archive);

@@ -23,7 +23,8 @@ FileKind kindOfFile(const std::filesystem::path& path);
 std::string refusalToReplace(const std::filesystem::path& path);
 
 /// Replaces the file by the workspace, complete or not at all (see AtomicFile). Columns go to the file as they lie in
-/// the model: no second copy is held. The workspace is not changed.
+/// the model: no second copy is held. The workspace is not changed. What another program saves there meanwhile stays:
+/// FileError Unwritable.
 void saveWorkspace(Workspace& workspace, const std::filesystem::path& path);
 
 }  // namespace vorlan

@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <new>
 #include <set>
+#include <utility>
 
 namespace vorlan::test {
 namespace {
@@ -39,6 +40,12 @@ bool isOpenedHere(int file) {
 bool goesWrong(const char* name, int flags = 0) {
     watch->calls.push_back({name, flags});
     if (static_cast<int>(watch->calls.size()) != watch->fault.call + 1) {
+        return false;
+    }
+    if (watch->fault.first) {
+        Watch* const watching = std::exchange(watch, nullptr);
+        watching->fault.first();
+        watch = watching;
         return false;
     }
     errno = watch->fault.error;

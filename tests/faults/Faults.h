@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,9 @@ struct SystemCall {
 
 /// What a call does instead of its work: fails with an error number, or does a part of it.
 struct Fault {
-    int call = -1;  ///< index among the calls on the folder; -1 none
-    int error = 0;  ///< 0: half of what was asked for is read or written
+    int call = -1;                ///< index among the calls on the folder; -1 none
+    int error = 0;                ///< 0: half of what was asked for is read or written
+    std::function<void()> first;  ///< what another program does before the call, which then goes well
 };
 
 /// From now on calls on files below the folder are told, and one of them goes wrong.

@@ -110,7 +110,7 @@ TEST_P(FileFaults, LeaveTheOldFilesOrTheNewOnes) {
         for (const int error : errorsOf(call)) {
             restore();
             SCOPED_TRACE("call " + std::to_string(n) + ", " + call.name + ": " + systemReason(error));
-            test::watchCalls(path(""), {n, error});
+            test::watchCalls(path(""), {n, error, {}});
             const Result result = run(arguments_);
             test::watchedCalls();
             expectOldOrNew(files(), fresh, result.status != 0);
@@ -130,6 +130,55 @@ TEST_P(FileFaults, LeaveTheOldFilesOrTheNewOnes) {
     }
     restore();
     done(arguments_);
+}
+
+using OtherPrograms = BatchTest;
+
+// What one of them did before the run looked at the file is changed by the run; what it did later stays, and the run
+// says so. Only between two looks that follow each other, and between the last one and the renaming, it would be lost.
+TEST_F(OtherPrograms, LoseNothingWhateverTheyDoToAFileThatIsChanged) {
+    const std::string file = simulated("in.avp");
+    const std::string old = read(file);
+    done({"simulate", "--out", path("other.avp"), "--length", "8"});
+    const std::string others = read(path("other.avp"));
+    const std::vector<std::string> append = {"simulate", "--append", "--out", file, "--length", "4", "--seed", "3"};
+    const std::map<std::string, std::function<void()>> deeds = {
+        {"replaces", [&] { std::filesystem::rename(write("new.avp", others), file); }},
+        {"writes", [&] { write("in.avp", others); }},
+        {"shortens", [&] { std::filesystem::resize_file(file, old.size() / 2); }},
+        {"removes", [&] { std::filesystem::remove(file); }}};
+    test::watchCalls(path(""));
+    done(append);
+    const int calls = static_cast<int>(test::watchedCalls().size());
+    for (const auto& [deed, act] : deeds) {
+        bool looked = false;
+        for (int n = 0; n < calls; ++n) {
+            SCOPED_TRACE(deed + " before call " + std::to_string(n));
+            write("in.avp", old);
+            std::string left;
+            test::watchCalls(path(""), {n, 0, [&] {
+                                            act();
+                                            left = std::filesystem::exists(file) ? read(file) : "";
+                                        }});
+            const Result result = run(append);
+            const auto watched = test::watchedCalls();
+            const std::string& name = watched[static_cast<std::size_t>(n)].name;
+            const bool late = std::none_of(watched.begin() + n + 1, watched.end(),
+                                           [](const SystemCall& call) { return call.name == "rename"; });
+            const std::string found = std::filesystem::exists(file) ? read(file) : "";
+            if (result.status != 0) {
+                looked = true;
+                EXPECT_TRUE(result.status == 3 || result.status == 4) << result.err;
+                EXPECT_TRUE(holds(result.err, file));
+                EXPECT_TRUE(sameBytes(found, left));
+            } else if (!late) {
+                EXPECT_GT(openWorkspace(file).dataFiles.files.GetSize(), 1);
+                EXPECT_TRUE(!looked || left.empty() || name == "stat" || name == "rename")
+                    << "what the other program wrote is lost";
+            }
+        }
+        EXPECT_TRUE(looked || deed == "removes");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
