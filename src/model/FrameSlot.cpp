@@ -40,8 +40,33 @@ std::vector<FrameSlot> frameSlotsOf(Stage stage) {
     return slots;
 }
 
-void takeStyle(FrameAttributesType& frame, const FrameAttributesType& other) {
-    frame.scaleType = other.scaleType;
+const std::vector<ScaleType>& scalesOf(const FrameSlot& slot) {
+    static const std::vector<ScaleType> linear = {ScaleType::Linear};
+    static const std::vector<ScaleType> anyX = {ScaleType::Linear, ScaleType::LogXLinearY};
+    static const std::vector<ScaleType> all = {ScaleType::Linear, ScaleType::Logarithmic, ScaleType::LinearXLogY,
+                                               ScaleType::LogXLinearY};
+    if (slot.inSet) {
+        return linear;
+    }
+    // Spectra and structure functions, amplitudes of cross spectra.
+    if ((slot.group == asInt(Stage::Spectral) && (slot.record == 1 || slot.record == 2)) ||
+        (slot.group == asInt(Stage::CrossSpectral) && slot.record == 1)) {
+        return all;
+    }
+    // Coherence and phase.
+    return slot.group == asInt(Stage::CrossSpectral) && slot.record >= 2 ? anyX : linear;
+}
+
+bool allowsScale(const FrameSlot& slot, std::int32_t scaleType) {
+    const std::vector<ScaleType>& scales = scalesOf(slot);
+    return std::find(scales.begin(), scales.end(), static_cast<ScaleType>(scaleType)) != scales.end();
+}
+
+void takeStyle(const FrameSlot& slot, FrameAttributesType& frame, const FrameSlot& otherSlot,
+               const FrameAttributesType& other) {
+    if (scalesOf(otherSlot).size() > 1 && allowsScale(slot, other.scaleType)) {
+        frame.scaleType = other.scaleType;
+    }
     frame.frameStyle = other.frameStyle;
     frame.tickSize = other.tickSize;
     frame.markSize = other.markSize;

@@ -23,8 +23,13 @@ std::optional<FrameSlot> frameSlotOf(Stage stage, Pane pane, PhysicalValue value
 /// The slots of every diagram of a stage, those of the stresses included.
 std::vector<FrameSlot> frameSlotsOf(Stage stage);
 
-/// Gives a diagram what says how another one is drawn: scale, frame, ticks and marks, fonts and legend. Titles, limits,
-/// digits and grid stay.
-void takeStyle(FrameAttributesType& frame, const FrameAttributesType& other);
+/// The scale types that the diagram of a slot may be drawn with, the usual one first.
+const std::vector<ScaleType>& scalesOf(const FrameSlot& slot);
+bool allowsScale(const FrameSlot& slot, std::int32_t scaleType);
+
+/// Gives the diagram of a slot what says how that of another one is drawn: frame, ticks and marks, fonts and legend.
+/// The scale goes from a diagram that has a choice to one that may have it. Titles, limits, digits and grid stay.
+void takeStyle(const FrameSlot& slot, FrameAttributesType& frame, const FrameSlot& otherSlot,
+               const FrameAttributesType& other);
 
 }  // namespace vorlan

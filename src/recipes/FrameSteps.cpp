@@ -164,8 +164,12 @@ Outcome runFrame(StepContext& context, const StepValues& values) {
     const bool limits = std::any_of(std::begin(kFreeValues), std::end(kFreeValues),
                                     [&](const FreeValue& key) { return values.has(key.name); });
     // Called on copies: nothing is written when one is refused.
-    const auto change = [&](const FrameSlot&, FrameAttributesType& frame) {
+    const auto change = [&](const FrameSlot& changed, FrameAttributesType& frame) {
+        const std::int32_t scale = frame.scaleType;
         apply(values, frame);
+        if (allPanes && !allowsScale(changed, frame.scaleType)) {
+            frame.scaleType = scale;
+        }
         const Refusal refused = limitsRefusal(frame);
         if (limits && !refused.empty()) {
             throw refusal(refused.text);

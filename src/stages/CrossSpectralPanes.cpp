@@ -13,9 +13,6 @@ namespace vorlan {
 
 namespace {
 
-const std::vector<ScaleType> kAllScales = {ScaleType::Linear, ScaleType::Logarithmic, ScaleType::LinearXLogY,
-                                           ScaleType::LogXLinearY};
-const std::vector<ScaleType> kAnyFrequencyScale = {ScaleType::Linear, ScaleType::LogXLinearY};
 constexpr int kPhaseMarkerSize = 4;
 constexpr std::array<const char*, kStressPairs> kPairLabels = {"u'-v'", "u'-w'", "v'-w'"};
 constexpr std::array<const char*, kStressPairs> kReynoldsLabels = {"-u'v'", "-u'w'", "-v'w'"};
@@ -121,19 +118,17 @@ PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* pr
             Diagram diagram = overFrequency(request, *probe, request.value,
                                             [&](int pair) { return crossSpectrum(*probe, pair, request.value); });
             // Co-spectra of the stresses have both signs; amplitudes are never negative.
-            if (request.value == PhysicalValue::Velocities) {
-                diagram.allowedScales = kAllScales;
+            if (request.value == PhysicalValue::Stresses) {
+                diagram.allowedScales = {ScaleType::Linear};
             }
             return diagramOrMessage(std::move(diagram));
         }
         case Pane::RightTop: {
             Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, columnsOf(probe->Coherence()));
-            diagram.allowedScales = kAnyFrequencyScale;
             return diagramOrMessage(std::move(diagram));
         }
         case Pane::RightBottom: {
             Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, columnsOf(probe->Phase()));
-            diagram.allowedScales = kAnyFrequencyScale;
             drawAsPoints(diagram);
             markQuarters(diagram.frame);
             return diagramOrMessage(std::move(diagram));

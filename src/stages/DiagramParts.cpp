@@ -29,6 +29,7 @@ Diagram newDiagram(const PaneRequest& request, const SAdvProbe* probe) {
         const FrameAttributesType usual =
             slot->inSet ? defaultPlanFrame(slot->record) : defaultFrame(slot->group, slot->record);
         diagram.usualDigits = {usual.xDigits, usual.yDigits};
+        diagram.allowedScales = scalesOf(*slot);
     }
     return diagram;
 }

@@ -11,9 +11,6 @@ namespace vorlan {
 
 namespace {
 
-const std::vector<ScaleType> kAllScales = {ScaleType::Linear, ScaleType::Logarithmic, ScaleType::LinearXLogY,
-                                           ScaleType::LogXLinearY};
-
 PaneContent correlationFunctions(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
@@ -26,7 +23,6 @@ PaneContent correlationFunctions(const PaneRequest& request, const SAdvProbe& pr
 
 PaneContent powerSpectra(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
-    diagram.allowedScales = kAllScales;
     beginXAtZero(diagram.frame);
     nameFrequencyUnit(diagram.frame, probe.spectralUnit);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
@@ -41,7 +37,6 @@ PaneContent powerSpectra(const PaneRequest& request, const SAdvProbe& probe) {
 
 PaneContent structureFunctions(const PaneRequest& request, const SAdvProbe& probe) {
     Diagram diagram = newDiagram(request, &probe);
-    diagram.allowedScales = kAllScales;
     beginXAtZero(diagram.frame);
     for (int c = 0; c < SAdvProbe::kComponents; ++c) {
         diagram.plot.series.push_back(curve(plotValues(probe.Series(c).structureFunction),

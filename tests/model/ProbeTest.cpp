@@ -4,6 +4,8 @@
 
 #include "model/Angles.h"
 #include "model/Archive.h"
+#include "model/DefaultFrames.h"
+#include "model/FrameSlot.h"
 #include "model/ProbeInformation.h"
 #include "model/SAdvProbe.h"
 
@@ -102,6 +104,27 @@ TEST(RotatePair, TurnsFromTheFirstAxisToTheSecond) {
     y = 0.0;
     RotatePair(x, y, 180.0);
     EXPECT_EQ(y, std::sin(3.141592653589));
+}
+
+TEST(Frames, GiveScalesWhereThereIsAChoice) {
+    const FrameSlot correlations{false, 3, 0};
+    const FrameSlot spectra{false, 3, 1};
+    const FrameSlot structures{false, 3, 2};
+    const FrameSlot coherence{false, 6, 2};
+    const auto given = [](const FrameSlot& from, ScaleType scale, const FrameSlot& to) {
+        FrameAttributesType other;
+        other.scaleType = static_cast<std::int32_t>(scale);
+        other.tickSize = 9;
+        FrameAttributesType frame = defaultFrame(to.group, to.record);
+        takeStyle(to, frame, from, other);
+        EXPECT_EQ(frame.tickSize, 9);
+        return static_cast<ScaleType>(frame.scaleType);
+    };
+    EXPECT_EQ(given(correlations, ScaleType::Linear, spectra), ScaleType::Logarithmic);
+    EXPECT_EQ(given(spectra, ScaleType::Linear, structures), ScaleType::Linear);
+    EXPECT_EQ(given(spectra, ScaleType::Logarithmic, correlations), ScaleType::Linear);
+    EXPECT_EQ(given(spectra, ScaleType::Logarithmic, coherence), ScaleType::Linear);
+    EXPECT_EQ(given(spectra, ScaleType::LogXLinearY, coherence), ScaleType::LogXLinearY);
 }
 
 }  // namespace

@@ -90,8 +90,9 @@ CPlotOptDlg::CPlotOptDlg(const FrameAttributesType& frame, std::span<const Scale
     right->addWidget(legendBox());
     giveToAll_ = new QPushButton(QStringLiteral("&Give to All Diagrams of the Stage"), this);
     giveToAll_->setAutoDefault(false);
-    giveToAll_->setToolTip(
-        QStringLiteral("OK, and scale, fonts, frame, ticks and legend to every diagram of the stage"));
+    giveToAll_->setToolTip(QStringLiteral(
+        "OK, and fonts, frame, ticks and legend to every diagram of the stage, a chosen scale to those that can "
+        "have it"));
     connect(giveToAll_, &QPushButton::clicked, this, &CPlotOptDlg::acceptForAll);
     right->addStretch();
     auto* columns = new QHBoxLayout;

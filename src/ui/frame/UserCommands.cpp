@@ -222,7 +222,7 @@ void UserCommands::plotFrameOptions() {
         if (changed == *slot) {
             frame = dialog.values();
         } else {
-            takeStyle(frame, dialog.values());
+            takeStyle(changed, frame, *slot, dialog.values());
         }
     };
     document_.ChangeFrames(
