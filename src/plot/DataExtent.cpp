@@ -22,13 +22,11 @@ class Extent {
             box_.y.highest = std::max(box_.y.highest, y);
         }
     }
-    // The points of one block of evenly spaced ones, from their extremes when all have a place on the axes.
-    bool addBlock(const PlotSeries& series, std::size_t block) {
-        const std::optional<DataInterval> y = series.blocks.extremesOf(block);
-        const std::size_t first = block * ValueBlocks::kSize;
-        const double left = series.x.at(first);
-        const double right = series.x.at(first + ValueBlocks::kSize - 1);
-        const auto placed = [this](double x) { return x > floorX_ && x < kInfinity; };
+    // Evenly spaced points first .. end - 1 from the extremes of their values, when all have a place on the axes.
+    bool addSpan(const SeriesX& x, std::size_t first, std::size_t end, const std::optional<DataInterval>& y) {
+        const double left = x.at(first);
+        const double right = x.at(end - 1);
+        const auto placed = [this](double at) { return at > floorX_ && at < kInfinity; };
         if (!y || !(y->lowest > floorY_) || !placed(left) || !placed(right)) {
             return false;
         }
@@ -63,12 +61,17 @@ std::optional<DataExtent> seriesExtent(const PlotSeries& series, bool logX, bool
             extent.add(series.x.at(i), series.y[i]);
         }
     };
-    for (std::size_t b = 0; b < blocks; ++b) {
-        if (!extent.addBlock(series, b)) {
-            addPoints(b * ValueBlocks::kSize, (b + 1) * ValueBlocks::kSize);
+    const std::size_t covered = blocks * ValueBlocks::kSize;
+    if (blocks == 0 || !extent.addSpan(series.x, 0, covered, series.blocks.extremes())) {
+        for (std::size_t b = 0; b < blocks; ++b) {
+            const std::size_t first = b * ValueBlocks::kSize;
+            const std::size_t end = first + ValueBlocks::kSize;
+            if (!extent.addSpan(series.x, first, end, series.blocks.extremesOf(b))) {
+                addPoints(first, end);
+            }
         }
     }
-    addPoints(blocks * ValueBlocks::kSize, n);
+    addPoints(covered, n);
     if (series.attributes.style == SeriesStyle::Bars && series.x.values.size() > n && n > 0) {
         extent.add(series.x.values[n], series.y[n - 1]);
     }

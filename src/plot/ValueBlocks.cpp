@@ -57,6 +57,12 @@ ValueBlocks::ValueBlocks(std::span<const double> values) : values_(values.size()
     for (std::size_t i = 0; i + kSize <= values.size(); i += kSize) {
         blocks_.push_back(finiteExtremes(values.subspan(i, kSize)).value_or(DataInterval{kNaN, kNaN}));
     }
+    if (!blocks_.empty()) {
+        whole_ = extremesOf(0);
+        for (std::size_t block = 1; block < blocks_.size(); ++block) {
+            widen(whole_, extremesOf(block));
+        }
+    }
 }
 
 std::optional<DataInterval> ValueBlocks::extremesOf(std::size_t block) const {

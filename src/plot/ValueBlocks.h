@@ -27,12 +27,16 @@ class ValueBlocks {
     /// Values kSize * block .. kSize * (block + 1) - 1; empty when one of them is not finite.
     std::optional<DataInterval> extremesOf(std::size_t block) const;
 
+    /// Extremes of all blocks; empty without one, or when a value in them is not finite.
+    const std::optional<DataInterval>& extremes() const { return whole_; }
+
     /// As finiteExtremes(values[from, to)) for the values that the blocks were made of.
     std::optional<DataInterval> extremesBetween(std::span<const double> values, std::size_t from, std::size_t to) const;
 
   private:
     std::size_t values_ = 0;
     std::vector<DataInterval> blocks_;
+    std::optional<DataInterval> whole_;
 };
 
 }  // namespace vorlan
