@@ -15,7 +15,10 @@ trap 'rm -rf "$work"' EXIT
 cd "$work"
 
 "$batch" import --out tidal.avp --interval 0.03125 "$record"
-"$batch" run --recipe "$gallery/../walk-measured.toml" --out walked.avp tidal.avp 2>/dev/null
+"$batch" run --recipe "$gallery/../walk-measured.toml" --out analysed.avp tidal.avp 2>/dev/null
+# Arrows that fit into small pictures.
+printf '[[step]]\ndo = "vectors"\nplane = "xz"\nspeed = 50\n' >plan.toml
+"$batch" run --recipe plan.toml --out walked.avp analysed.avp
 
 # draw NAME STAGE PANE [OPTION...]
 draw() {

@@ -10,8 +10,8 @@ namespace vorlan {
 
 namespace {
 
-// Arrows and names may take so much of an axis at either end; what is longer is cut.
-constexpr double kLargestShare = 0.35;
+// Arrows and names may take so much of an axis at both ends together; what is longer is cut.
+constexpr double kLargestShare = 0.7;
 constexpr int kMargin = 2;  // pixels between what stands at a point and the end of an axis
 constexpr int kSteps = 40;
 
@@ -66,13 +66,22 @@ void PlanExtent::collect(const CScreenUtils& geometry) {
 
 bool PlanExtent::growAxis(const std::vector<Reach>& reaches, bool lowerFree, bool upperFree, const DataInterval& points,
                           double lower, double unitsPerPixel, int pixels, DataInterval& grown) {
-    const double most = pixels * kLargestShare;
+    // One end may have what the other leaves, and never less than half.
+    const double half = pixels * kLargestShare / 2.0;
+    double needsBelow = 0.0;
+    double needsAbove = 0.0;
+    for (const Reach& reach : reaches) {
+        needsBelow = std::max(needsBelow, reach.below + kMargin);
+        needsAbove = std::max(needsAbove, reach.above + kMargin);
+    }
+    const double mostBelow = 2.0 * half - std::min(needsAbove, half);
+    const double mostAbove = 2.0 * half - std::min(needsBelow, half);
     const double upper = lower + unitsPerPixel * pixels;
     const auto enclosed = [&](const DataInterval& interval, double scale) {
         DataInterval wanted = points;
         for (const Reach& reach : reaches) {
-            const double below = std::min(reach.below + kMargin, most) * scale;
-            const double above = std::min(reach.above + kMargin, most) * scale;
+            const double below = std::min(reach.below + kMargin, mostBelow) * scale;
+            const double above = std::min(reach.above + kMargin, mostAbove) * scale;
             wanted.lowest = std::min(wanted.lowest, reach.at - below);
             wanted.highest = std::max(wanted.highest, reach.at + above);
         }

@@ -78,7 +78,7 @@ TEST_P(Plans, EncloseArrowsAndNames) {
 
 INSTANTIATE_TEST_SUITE_P(
     Places, Plans,
-    testing::Values(Row{"single", {{1.5, 0.25, 120.0, -40.0}}, 1},
+    testing::Values(Row{"single", {{1.5, 0.25, 120.0, -40.0}}, 1}, Row{"long", {{1.5, 0.25, -300.0, 5.0}}, 1},
                     Row{"corners", {{0, 0, -90, -60}, {3, 0, 90, -60}, {0, 1, -90, 60}, {3, 1, 90, 60}}, 4},
                     Row{"vertical", {{2, 0.1, 80, 1}, {2, 0.2, 95, 2}, {2, 0.3, 110, 3}, {2, 0.4, 125, 4}}, 4}),
     [](const auto& row) { return row.param.name; });
