@@ -136,6 +136,23 @@ bool winds(const Polylines& lines, int width) {
     return length > kLongestDashed * width;
 }
 
+// A column of falling values goes down, up and down again: dashes would fill each other's gaps.
+Polylines withoutReturns(Polylines lines) {
+    for (std::vector<Spot>& part : lines.parts) {
+        std::vector<Spot> straight;
+        for (const Spot& spot : part) {
+            straight.push_back(spot);
+            const std::size_t n = straight.size();
+            if (n >= 4 && straight[n - 4] == straight[n - 2] && straight[n - 3] == straight[n - 1] &&
+                straight[n - 1].x == straight[n - 2].x) {
+                straight.resize(n - 2);
+            }
+        }
+        part = std::move(straight);
+    }
+    return lines;
+}
+
 // Returns the pen style that was used.
 int paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& geometry, double lengthScale) {
     const Polylines lines = polylineEnvelope(series, geometry);
@@ -151,7 +168,8 @@ int paintLine(QPainter& painter, const PlotSeries& series, const CScreenUtils& g
     }
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    strokePolylines(painter, clipsByItself(painter) ? lines : clipped(lines, plotArea(geometry)));
+    const Polylines drawn = style == 0 ? lines : withoutReturns(lines);
+    strokePolylines(painter, clipsByItself(painter) ? drawn : clipped(drawn, plotArea(geometry)));
     return style;
 }
 
