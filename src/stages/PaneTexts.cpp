@@ -26,6 +26,7 @@ struct Decoder {
         }
         for (Diagram::PointLabel& label : diagram.labels) {
             decode(label.text);
+            decode(label.detail);
         }
     }
     void operator()(TableContent& table) const {
@@ -36,6 +37,7 @@ struct Decoder {
         for (TableContent::Row& row : table.rows) {
             decode(row.title);
         }
+        decode(table.note);
     }
     void operator()(TextPanel& panel) const {
         for (std::string& line : panel.lines) {
