@@ -110,6 +110,9 @@ Json probeAsJson(const SAdvProbe& probe, const WorkspaceSettings& settings) {
     json["spectral"] = {{"lags", probe.spectralLags}, {"window", probe.spectralWindow}, {"unit", probe.spectralUnit}};
     json["vectors"] = vectorsAsJson(probe);
     json["results"] = resultsAsJson(probe, settings);
+    if (contributionSumsExceed(probe)) {
+        json["notes"] = Json::array({kContributionsExceed});
+    }
     return json;
 }
 
@@ -158,7 +161,10 @@ std::string stagesText(const SAdvProbe& probe) {
 }
 
 std::string momentsRow(const char* name, const Moments& m) {
-    return formatted("      %-4s %12.3f %12.3f %10.3f %10.3f\n", name, m.mean, m.variance, m.skewness, m.kurtosis);
+    constexpr int digits = 3;
+    return formatted("      %-4s %12s %12s %10s %10s\n", name, numberText(m.mean, digits).c_str(),
+                     numberText(m.variance, digits).c_str(), numberText(m.skewness, digits).c_str(),
+                     numberText(m.kurtosis, digits).c_str());
 }
 
 std::string resultsText(const SAdvProbe& probe) {
@@ -269,8 +275,8 @@ std::string summaryAsText(const Workspace& workspace, const std::string& version
     text += workspace.boundaries.IsEmpty() ? "" : "\n";
     number = 0;
     for (const SBndFile& boundary : workspace.boundaries) {
-        text += "Boundary " + std::to_string(++number) + ": " + utf8Text(boundary.name) + ", " +
-                plural(boundary.NodeCount(), "node") + ", " + utf8Text(boundary.path) + "\n";
+        text += "Boundary " + std::to_string(++number) + ": " + shownName(boundary.name) + ", " +
+                plural(boundary.NodeCount(), "node") + ", " + shownName(boundary.path) + "\n";
     }
     return text;
 }
