@@ -4,7 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <atomic>
 #include <chrono>
+#include <new>
+#include <thread>
 
 #include "io/FileError.h"
 #include "model/Index.h"
@@ -29,6 +32,35 @@ QString timeText(std::filesystem::file_time_type time) {
 
 }  // namespace
 
+struct Recovery::Writing {
+    /// Its columns are shared with the document's workspace. It goes after the thread has ended: nobody but the
+    /// window's thread then sees how many share them.
+    const Workspace workspace;
+    const std::filesystem::path original;
+    const std::uint64_t state;
+    std::string error = {};
+    std::atomic<bool> ended = false;
+    std::thread thread = {};
+
+    void wait() {
+        if (thread.joinable()) {
+            thread.join();
+        }
+    }
+};
+
+Recovery::~Recovery() {
+    // Nobody is told any more.
+    if (writing_ != nullptr) {
+        writing_->wait();
+    }
+}
+
+void Recovery::end() {
+    finish();
+    copy_.remove();
+}
+
 Recovery::Recovery(CVorl_ADVDoc& document, QWidget& window)
     : document_(document), window_(window), copy_(recoveryFolder()) {
     timer_.setSingleShot(true);
@@ -41,11 +73,11 @@ void Recovery::keep() {
     }
     if (!document_.IsModified()) {
         timer_.stop();
-        copy_.remove();
+        end();
         keptState_.reset();
         return;
     }
-    if (keptState_ == document_.State()) {
+    if (writing_ != nullptr || keptState_ == document_.State()) {
         return;
     }
     if (sinceCopy_.isValid() && sinceCopy_.elapsed() < kMilliseconds) {
@@ -55,15 +87,49 @@ void Recovery::keep() {
         return;
     }
     sinceCopy_.start();
-    try {
-        copy_.write(document_.GetWorkspace(), document_.GetPath());
-        keptState_ = document_.State();
-        failed_ = false;
-    } catch (const FileError& error) {
-        // Said once: the work goes on without a copy.
-        if (!std::exchange(failed_, true)) {
-            report_(QStringLiteral("No recovery copy: ") + QString::fromStdString(utf8Text(error.what())));
+    begin();
+}
+
+void Recovery::begin() {
+    writing_.reset(new Writing{document_.GetWorkspace(), document_.GetPath(), document_.State()});
+    const auto write = [this, &writing = *writing_] {
+        try {
+            copy_.write(writing.workspace, writing.original);
+        } catch (const std::bad_alloc&) {
+            writing.error = "not enough memory";
+        } catch (const std::exception& error) {
+            writing.error = error.what();
         }
+        writing.ended = true;
+        QMetaObject::invokeMethod(
+            &window_,
+            [this] {
+                if (writing_ != nullptr && writing_->ended) {
+                    finish();
+                    keep();
+                }
+            },
+            Qt::QueuedConnection);
+    };
+    try {
+        writing_->thread = std::thread(write);
+    } catch (const std::system_error&) {
+        write();
+    }
+}
+
+void Recovery::finish() {
+    if (writing_ == nullptr) {
+        return;
+    }
+    writing_->wait();
+    const std::unique_ptr<Writing> written = std::move(writing_);
+    if (written->error.empty()) {
+        keptState_ = written->state;
+        failed_ = false;
+    } else if (!std::exchange(failed_, true)) {
+        // Said once: the work goes on without a copy.
+        report_(QStringLiteral("No recovery copy: ") + QString::fromStdString(utf8Text(written->error)));
     }
 }
 
@@ -100,6 +166,7 @@ bool Recovery::recover(const RecoveryCopy::LeftBehind& left) {
     keptState_.reset();
     sinceCopy_.invalidate();
     keep();
+    finish();
     // Not before there is one of this program.
     if (keptState_) {
         left.discard();

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "app/CVorl_ADVDoc.h"
@@ -18,6 +19,9 @@ class Recovery {
     static constexpr int kMilliseconds = 60000;
 
     Recovery(CVorl_ADVDoc& document, QWidget& window);
+    ~Recovery();
+    Recovery(const Recovery&) = delete;
+    Recovery& operator=(const Recovery&) = delete;
 
     void setBoxes(UserBoxes& boxes) { boxes_ = &boxes; }
     /// Tells how a command ended.
@@ -25,18 +29,24 @@ class Recovery {
 
     /// Asks about copies that programs left behind; true when one was opened.
     bool offer();
-    /// The document has changed, or a run has ended: writes a copy, now or when the last one is old enough. Never
-    /// while a calculation runs.
+    /// The document has changed, or a run has ended: a copy is written beside what the user does, from now on or when
+    /// the last one is old enough. Never while a calculation runs.
     void keep();
     /// The program ends as it should.
-    void end() { copy_.remove(); }
+    void end();
 
   private:
+    /// A copy that is being written, in a thread of its own.
+    struct Writing;
+    void begin();
+    /// Waits for it and takes note of how it ended.
+    void finish();
     bool recover(const RecoveryCopy::LeftBehind& left);
 
     CVorl_ADVDoc& document_;
     QWidget& window_;
-    RecoveryCopy copy_;
+    RecoveryCopy copy_;  ///< belongs to the thread while there is one
+    std::unique_ptr<Writing> writing_;
     QTimer timer_;
     QElapsedTimer sinceCopy_;
     std::optional<std::uint64_t> keptState_;  ///< of the document, in the copy
