@@ -1,4 +1,6 @@
 // The document's commands that change the working record.
+#include <algorithm>
+
 #include "analysis/Clipping.h"
 #include "analysis/Filtration.h"
 #include "analysis/Rotation.h"
@@ -7,12 +9,25 @@
 
 namespace vorlan {
 
+namespace {
+
+/// Whether results of the one are results of the other.
+bool sameRecord(const SAdvProbe& a, const SAdvProbe& b) {
+    constexpr std::size_t kRecordTables = SAdvProbe::kWorkPressure + 1;
+    return a.UsesAllSamples() == b.UsesAllSamples() && a.sampleFlags == b.sampleFlags &&
+           std::equal(a.workTables.begin(), a.workTables.begin() + kRecordTables, b.workTables.begin());
+}
+
+}  // namespace
+
 Outcome CVorl_ADVDoc::ChangeSeries(const ProbeCommand& command, const ProbeOperation& change,
                                    const Sentence& sentence) {
     const Outcome outcome = RunOnProbe(command, [&](SAdvProbe& copy, Progress& progress) {
         const Outcome changed = change(copy, progress);
         if (changed == Outcome::Done) {
-            copy.AgeResults();
+            if (!sameRecord(copy, Probe())) {
+                copy.AgeResults();
+            }
             ApplyChangeRule(copy, progress);
         }
         return changed;

@@ -80,6 +80,8 @@ TEST_F(Commands, OkRepeatsTheDoneStagesAndCancelKeepsTheirResults) {
     const SAdvProbe analysed = document.Probe();
 
     port.answer = false;
+    ASSERT_EQ(document.ResetTimeSeries(), Outcome::Done);
+    EXPECT_FALSE(document.Probe().HasOldStage()) << "the record is what it was";
     ASSERT_EQ(document.Clip(0.0, 20.0), Outcome::Done);
     EXPECT_EQ(document.Probe().WorkingSamples(), 500);
     EXPECT_EQ(document.Probe().seriesU.correlation, analysed.seriesU.correlation);

@@ -19,6 +19,7 @@ TEST(History, TheModifiedMarkFollowsTheSavedState) {
     document.Undo();
     EXPECT_FALSE(document.IsModified()) << "back to what was saved";
     EXPECT_STREQ(document.RedoName(), "Clipping");
+    EXPECT_EQ(document.ActivePane(), Pane::RightTop) << "the view stays where the command was given";
     document.Undo();
     EXPECT_TRUE(document.IsModified()) << "in front of what was saved";
     document.SetMeanVelocity({MeanVelocityMode::User, 5.0});
