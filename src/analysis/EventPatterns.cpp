@@ -15,13 +15,13 @@ using Events = std::span<const std::size_t>;
 /// the ends of x adds nothing.
 class SumsAround {
   public:
-    SumsAround(std::span<const double> x, std::size_t reach, std::size_t lags, Progress& progress,
+    SumsAround(std::span<const double> x, std::size_t reach, std::size_t lags, std::size_t events, Progress& progress,
                const KernelSet& kernels)
         : x_(x),
           reach_(reach),
           lags_((lags + kernels.lanes - 1) / kernels.lanes * kernels.lanes),
           kernels_(kernels),
-          pacer_(progress),
+          pacer_(progress, static_cast<double>(events) * static_cast<double>(lags_)),
           sums_(lags_) {}
 
     /// Events rise; they are added in their order.
@@ -89,7 +89,7 @@ std::vector<double> averageAround(std::span<const std::size_t> events, std::span
     // No event has a neighbour farther away than the record is long.
     const std::size_t reach = std::min(wanted, x.size() - 1);
     const std::size_t lags = 2 * reach + 1;
-    SumsAround around(x, reach, lags, progress, kernels);
+    SumsAround around(x, reach, lags, events.size(), progress, kernels);
     around.add(events);
     const std::vector<double>& sums = around.sums();
 

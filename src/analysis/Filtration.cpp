@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "analysis/ProbeMoments.h"
+#include "analysis/ProgressPart.h"
 #include "analysis/Stresses.h"
 #include "analysis/kernels/SlidingProducts.h"
 #include "model/DefaultFrames.h"
@@ -75,7 +76,8 @@ void filterVelocities(SAdvProbe& probe, const FilterSettings& settings, Progress
         SArray& column = velocities.ElementAt(component);
         const std::vector<double> samples = column.Values();
         progress.pump();
-        const std::vector<double> outputs = filtered(samples, weights, settings.type, progress);
+        ProgressPart part(progress, component / 3.0, (component + 1) / 3.0);
+        const std::vector<double> outputs = filtered(samples, weights, settings.type, part);
         progress.pump();
         column.StoreValues(outputs);
         progress.pump();

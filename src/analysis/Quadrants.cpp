@@ -1,5 +1,6 @@
 #include "analysis/Quadrants.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -7,6 +8,7 @@
 
 #include "analysis/EventPatterns.h"
 #include "analysis/HoleSweep.h"
+#include "analysis/ProgressPart.h"
 #include "analysis/Stresses.h"
 #include "model/DefaultFrames.h"
 #include "model/Index.h"
@@ -93,7 +95,8 @@ void storePattern(SMultiArray& table, const std::vector<std::size_t>& events, co
                   const std::array<double, 2>& deviations, int lag, Progress& progress) {
     table.Reshape(2, kPatternResolution);
     for (std::size_t c = 0; c < deviations.size(); ++c) {
-        std::vector<double> pattern = averageAround(events, c == 0 ? record.a : record.b, lag, progress);
+        ProgressPart part(progress, 0.5 * static_cast<double>(c), 0.5 * static_cast<double>(c + 1));
+        std::vector<double> pattern = averageAround(events, c == 0 ? record.a : record.b, lag, part);
         // Without any event the pattern is 0 whatever the deviation is.
         for (double& value : pattern) {
             value = events.empty() ? 0.0 : value / deviations[c];
@@ -121,8 +124,11 @@ void storePatterns(SAdvProbe& probe, const PairRecord& record, const QuadrantSet
         sweeps = eventsOf(record, 2, settings.sweepThreshold);
     }
     progress.pump();
-    storePattern(probe.EjectionPattern(), ejections, record, deviations, lag, progress);
-    storePattern(probe.SweepPattern(), sweeps, record, deviations, lag, progress);
+    const double events = static_cast<double>(std::max<std::size_t>(ejections.size() + sweeps.size(), 1));
+    ProgressPart first(progress, 0.0, static_cast<double>(ejections.size()) / events);
+    ProgressPart second(progress, static_cast<double>(ejections.size()) / events, 1.0);
+    storePattern(probe.EjectionPattern(), ejections, record, deviations, lag, first);
+    storePattern(probe.SweepPattern(), sweeps, record, deviations, lag, second);
 }
 
 /// Titles the pattern diagrams. A title that the user gave goes only when the events are interactions.

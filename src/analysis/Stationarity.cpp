@@ -7,6 +7,7 @@
 
 #include "analysis/AnalysedSeries.h"
 #include "analysis/MomentEstimators.h"
+#include "analysis/ProgressPart.h"
 #include "analysis/kernels/KernelSet.h"
 #include "analysis/kernels/Pacer.h"
 #include "model/Index.h"
@@ -80,7 +81,8 @@ void computeCumulativeBands(STimeSeries& series, std::span<const double> values,
                             Progress& progress) {
     const KernelSet& kernels = kernelsInUse();
     const std::size_t length = values.size() / bands;
-    Pacer pacer(progress);
+    // A block of bands adds all samples up to its last one.
+    Pacer pacer(progress, static_cast<double>(length * bands) * static_cast<double>(bands + kernels.bands) / 2.0);
     double sum = 0.0;
     for (std::size_t first = 0; first < bands; first += kernels.bands) {
         const std::size_t count = std::min(kernels.bands, bands - first);
@@ -130,7 +132,8 @@ std::string analyseStationarity(SAdvProbe& probe, const StationaritySettings& se
     for (int component = 0; component < SAdvProbe::kComponents; ++component) {
         STimeSeries& series = probe.Series(component);
         series.ClearStationarityResults();
-        computeBands(series, settings.mode, settings.bands, progress);
+        ProgressPart part(progress, component / 3.0, (component + 1) / 3.0);
+        computeBands(series, settings.mode, settings.bands, part);
     }
     probe.bandMode = static_cast<std::uint32_t>(settings.mode);
     probe.SetDone(DoneMark::Stationarity);

@@ -8,6 +8,9 @@ namespace vorlan {
 
 namespace {
 
+constexpr int kMillisecondsToBar = 300;
+constexpr int kLateBarOffset = 170;  // pixels
+
 /// An arrow in place of the hourglass while a box waits for the user.
 class ArrowScope {
   public:
@@ -68,8 +71,10 @@ void WindowPort::beginRun(Calculation calculation) {
     if (offset.has_value() && pane_ != nullptr) {
         pane_->showProgress(*offset);
     } else if (pane_ != nullptr) {
+        pane_->hideRun();
         pane_->showRun();
     }
+    sinceBegin_.start();
     if (running_) {
         return;
     }
@@ -110,6 +115,10 @@ void WindowPort::position(int percent) {
 }
 
 void WindowPort::done(double share) {
+    // Most runs without a bar end before one could be seen.
+    if (pane_ != nullptr && pane_->progressBar().isHidden() && sinceBegin_.elapsed() > kMillisecondsToBar) {
+        pane_->showProgress(kLateBarOffset);
+    }
     position(static_cast<int>(share * 100.0));
 }
 

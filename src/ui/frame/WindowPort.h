@@ -55,6 +55,7 @@ class WindowPort : public QObject, public DocumentPort {
     std::function<void(bool)> runListener_;
     std::function<void(const QString&)> reportListener_;
     QElapsedTimer sinceEvents_;
+    QElapsedTimer sinceBegin_;
     bool running_ = false;
     bool cancelled_ = false;
 };
