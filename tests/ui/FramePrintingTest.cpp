@@ -70,9 +70,9 @@ class FramePrinting : public QObject {
         const auto pages = [&] { return read(path).count("/Type /Page\n"); };
         printInto(driver, path, PrintScope::Stage);
         QCOMPARE(driver.boxes.printChoice.texts(),
-                 QStringList({QStringLiteral("This stage (1 page)"),
-                              QStringLiteral("All done stages of this probe (3 pages)"),
-                              QStringLiteral("All probes (5 pages)")}));
+                 QStringList({QStringLiteral("This &stage (1 page)"),
+                              QStringLiteral("All &done stages of this probe (3 pages)"),
+                              QStringLiteral("All pro&bes (5 pages)")}));
         QCOMPARE(pages(), 1);
         QCOMPARE(driver.status(), QStringLiteral("x.pdf written"));
         const QByteArray stage = read(path);

@@ -65,6 +65,9 @@ CGridEdit::CGridEdit(CVorl_ADVDoc& document, BoundaryPickers pickers, QWidget* p
     status_ = new QLabel(this);
     status_->setObjectName(QStringLiteral("status"));
     status_->setTextFormat(Qt::PlainText);
+    report_ = new QLabel(this);
+    report_->setTextFormat(Qt::PlainText);
+    report_->setAlignment(Qt::AlignRight);
     readOut_ = new QLabel(this);
     readOut_->setTextFormat(Qt::PlainText);
     preview_ = new GridPreviewWidget(this);
@@ -97,12 +100,19 @@ CGridEdit::CGridEdit(CVorl_ADVDoc& document, BoundaryPickers pickers, QWidget* p
     columns->addLayout(picture, 1);
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
-    rows->addWidget(status_);
+    auto* told = new QHBoxLayout;
+    told->addWidget(status_);
+    told->addWidget(report_, 1);
+    rows->addLayout(told);
 
     refresh();
     resize(QSize(left->sizeHint().width() + preview_->sizeHint().width(), controls->sizeHint().height() + kRoomBelow)
                .boundedTo(screen()->availableSize() - kWindowFrame));
     boundaries_->setFocus();
+}
+
+void CGridEdit::showReport(const QString& text) {
+    report_->setText(text);
 }
 
 CGridEdit::~CGridEdit() {

@@ -42,6 +42,8 @@ class CGridEdit : public QDialog {
 
     /// Replaces the message box of the refusals.
     void setMessageFunction(MessageFunction show) { show_ = std::move(show); }
+    /// How the last change ended.
+    void showReport(const QString& text);
     void reject() override;
 
   private:
@@ -94,6 +96,7 @@ class CGridEdit : public QDialog {
     QButtonGroup* plane_ = nullptr;
     GridPreviewWidget* preview_ = nullptr;
     QLabel* status_ = nullptr;
+    QLabel* report_ = nullptr;
     QLabel* readOut_ = nullptr;
 };
 

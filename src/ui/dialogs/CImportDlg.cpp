@@ -65,7 +65,9 @@ CImportDlg::CImportDlg(const ImportOffer& offer, QWidget* parent)
     fault_->hide();
     body()->addWidget(fault_);
     showSteps();
-    finish(lists_.empty() ? static_cast<QWidget*>(unit_) : lists_.front());
+    // A table without times leaves the interval to be typed.
+    const bool typed = interval_->text().isEmpty() || lists_.empty();
+    finish(typed ? static_cast<QWidget*>(interval_) : lists_.front());
 }
 
 void CImportDlg::buildPreview() {
@@ -161,6 +163,9 @@ QWidget* CImportDlg::fieldsBox() {
                        "the straight line between its neighbours"),
         this);
     name_ = new QLineEdit(values_.name ? displayText(*values_.name) : QString(), this);
+    if (!values_.tables.empty()) {
+        name_->setPlaceholderText(displayText(values_.tables.front().stem().string()));
+    }
     name_->setToolTip(QStringLiteral("Name of the data file; the table's own when nothing is written here"));
     addField(grid, 0, 0, QStringLiteral("&Unit of the velocities:"), unit_);
     addField(grid, 1, 0, QStringLiteral("Sampling &interval [sec]:"), interval_);

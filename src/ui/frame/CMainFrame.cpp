@@ -17,6 +17,7 @@
 #include "stages/PaneDescription.h"
 #include "stages/PlanReadOut.h"
 #include "stages/TurbulenceReadOut.h"
+#include "ui/dialogs/CGridEdit.h"
 #include "ui/frame/ManualPages.h"
 #include "ui/frame/MenuTable.h"
 
@@ -166,6 +167,10 @@ void CMainFrame::connectWidgets() {
         QStringList parts{text, std::exchange(resultsGrownOld_, QString())};
         parts.removeAll(QString());
         showReport(parts.join(QStringLiteral("   ")));
+        // The status bar is behind it.
+        for (CGridEdit* editor : findChildren<CGridEdit*>()) {
+            editor->showReport(text);
+        }
     });
     connect(actions_, &CommandActions::triggered, this, &CMainFrame::runCommand);
     connect(actions_, &CommandActions::recentChosen, &files_, &WorkspaceFiles::openRecent);

@@ -32,7 +32,7 @@ void PagePreview::addChoice(const PrintChoice& choice) {
     list->setToolTip(QStringLiteral("What is printed"));
     list->setAccessibleName(list->toolTip());
     for (const QString& text : choice.texts()) {
-        list->addItem(text);
+        list->addItem(QString(text).remove(QLatin1Char('&')));
     }
     list->setCurrentIndex(asInt(scope_));
     bar->insertSeparator(bar->actions().value(0));

@@ -13,13 +13,14 @@ struct PrintChoice {
     PrintScope scope = PrintScope::Stage;
     std::array<int, 3> pages{};
 
+    /// With mnemonics.
     QStringList texts() const {
         const auto counted = [](const char* text, int count) {
             return QStringLiteral("%1 (%2)").arg(
                 QString::fromUtf8(text), count == 1 ? QStringLiteral("1 page") : QStringLiteral("%1 pages").arg(count));
         };
-        return {counted("This stage", pages[0]), counted("All done stages of this probe", pages[1]),
-                counted("All probes", pages[2])};
+        return {counted("This &stage", pages[0]), counted("All &done stages of this probe", pages[1]),
+                counted("All pro&bes", pages[2])};
     }
 };
 

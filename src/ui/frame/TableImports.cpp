@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 
 #include "app/CommandReports.h"
 #include "io/ReadFile.h"
@@ -12,6 +13,14 @@ namespace vorlan {
 namespace {
 
 constexpr std::size_t kLooked = 4096;  // bytes that show whether a file is text
+
+class Hourglass {
+  public:
+    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
 
 ImportFault faultOf(const FileError& error) {
     ImportFault fault;
@@ -77,6 +86,7 @@ ImportOffer TableImports::offerFor(const std::vector<std::filesystem::path>& tab
 }
 
 std::optional<ImportFault> TableImports::tryToRead(const TableImport& import) {
+    const Hourglass hourglass;
     try {
         read_ = importTables(import);
         return std::nullopt;
