@@ -1,9 +1,11 @@
 #include "ui/CVorl_ADVApp.h"
 
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QStandardPaths>
 #include <QSvgRenderer>
 #include <QTimer>
+#include <QWindow>
 #include <clocale>
 #include <new>
 
@@ -66,6 +68,17 @@ QIcon programIcon() {
     return icon;
 }
 
+/// A workspace may take long to come: the window has to be there first, to say so.
+void awaitPainting(const QWidget& window) {
+    constexpr int kLongest = 500;  // where nobody shows windows
+    QElapsedTimer waited;
+    waited.start();
+    do {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kLongest);
+    } while (!window.windowHandle()->isExposed() && waited.elapsed() < kLongest);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 }  // namespace
 
 std::optional<QString> requestedText(const QStringList& arguments) {
@@ -126,6 +139,7 @@ void CVorl_ADVApp::start(const std::optional<QString>& workspace) {
         splash_->raise();
     }
     if (!frame_->recovery().offer() && workspace.has_value()) {
+        awaitPainting(*frame_);
         frame_->files().openPath(*workspace);
     }
 }
