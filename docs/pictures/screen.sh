@@ -32,9 +32,9 @@ begin_display() {
     export DISPLAY
 }
 
-# open_window FILE.avp X Y: leaves the process in "program" and the window in "main"
+# open_window FILE.avp X Y, or with an empty file name: leaves the process in "program" and the window in "main"
 open_window() {
-    "$window" "$1" 2>/dev/null &
+    "$window" ${1:+"$1"} 2>/dev/null &
     program=$!
     processes+=("$program")
     sleep 4 # until the splash picture has left
