@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -77,6 +78,19 @@ inline QString shownTip(const QWidget* widget) {
         widget = widget->parentWidget();
     }
     return widget == nullptr ? QString() : widget->toolTip();
+}
+
+/// What the keyboard leads to and nothing explains.
+inline QStringList unexplained(const QDialog& dialog) {
+    QStringList found;
+    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+        const bool visited = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible();
+        if (visited && qobject_cast<const QDialogButtonBox*>(widget->parent()) == nullptr &&
+            shownTip(widget).isEmpty()) {
+            found << QString::fromLatin1(widget->metaObject()->className()) + controlText(*widget);
+        }
+    }
+    return found;
 }
 
 /// One line for each control, in the order in which the dialog was built.

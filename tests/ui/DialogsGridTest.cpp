@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "io/TempFolder.h"
-#include "ui/DialogDriver.h"
+#include "ui/DialogText.h"
 #include "ui/FrameDriver.h"
 #include "ui/dialogs/CVectorsDlg.h"
 #include "ui/dialogs/NumberFields.h"
@@ -27,6 +27,8 @@ class DialogsGrid : public QObject {
             QVERIFY(!list->isEnabled() && !node->isEnabled() && !button(editor, "Close")->isEnabled());
             press(editor, "New");
             QCOMPARE(status(editor), QStringLiteral("Total nodes number is 0"));
+            QCOMPARE(editor.findChild<QLabel*>(QStringLiteral("report"))->text(), QStringLiteral("bed.bnd written"));
+            QCOMPARE(unexplained(editor), QStringList());
             for (const char* x : {"2", "0.5"}) {
                 QTimer::singleShot(0, &editor, [x] {
                     QWidget* dialog = QApplication::activeModalWidget();

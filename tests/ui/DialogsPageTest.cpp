@@ -1,7 +1,7 @@
 // The page setup and its sketch.
 #include <QRadioButton>
 
-#include "ui/DialogDriver.h"
+#include "ui/DialogText.h"
 #include "ui/dialogs/CPageDlg.h"
 #include "ui/dialogs/PageSketch.h"
 
@@ -37,6 +37,7 @@ class DialogsPage : public QObject {
         page.printRightTop = 7;
         CPageDlg dialog(page, kA4);
         DialogDriver driver(dialog);
+        QCOMPARE(unexplained(dialog), QStringList());
         QVERIFY(driver.accepted());
         QCOMPARE(dialog.values(), page);
         driver.type("Page &Header:", "Sp\u00e9ctra");

@@ -66,6 +66,7 @@ CGridEdit::CGridEdit(CVorl_ADVDoc& document, BoundaryPickers pickers, QWidget* p
     status_->setObjectName(QStringLiteral("status"));
     status_->setTextFormat(Qt::PlainText);
     report_ = new QLabel(this);
+    report_->setObjectName(QStringLiteral("report"));
     report_->setTextFormat(Qt::PlainText);
     report_->setAlignment(Qt::AlignRight);
     readOut_ = new QLabel(this);
