@@ -19,23 +19,16 @@ const vorlan::SAdvFile& record() {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    vorlan::startToolkit(argc, *argv);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     using namespace vorlan;
-    FuzzPort port;
-    MemoryBoundaries boundaries;
-    CVorl_ADVDoc document(port);
-    document.SetBoundaryStorage(boundaries);
+    FuzzDocument fuzzed;
+    CVorl_ADVDoc& document = fuzzed.document;
     const std::vector<std::byte> opened = storedBytes(document.GetWorkspace());
     document.AppendFile(record());
     document.SelectProbe(0);
     Choices choices(bytes, size);
     for (int i = 0; i < kMostCommands && !choices.empty(); ++i) {
-        giveCommand(document, port, choices);
+        giveCommand(document, fuzzed.port, choices);
     }
     show(document, choices);
     exportOne(document, choices);

@@ -327,9 +327,11 @@ void exportOne(const CVorl_ADVDoc& document, Choices& choices) {
     }
 }
 
-void startToolkit(int* argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QGuiApplication application(*argc, argv);
-}
-
 }  // namespace vorlan
+
+// Starts the toolkit without a screen.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QGuiApplication application(*argc, *argv);
+    return 0;
+}

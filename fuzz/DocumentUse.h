@@ -32,6 +32,15 @@ class MemoryBoundaries : public BoundaryStorage {
     std::map<std::string, std::string> files_;
 };
 
+/// An empty document for one input.
+struct FuzzDocument {
+    FuzzDocument() { document.SetBoundaryStorage(boundaries); }
+
+    FuzzPort port;
+    MemoryBoundaries boundaries;
+    CVorl_ADVDoc document{port};
+};
+
 /// The bytes that a workspace is saved as.
 std::vector<std::byte> storedBytes(const Workspace& workspace);
 /// Aborts unless the bytes load again as what was stored.
@@ -44,8 +53,5 @@ void giveCommand(CVorl_ADVDoc& document, FuzzPort& port, Choices& choices);
 void show(const CVorl_ADVDoc& document, Choices& choices);
 /// Writes an export.
 void exportOne(const CVorl_ADVDoc& document, Choices& choices);
-
-/// Starts the toolkit without a screen.
-void startToolkit(int* argc, char** argv);
 
 }  // namespace vorlan

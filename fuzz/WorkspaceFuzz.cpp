@@ -29,18 +29,11 @@ class MemoryFile {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    vorlan::startToolkit(argc, *argv);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     using namespace vorlan;
     const MemoryFile file(bytes, size);
-    FuzzPort port;
-    MemoryBoundaries boundaries;
-    CVorl_ADVDoc document(port);
-    document.SetBoundaryStorage(boundaries);
+    FuzzDocument fuzzed;
+    CVorl_ADVDoc& document = fuzzed.document;
     kindOfFile(file.path());
     try {
         document.OpenWorkspace(file.path());
@@ -56,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     for (int i = 0; i < kMostCommands; ++i) {
         show(document, choices);
         exportOne(document, choices);
-        giveCommand(document, port, choices);
+        giveCommand(document, fuzzed.port, choices);
     }
     show(document, choices);
     requireSameAfterReading(storedBytes(document.GetWorkspace()));
