@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <cmath>
 
 namespace vorlan {
 
@@ -27,7 +28,10 @@ QSize FittedScrollArea::sizeHint() const {
     if (shown.width() > room.width()) {
         shown.rheight() += horizontalScrollBar()->sizeHint().height();
     }
-    return shown.boundedTo(room);
+    // Where a point is no whole number of the screen's dots, a window may come out smaller by a rounded one.
+    constexpr QSize kRounding(2, 2);
+    const bool rounds = devicePixelRatioF() != std::floor(devicePixelRatioF());
+    return (rounds ? shown + kRounding : shown).boundedTo(room);
 }
 
 bool FittedScrollArea::eventFilter(QObject* watched, QEvent* event) {
