@@ -35,7 +35,7 @@ std::vector<double> slidingProducts(std::span<const double> x, std::span<const d
     std::vector<double> result(lags);
     progress.pump();
     std::vector<double> sums(block);
-    Pacer pacer(progress, static_cast<double>(lags) * static_cast<double>(x.size()));
+    Pacer pacer(progress, static_cast<double>(lags) * static_cast<double>(std::min(x.size(), y.size() + block)));
     for (std::size_t first = 0; first < lags; first += block) {
         const std::size_t count = std::min(block, lags - first);
         std::fill(sums.begin(), sums.end(), 0.0);
