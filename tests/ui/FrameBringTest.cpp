@@ -1,4 +1,5 @@
 // Records, figures and recipes in and out of the window: the same bytes as the program without a window makes.
+#include <sys/stat.h>
 #include <QClipboard>
 #include <QFile>
 #include <QLabel>
@@ -77,6 +78,15 @@ class FrameBring : public QObject {
         driver.boxes.tablePaths = {driver.path("next.csv")};
         QVERIFY(driver.withDialog(Command::ImportTable, "Import Table"));
         QCOMPARE(driver.document().Probe().samplingInterval, 0.04);
+        // Several tables are one step.
+        const SAdvFilesArray& files = driver.document().GetWorkspace().dataFiles.files;
+        driver.boxes.tablePaths += driver.boxes.tablePaths;
+        QVERIFY(driver.withDialog(Command::ImportTable, "Import Table"));
+        QCOMPARE(files.GetSize(), 4);
+        driver.trigger(Command::Undo);
+        QCOMPARE(files.GetSize(), 2);
+        driver.trigger(Command::Redo);
+        QCOMPARE(driver.document().ActiveFile(), 3);
     }
 
     void aFaultIsShownInTheTable() {
@@ -135,6 +145,13 @@ class FrameBring : public QObject {
         driver.boxes.figurePath = driver.path("no/such/folder.png");
         QVERIFY(driver.withDialog(Command::SaveFigure, "Save Figure"));
         QCOMPARE(driver.boxes.refusals.size(), 1);
+        driver.boxes.figurePath = driver.boxes.recipePath = driver.path("pipe.png");
+        QCOMPARE(::mkfifo(qPrintable(driver.boxes.figurePath), 0600), 0);
+        QVERIFY(driver.withDialog(Command::SaveFigure, "Save Figure"));
+        driver.document().EnterZoomMode();
+        driver.trigger(Command::SaveRecipe);
+        QCOMPARE(driver.boxes.refusals.size(), 3);
+        QVERIFY(driver.boxes.refusals[2].endsWith(QLatin1String("is a pipe, not a file.")));
 
         driver.document().SelectActivePane(Pane::RightBottom);
         driver.trigger(Command::BitmapCopy);
