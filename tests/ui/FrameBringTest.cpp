@@ -1,5 +1,6 @@
 // Records, figures and recipes in and out of the window: the same bytes as the program without a window makes.
 #include <sys/stat.h>
+
 #include <QClipboard>
 #include <QFile>
 #include <QLabel>
