@@ -62,6 +62,11 @@ TEST_F(PageDescriptionTest, PagesHoldTheTickedPanesOfTheirStage) {
     EXPECT_EQ(page.header, "K\u00f6ln");
     EXPECT_EQ(page.footer, "-1-");
     EXPECT_EQ(page.layout.panes[1].pane, Pane::RightBottom);
+    std::string place;
+    for (const OutlineEntry& entry : placeOf(workspace, {1, 0, Stage::Quadrants})) {
+        place += std::to_string(entry.number) + entry.text + "|";
+    }
+    EXPECT_EQ(place, "1test|0Probe 1|5Qudrants Analysis|");
 }
 
 TEST_F(PageDescriptionTest, RefusalsNameTheStage) {

@@ -18,6 +18,7 @@
 #include "model/StageTable.h"
 #include "stages/PaneDescription.h"
 #include "stages/PaneText.h"
+#include "stages/TurbulenceReadOut.h"
 
 namespace vorlan::test {
 namespace {
@@ -309,7 +310,14 @@ TEST(Panes, LeaveNoExceptionToThePainterWhateverIsDamaged) {
     }
 }
 
-/// What the status bar says at a spot of every pane, where that is something.
+PlotSeries curveOf(std::vector<double> x, std::vector<double> y) {
+    PlotSeries series;
+    series.x.values = std::move(x);
+    series.y = std::move(y);
+    return series;
+}
+
+/// What the status bar says at a spot of every pane, where that is something, and of what was read off.
 TEST(Panes, AreReadOut) {
     CScreenUtils g;  // 200 x 100 pixels from (50, 150): 0.1 s and 0.5 units a pixel
     g.originX = 50;
@@ -346,6 +354,15 @@ TEST(Panes, AreReadOut) {
                 }
             }
         }
+    }
+    const Workspace workspace = analysed();
+    const SAdvProbe& probe = workspace.dataFiles.files.GetAt(0).probes.GetAt(0);
+    Diagram straight;
+    straight.plot.series = {curveOf({1.0, 2.0, 4.0}, {8.0, 2.0, 0.5})};
+    for (const auto& [rate, scales] : {std::pair{DissipationSource::Spectrum, ScalesSource::Spectrum},
+                                       {DissipationSource::Structure, ScalesSource::Correlation}}) {
+        all += acceptedRateText(probe) + "\n" + acceptedScalesText(scales, probe) + "\n" +
+               slopeDistancesText(straight, 1.0, 4.0, rate) + "\n";
     }
     EXPECT_EQ(changeOfApproved("readouts", all), "");
 }
