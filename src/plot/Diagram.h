@@ -45,6 +45,8 @@ struct SlopeTriangle {
     double y = 0.0;  ///< at from
     double exponent = 0.0;
     std::string name;  ///< of the slope, as "-5/3"
+    /// Under the user's hand: it stands over the legend, which stays where it is with the whole diagram.
+    bool held = false;
 };
 
 /// A complete diagram: the stored frame attributes and the data.

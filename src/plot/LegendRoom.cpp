@@ -85,7 +85,8 @@ bool coversData(const Box& box, const Diagram& diagram, const CScreenUtils& geom
     const auto triangleComesIn = [&](const SlopeTriangle& triangle) {
         const SlopeTriangleShape shape =
             slopeTriangleShape(triangle, geometry, diagram.frame.labelFont, measure, lengthScale);
-        return lineTouches(box, shape.slope) || lineTouches(box, shape.legs) || namesTouch(shape.texts);
+        return !triangle.held &&
+               (lineTouches(box, shape.slope) || lineTouches(box, shape.legs) || namesTouch(shape.texts));
     };
     return std::any_of(diagram.plot.series.begin(), diagram.plot.series.end(), comesIn) ||
            std::any_of(diagram.triangles.begin(), diagram.triangles.end(), triangleComesIn) ||

@@ -93,11 +93,7 @@ class PanePainter {
                 penStyles.push_back(style);
             }
         }
-        for (const SlopeTriangle& triangle : diagram.triangles) {
-            drawTriangle(
-                slopeTriangleShape(triangle, layout.geometry, diagram.frame.labelFont, measure_, options_.lengthScale),
-                layout.geometry);
-        }
+        drawTriangles(diagram, layout.geometry, false);
         painter_.setPen(Qt::black);
         drawTexts(painter_, pointTexts(diagram, layout.geometry, measure_, options_.lengthScale), measure_,
                   options_.fontScale);
@@ -106,6 +102,7 @@ class PanePainter {
             legend.entries[i].attributes.penStyle = penStyles[i];
         }
         drawLegend(legend);
+        drawTriangles(diagram, layout.geometry, true);
         return layout.geometry;
     }
 
@@ -118,6 +115,16 @@ class PanePainter {
         const std::vector<QLine> strokes = qtLines(lines);
         painter_.drawLines(strokes.data(), asInt(strokes.size()));
         painter_.setPen(Qt::black);
+    }
+
+    void drawTriangles(const Diagram& diagram, const CScreenUtils& geometry, bool held) {
+        for (const SlopeTriangle& triangle : diagram.triangles) {
+            if (triangle.held == held) {
+                drawTriangle(
+                    slopeTriangleShape(triangle, geometry, diagram.frame.labelFont, measure_, options_.lengthScale),
+                    geometry);
+            }
+        }
     }
 
     void drawTriangle(const SlopeTriangleShape& shape, const CScreenUtils& geometry) {

@@ -97,6 +97,8 @@ TEST(Figures, LegendCoversNoTriangle) {
     for (const double from : {10.0, 130.0}) {
         diagram.triangles = {{from, from + 25.0, 1.15, -0.01, "-5/3"}};
         EXPECT_EQ(layoutOf(diagram).legend.inPlotArea, from == 10.0);
+        diagram.triangles[0].held = true;
+        EXPECT_TRUE(layoutOf(diagram).legend.inPlotArea);
     }
 }
 

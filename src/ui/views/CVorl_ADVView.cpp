@@ -78,6 +78,7 @@ void CVorl_ADVView::endTool() {
 void CVorl_ADVView::showTriangle(const SlopeTriangle& triangle) {
     if (auto* diagram = std::get_if<Diagram>(&content_)) {
         diagram->triangles = {triangle};
+        diagram->triangles.front().held = true;
         update();
     }
 }
