@@ -23,7 +23,9 @@ class Scanner {
                 if (!mayBeginString()) {
                     return RecipeTextFault{line_, "a quote stands within a word"};
                 }
-                skipString(c);
+                if (!skipString(c)) {
+                    return RecipeTextFault{line_, "a letter outside ASCII stands behind a backslash"};
+                }
                 continue;
             }
             if (c == '#') {
@@ -50,30 +52,42 @@ class Scanner {
         return at_ == 0 || std::string_view(" \t\r\n=,[{").find(text_[at_ - 1]) != std::string_view::npos;
     }
 
-    /// Ends behind the string; at the end of its line when it is left open, which the library refuses.
-    void skipString(char quote) {
+    /// Whether the library looks for blanks in letters outside ASCII: behind a backslash and the blanks and line ends
+    /// that it joins.
+    bool asksForBlanks() const {
+        const std::size_t next = text_.find_first_not_of(" \t\r\n", at_ + 1);
+        return next != std::string_view::npos && static_cast<unsigned char>(text_[next]) >= 0x80;
+    }
+
+    /// Ends behind the string; at the end of its line when it is left open, which the library refuses. False where the
+    /// library would have no answer.
+    bool skipString(char quote) {
         const std::string triple(3, quote);
         const bool isBlock = text_.substr(at_).starts_with(triple);
         at_ += isBlock ? 3 : 1;
         for (; at_ < text_.size(); ++at_) {
             const char c = text_[at_];
             if (c == '\n' && !isBlock) {
-                return;
+                return true;
             }
             line_ += c == '\n' ? 1 : 0;
             if (c == quote && !isBlock) {
                 ++at_;
-                return;
+                return true;
             }
             if (c == quote && text_.substr(at_).starts_with(triple)) {
                 // Two more quotes in front of the closing ones belong to the text.
                 at_ = std::min(text_.find_first_not_of(quote, at_), std::min(at_ + 5, text_.size()));
-                return;
+                return true;
+            }
+            if (c == '\\' && quote == '"' && asksForBlanks()) {
+                return false;
             }
             if (c == '\\' && quote == '"' && at_ + 1 < text_.size() && text_[at_ + 1] != '\n') {
                 ++at_;
             }
         }
+        return true;
     }
 
     std::string_view text_;
