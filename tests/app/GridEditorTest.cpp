@@ -260,6 +260,19 @@ TEST(GridEditor, TriesFilesAgainAndRefusesWhatIsNotThere) {
     EXPECT_EQ(editor.boundaryPath(), path.string());
 }
 
+TEST(GridEditor, PlacesTheFirstProbeOfAFileWithoutASelectedOne) {
+    RecordingPort port;
+    CVorl_ADVDoc document(port);
+    document.SimulateTimeSeries(sampleParameters(), 7);
+    GridEditor editor(document);
+    EXPECT_EQ(editor.moveProbe({1.25, std::nullopt, -0.0333}), Outcome::Done);
+    EXPECT_EQ(editor.probePosition(), (Position{1.25 / 0.001 * 0.001, 0.0, -0.0333 / 0.001 * 0.001}));
+    EXPECT_EQ(editor.newBoundary("/dev/null"), Outcome::Done);
+    editor.addNode({});
+    editor.moveNode({1.0, std::nullopt, std::nullopt});
+    EXPECT_EQ(port.reports.back(), "Node 1 moved");
+}
+
 TEST(GridEditor, PreviewTitlesFollowThePlaneUnlessTheUserWroteThem) {
     RecordingPort port;
     CVorl_ADVDoc document(port);

@@ -30,5 +30,25 @@ TEST(History, TheModifiedMarkFollowsTheSavedState) {
     std::filesystem::remove(path);
 }
 
+TEST(History, WhatWasSelectedBeforeTheFirstCommandGoesBackLast) {
+    RecordingPort port;
+    CVorl_ADVDoc document(port);
+    simulateAndSelect(document, 8.0);
+    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "selected.avp";
+    document.SaveWorkspace(path);
+    document.OpenWorkspace(path);
+    document.SelectActivePane(Pane::RightTop);
+    document.Clip(0.0, 4.0);
+    document.Undo();
+    EXPECT_STREQ(document.UndoName(), "Selection");
+    document.Undo();
+    EXPECT_EQ(document.ActivePane(), Pane::LeftTop);
+    EXPECT_STREQ(document.RedoName(), "Selection");
+    document.Redo();
+    EXPECT_EQ(document.ActivePane(), Pane::RightTop);
+    EXPECT_STREQ(document.RedoName(), "Clipping");
+    std::filesystem::remove(path);
+}
+
 }  // namespace
 }  // namespace vorlan
