@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     FuzzDocument fuzzed;
     CVorl_ADVDoc& document = fuzzed.document;
     const std::vector<std::byte> opened = storedBytes(document.GetWorkspace());
-    document.AppendFile(record());
+    document.AppendFiles({record()});
     document.SelectProbe(0);
     Choices choices(bytes, size);
     for (int i = 0; i < kMostCommands && !choices.empty(); ++i) {

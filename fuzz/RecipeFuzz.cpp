@@ -45,7 +45,7 @@ void run(const vorlan::Recipe& recipe) {
     CVorl_ADVDoc document(port);
     MemoryBoundaries boundaries;
     document.SetBoundaryStorage(boundaries);
-    document.AppendFile(record);
+    document.AppendFiles({record});
     document.SelectProbe(0);
     PendingOutputs outputs;
     Renderer renderer(toolkitPictures);

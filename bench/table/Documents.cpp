@@ -28,7 +28,7 @@ void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples) {
     fill(SAdvProbe::kSampledPressure, 1, 0.01, 100.0);
     probe.Reset();
     vorlan::finishNewProbe(probe);
-    document.AppendFile(std::move(file));
+    document.AppendFiles({std::move(file)});
     document.SelectFile(document.GetWorkspace().dataFiles.files.GetSize() - 1);
 }
 
