@@ -154,5 +154,24 @@ TEST(Version, NeedsACharacterOfANumber) {
     }
 }
 
+TEST(Layout, OptionsOutOfRangeLeaveTheDefaults) {
+    SAdvProbe probe;
+    probe.spectralWindow = 4;
+    probe.spectralUnit = 2;
+    probe.seriesU.windowCode = 9;
+    probe.seriesU.unitSelector = 9;
+    probe.seriesV.windowCode = 3;
+    Archive out = Archive::storing();
+    probe.Serialize(out);
+    SAdvProbe back;
+    Archive in = Archive::loading(out.bytes());
+    back.Serialize(in);
+    EXPECT_EQ(back.spectralWindow, 0U);
+    EXPECT_EQ(back.spectralUnit, 0U);
+    EXPECT_EQ(back.seriesU.windowCode, 0U);
+    EXPECT_EQ(back.seriesU.unitSelector, 0U);
+    EXPECT_EQ(back.seriesV.windowCode, 3U);
+}
+
 }  // namespace
 }  // namespace vorlan::test
