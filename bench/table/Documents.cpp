@@ -32,4 +32,33 @@ void openRecord(vorlan::CVorl_ADVDoc& document, std::size_t samples) {
     document.SelectFile(document.GetWorkspace().dataFiles.files.GetSize() - 1);
 }
 
+vorlan::EditingSettings allCriteria() {
+    using vorlan::ScoreStatistic;
+    vorlan::EditingSettings settings;
+    settings.correlation = {true, ScoreStatistic::Average, 76.0, 70.0};
+    settings.signalToNoise = {true, ScoreStatistic::Minimum, 10.0, 12.5};
+    settings.spikeFilter = settings.velocityTest = true;
+    settings.accelerationThreshold = 3.5;
+    return settings;
+}
+
+vorlan::RotationSettings threeAngles() {
+    vorlan::RotationSettings settings;
+    settings.heading = settings.pitch = settings.roll = 3.0;
+    return settings;
+}
+
+vorlan::SpectralSettings tenThousandLags() {
+    vorlan::SpectralSettings settings;
+    settings.percent = 1;
+    return settings;
+}
+
+MillionFile::MillionFile() {
+    BreathPort port;
+    vorlan::CVorl_ADVDoc document(port);
+    openRecord(document, 1'000'000);
+    document.SaveWorkspace(path);
+}
+
 }  // namespace bench

@@ -26,7 +26,7 @@ struct Batch {
         const std::filesystem::path out = folder.path() / "out";
         std::filesystem::create_directory(out);
         arguments = " --recipe " + recipe.string() + " --out-dir " + out.string();
-        GapPort port;
+        BreathPort port;
         vorlan::CVorl_ADVDoc document(port);
         openRecord(document, 200'000);
         for (unsigned i = 0; i < workspaces; ++i) {

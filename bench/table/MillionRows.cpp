@@ -6,7 +6,6 @@
 #include "table/Measure.h"
 #include "table/PlainLoops.h"
 #include "table/Rows.h"
-#include "ui/frame/WindowPort.h"
 
 namespace bench {
 
@@ -15,9 +14,6 @@ namespace {
 using namespace vorlan;
 
 constexpr std::size_t kSamples = 1'000'000;
-constexpr int kPercent = 1;  // 10,000 lags
-// The window takes its events when this time has passed at a breath: what lies between two breaths comes on top.
-constexpr double kWindowInterval = WindowPort::kMillisecondsBetweenEvents;
 
 using Columns = std::vector<std::span<const std::int32_t>>;
 
@@ -28,21 +24,17 @@ void append(Columns& columns, const SMultiArray& table) {
 }
 
 struct Million {
-    GapPort port;
+    BreathPort port;
     CVorl_ADVDoc document{port};
     // Copies keep what is read while the commands replace their own.
     SMultiArray tables[3];
     Columns velocities;
     Columns all;
-    /// Longest times between two breaths, by benchmark.
-    std::map<std::string, double> longestGaps;
 
     Million() {
         openRecord(document, kSamples);
         // The cross-spectra of a record need its spectra.
-        SpectralSettings settings;
-        settings.percent = kPercent;
-        document.SpectralAnalysis(settings);
+        document.SpectralAnalysis(tenThousandLags());
         const std::size_t which[] = {SAdvProbe::kVelocities, SAdvProbe::kCorrelation, SAdvProbe::kSignalToNoise};
         for (std::size_t t = 0; t < 3; ++t) {
             tables[t] = document.Probe().workTables[which[t]];
@@ -69,19 +61,12 @@ class MillionRows {
                    const char* reading = kThree) {
         const std::string name = "million/" + shortName;
         table_.ratio(what, name, reading, "x a reading", goal);
-        const Lazy<Million> million = million_;
-        table_.row("    longest time to the next events", {name}, "ms", atMost(20.0), [=](const Times&) {
-            return Cell{kWindowInterval + 1e3 * million().longestGaps.at(name), {}};
-        });
         return measureAfter(
             name, million_, [](Million& m) { m.document.ResetTimeSeries(); },
             [=](Million& m) {
-                m.port.forget();
                 if (command(m.document) != Outcome::Done) {
                     throw std::runtime_error(name + ": the command was refused");
                 }
-                double& longest = m.longestGaps[name];
-                longest = std::max(longest, m.port.longestGap());
             });
     }
 
@@ -98,15 +83,7 @@ void millionRows(Table& table) {
     rows.row("reset", "reset: stresses and moments", atMost(3.0), [](CVorl_ADVDoc& d) { return d.ResetTimeSeries(); });
     rows.row(
         "editing", "editing, four criteria, stresses and moments", atMost(3.0),
-        [](CVorl_ADVDoc& d) {
-            EditingSettings settings;
-            settings.correlation = {true, ScoreStatistic::Average, 76.0, 70.0};
-            settings.signalToNoise = {true, ScoreStatistic::Minimum, 10.0, 12.5};
-            settings.spikeFilter = settings.velocityTest = true;
-            settings.accelerationThreshold = 3.5;
-            return d.EditTimeSeries(settings);
-        },
-        MillionRows::kNine);
+        [](CVorl_ADVDoc& d) { return d.EditTimeSeries(allCriteria()); }, MillionRows::kNine);
     rows.row("stationarity/10", "stationarity, 10 fixed bands", atMost(3.0), [](CVorl_ADVDoc& d) {
         return d.StationarityAnalysis({BandMode::Fixed, 10});
     });
@@ -119,19 +96,12 @@ void millionRows(Table& table) {
     rows.row("distributions/1000", "distributions, 1000 grades", atMost(3.0), [](CVorl_ADVDoc& d) {
         return d.Distributions({1000, 90, true});
     });
-    rows.row("rotation", "rotation by three angles", {}, [](CVorl_ADVDoc& d) {
-        RotationSettings settings;
-        settings.heading = settings.pitch = settings.roll = 3.0;
-        return d.ChangeCoordinateSystem(settings);
-    });
+    rows.row("rotation", "rotation by three angles", {},
+             [](CVorl_ADVDoc& d) { return d.ChangeCoordinateSystem(threeAngles()); });
     rows.row("filter", "filter of 2000 taps", {}, [](CVorl_ADVDoc& d) { return d.FilterTimeSeries({}); });
     rows.row("quadrants", "quadrants", {}, [](CVorl_ADVDoc& d) { return d.QuadrantsAnalysis({}); });
     rows.row("spectral", "spectral analysis, 10,000 lags", {},
-             [](CVorl_ADVDoc& d) {
-                 SpectralSettings settings;
-                 settings.percent = kPercent;
-                 return d.SpectralAnalysis(settings);
-             })
+             [](CVorl_ADVDoc& d) { return d.SpectralAnalysis(tenThousandLags()); })
         ->Repetitions(2);
     rows.row("cross", "cross-spectral analysis, 10,000 lags", {},
              [](CVorl_ADVDoc& d) { return d.CrossSpectralAnalysis(); })

@@ -76,7 +76,7 @@ struct Picture {
 };
 
 struct Panes {
-    GapPort port;
+    BreathPort port;
     CVorl_ADVDoc document{port};
     std::array<PaneContent, kPaneCount> contents;
     QImage pane = paper(kPane);

@@ -12,8 +12,10 @@ void kernelRows(Table& table);
 void spectralRows(Table& table);
 /// Quadrants against plain loops.
 void quadrantRows(Table& table);
-/// Document commands on a record of a million samples: time, and the longest time without a breath.
+/// Document commands on a record of a million samples.
 void millionRows(Table& table);
+/// The longest time between two events of the window while it calculates.
+void eventRows(Table& table);
 /// Opening, saving, exporting.
 void fileRows(Table& table);
 /// Painting four panes of a million samples.

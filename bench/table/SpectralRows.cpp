@@ -173,7 +173,7 @@ void crossSpectra(Table& table) {
 constexpr std::size_t kSamples = 100'000;
 
 struct Probe {
-    GapPort port;
+    BreathPort port;
     CVorl_ADVDoc document{port};
     std::vector<Values> samples;
 

@@ -30,18 +30,6 @@ const Toolkit& toolkit() {
 
 namespace {
 
-struct MillionFile {
-    Folder folder;
-    std::filesystem::path path = folder.path() / "million.avp";
-
-    MillionFile() {
-        GapPort port;
-        CVorl_ADVDoc document(port);
-        openRecord(document, 1'000'000);
-        document.SaveWorkspace(path);
-    }
-};
-
 /// The application with a new window that holds nothing.
 CVorl_ADVApp& freshWindow() {
     CVorl_ADVApp& app = toolkit().app;

@@ -148,7 +148,7 @@ Outcome CVorl_ADVDoc::RunTogether(DocumentPort& port, const std::function<void(C
         copy.workspace_ = workspace_;
         copy.path_ = path_;
         copy.written_ = written_;
-        work(copy);
+        port_->work([&] { work(copy); });
         WorkspacePatch patch = WorkspacePatch::Between(workspace_, copy.workspace_);
         written_ = copy.written_;
         if (!patch.IsEmpty()) {
@@ -190,7 +190,7 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
         RunningScope scope(running_, *port_, command.calculation);
         try {
             SAdvProbe copy = Probe();
-            outcome = operation(copy, *port_);
+            port_->work([&] { outcome = operation(copy, *port_); });
             if (outcome == Outcome::Done) {
                 WriteDone(command, std::move(copy));
             }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "analysis/Progress.h"
@@ -50,6 +51,9 @@ class DocumentPort : public Progress {
     /// A calculation begins, or another part of the one that runs.
     virtual void beginRun(Calculation calculation) = 0;
     virtual void endRun() = 0;
+    /// Does a piece of the run: it reads the document, writes copies, and calls this port. Whoever has events to take
+    /// does it in a thread beside them; what the piece throws comes out here.
+    virtual void work(const std::function<void()>& piece) { piece(); }
 };
 
 /// Answers every question with OK, shows nothing.

@@ -38,6 +38,8 @@ void wantLargePages() {
 
 void keepFreedMemory() {
 #if defined(__GLIBC__)
+    // The window calculates in a thread, which shall take and leave its columns here, too.
+    mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, 512 << 20);
     wantLargePages();

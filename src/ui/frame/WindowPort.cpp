@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <optional>
+#include <utility>
+
+#include "ui/frame/BesideEvents.h"
 
 namespace vorlan {
 
@@ -40,24 +43,33 @@ QWidget* WindowPort::front() const {
     return dialog != nullptr ? dialog : &window_;
 }
 
+void WindowPort::box(const std::function<void()>& show) {
+    callInThreadOf(*this, [&] {
+        const ArrowScope arrow;
+        show();
+    });
+}
+
 bool WindowPort::confirm(Question question) {
-    const ArrowScope arrow;
-    return boxes_->confirm(front(), QString::fromUtf8(textOf(question)));
+    bool answer = false;
+    box([&] { answer = boxes_->confirm(front(), QString::fromUtf8(textOf(question))); });
+    return answer;
 }
 
 bool WindowPort::retry(const std::string& text) {
-    const ArrowScope arrow;
-    return boxes_->retry(front(), QString::fromStdString(text));
+    bool answer = false;
+    box([&] { answer = boxes_->retry(front(), QString::fromStdString(text)); });
+    return answer;
 }
 
 bool WindowPort::accept(const std::string& question) {
-    const ArrowScope arrow;
-    return boxes_->confirm(&window_, QString::fromStdString(question));
+    bool answer = false;
+    box([&] { answer = boxes_->confirm(&window_, QString::fromStdString(question)); });
+    return answer;
 }
 
 void WindowPort::refuse(const std::string& text) {
-    const ArrowScope arrow;
-    boxes_->refuse(front(), QString::fromStdString(text));
+    box([&] { boxes_->refuse(front(), QString::fromStdString(text)); });
 }
 
 void WindowPort::report(const std::string& text) {
@@ -68,20 +80,23 @@ void WindowPort::report(const std::string& text) {
 
 void WindowPort::beginRun(Calculation calculation) {
     const std::optional<int> offset = barOffsetOf(calculation);
-    if (offset.has_value() && pane_ != nullptr) {
-        pane_->showProgress(*offset);
-    } else if (pane_ != nullptr) {
-        pane_->hideRun();
-        pane_->showRun();
-    }
-    sinceBegin_.start();
+    shownPercent_ = 0;
+    show([this, offset](StatusPane& pane) {
+        sinceBegin_.start();
+        if (offset.has_value()) {
+            pane.showProgress(*offset);
+        } else {
+            pane.hideRun();
+            pane.showRun();
+        }
+    });
     if (running_) {
         return;
     }
     running_ = true;
+    ++run_;
     cancelled_ = false;
     status(nameOf(calculation));
-    sinceEvents_.start();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     qApp->installEventFilter(this);
     if (runListener_) {
@@ -93,40 +108,58 @@ void WindowPort::endRun() {
     running_ = false;
     qApp->removeEventFilter(this);
     QGuiApplication::restoreOverrideCursor();
-    if (pane_ != nullptr) {
-        pane_->hideRun();
-        pane_->setText(QStringLiteral("Ready"));
-    }
+    show([](StatusPane& pane) {
+        pane.hideRun();
+        pane.setText(QStringLiteral("Ready"));
+    });
     if (runListener_) {
         runListener_(false);
     }
 }
 
-void WindowPort::status(const std::string& text) {
-    if (pane_ != nullptr) {
-        pane_->setText(QString::fromStdString(text));
+void WindowPort::work(const std::function<void()>& piece) {
+    isInThreadOf(*this) ? doBesideEvents(piece) : piece();
+}
+
+void WindowPort::show(const std::function<void(StatusPane&)>& change) {
+    if (!isInThreadOf(*this)) {
+        const auto shown = [this, change, run = run_] {
+            if (running_ && run == run_) {
+                show(change);
+            }
+        };
+        QMetaObject::invokeMethod(this, shown, Qt::QueuedConnection);
+    } else if (pane_ != nullptr) {
+        change(*pane_);
     }
+}
+
+void WindowPort::status(const std::string& text) {
+    show([text = QString::fromStdString(text)](StatusPane& pane) { pane.setText(text); });
 }
 
 void WindowPort::position(int percent) {
-    if (pane_ != nullptr) {
-        pane_->setProgress(percent);
-    }
+    showPercent(percent, false);
 }
 
 void WindowPort::done(double share) {
-    // Most runs without a bar end before one could be seen.
-    if (pane_ != nullptr && pane_->progressBar().isHidden() && sinceBegin_.elapsed() > kMillisecondsToBar) {
-        pane_->showProgress(kLateBarOffset);
+    showPercent(static_cast<int>(share * 100.0), true);
+}
+
+void WindowPort::showPercent(int percent, bool late) {
+    if (std::exchange(shownPercent_, percent) == percent) {
+        return;
     }
-    position(static_cast<int>(share * 100.0));
+    show([this, percent, late](StatusPane& pane) {
+        // Most runs without a bar end before one could be seen.
+        if (late && pane.progressBar().isHidden() && sinceBegin_.elapsed() > kMillisecondsToBar) {
+            pane.showProgress(kLateBarOffset);
+        }
+        pane.setProgress(percent);
+    });
 }
 
 void WindowPort::pump() {
-    if (sinceEvents_.elapsed() >= kMillisecondsBetweenEvents) {
-        QCoreApplication::processEvents();
-        sinceEvents_.restart();
-    }
     if (cancelled_) {
         throw Cancelled();
     }

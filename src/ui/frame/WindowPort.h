@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
+#include <atomic>
 #include <functional>
 
 #include "app/DocumentPort.h"
@@ -11,16 +12,13 @@
 
 namespace vorlan {
 
-/// The document's port in the window: boxes, status bar, progress bar, wait cursor. While a calculation runs it keeps
-/// the window painting; Esc cancels the run.
+/// The document's port in the window: boxes, status bar, progress bar, wait cursor. A calculation runs in a thread
+/// beside the window's events, however busy the machine is; Esc cancels it. What it tells comes from that thread: boxes
+/// make it wait, the rest is shown with the next events.
 class WindowPort : public QObject, public DocumentPort {
     Q_OBJECT
 
   public:
-    /// Events are taken this often during a run: well below 20 ms, with what lies between two breaths and what the
-    /// machine does meanwhile on top.
-    static constexpr int kMillisecondsBetweenEvents = 2;
-
     WindowPort(QWidget& window, UserBoxes& boxes) : window_(window), boxes_(&boxes) {}
 
     void setStatusPane(StatusPane* pane) { pane_ = pane; }
@@ -37,6 +35,7 @@ class WindowPort : public QObject, public DocumentPort {
     void report(const std::string& text) override;
     void beginRun(Calculation calculation) override;
     void endRun() override;
+    void work(const std::function<void()>& piece) override;
     void status(const std::string& text) override;
     void position(int percent) override;
     void done(double share) override;
@@ -46,6 +45,12 @@ class WindowPort : public QObject, public DocumentPort {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// Changes the status pane, with the next events when a calculation in its thread asks for it.
+    void show(const std::function<void(StatusPane&)>& change);
+    void showPercent(int percent, bool late);
+
+    /// Shows a box and waits for its answer.
+    void box(const std::function<void()>& show);
     /// What a box stands in front of: an open dialog, else the window.
     QWidget* front() const;
 
@@ -54,10 +59,11 @@ class WindowPort : public QObject, public DocumentPort {
     QPointer<StatusPane> pane_;
     std::function<void(bool)> runListener_;
     std::function<void(const QString&)> reportListener_;
-    QElapsedTimer sinceEvents_;
     QElapsedTimer sinceBegin_;
     bool running_ = false;
-    bool cancelled_ = false;
+    int run_ = 0;  ///< counts the runs: what an ended one told is not shown any more
+    int shownPercent_ = 0;
+    std::atomic<bool> cancelled_ = false;
 };
 
 }  // namespace vorlan
