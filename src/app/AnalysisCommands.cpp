@@ -18,7 +18,6 @@ Outcome CVorl_ADVDoc::Analyse(const ProbeCommand& command, const Analysis& analy
         }
         return refusal.empty() ? Outcome::Done : Outcome::Refused;
     });
-    Tell(outcome == Outcome::Done ? Change::Content : Change::View);
     return Report(outcome, sentence);
 }
 

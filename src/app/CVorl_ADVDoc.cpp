@@ -158,8 +158,8 @@ Outcome CVorl_ADVDoc::RunTogether(DocumentPort& port, const std::function<void(C
             }
             Write(nameOf(Calculation::Recipe), std::move(patch), std::move(done));
         }
+        Tell(Change::Content);
     }
-    Tell(Change::Content);
     return Outcome::Done;
 }
 
@@ -180,13 +180,15 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
     };
     if (!HasProbe()) {
         keepSettings();
+        Tell(Change::View);
         return Outcome::Refused;
     }
     Outcome outcome = Outcome::Refused;
     std::string failure;
     repeated_.reset();
     {
-        // Written before the run ends: what the window does then may select another view.
+        // Written and shown before the run ends: what the window does then may select another view, and showing a long
+        // record is a part of the wait.
         RunningScope scope(running_, *port_, command.calculation);
         try {
             SAdvProbe copy = Probe();
@@ -201,13 +203,18 @@ Outcome CVorl_ADVDoc::RunOnProbe(const ProbeCommand& command, const ProbeOperati
         } catch (const std::bad_alloc&) {
             failure = "Out of memory.";
         }
-        if (outcome != Outcome::Done) {
+        if (outcome == Outcome::Done) {
+            Tell(Change::Content);
+        } else {
             keepSettings();
         }
     }
     if (!failure.empty()) {
         port_->refuse(failure);
         outcome = Outcome::Refused;
+    }
+    if (outcome != Outcome::Done) {
+        Tell(Change::View);
     }
     return outcome;
 }

@@ -229,8 +229,8 @@ class CVorl_ADVDoc {
     /// Another workspace, with nothing to take back.
     void Replace(Workspace workspace, std::filesystem::path path, std::optional<FileStamp> stamp);
     void Select(WorkspacePatch patch) { Write(nullptr, std::move(patch)); }
-    /// Runs operation on a copy of the active probe and writes the copy when it is done. The operation may still edit
-    /// the command's settings.
+    /// Runs operation on a copy of the active probe and writes the copy when it is done; tells the listener. The
+    /// operation may still edit the command's settings.
     Outcome RunOnProbe(const ProbeCommand& command, const ProbeOperation& operation);
     /// RunOnProbe for a change of the working series: change, then the change rule, then the probe's moments.
     Outcome ChangeSeries(const ProbeCommand& command, const ProbeOperation& change, const Sentence& sentence);

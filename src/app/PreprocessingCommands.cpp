@@ -32,7 +32,6 @@ Outcome CVorl_ADVDoc::ChangeSeries(const ProbeCommand& command, const ProbeOpera
         }
         return changed;
     });
-    Tell(outcome == Outcome::Done ? Change::Content : Change::View);
     return Report(outcome, [&] {
         return sentence() + (Probe().HasOldStage() ? std::string(". ") + kEarlierResultsReport : std::string());
     });
@@ -44,7 +43,6 @@ Outcome CVorl_ADVDoc::EnterZoomMode() {
             enterZoomMode(copy);
             return Outcome::Done;
         });
-    Tell(Change::Content);
     return Report(outcome, [] { return std::string("Drag over the time to keep, or use the arrow keys and Return"); });
 }
 

@@ -217,7 +217,7 @@ void CMainFrame::runCommand(Command command) {
 
 void CMainFrame::documentChanged(Change change) {
     if (change != Change::View) {
-        panes_->describe(document_);
+        panes_->describe(document_, port_);
     }
     selectionBar_->refresh(document_);
     tabs_->refresh(document_);

@@ -41,17 +41,25 @@ bool PaneGrid::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void PaneGrid::describe(const CVorl_ADVDoc& document) {
+void PaneGrid::describe(const CVorl_ADVDoc& document, DocumentPort& port) {
     if (document.GetWorkspace().dataFiles.files.IsEmpty()) {
         for (CVorl_ADVView* view : views_) {
             view->setContent(beginningHint(view->pane()));
         }
         return;
     }
-    for (CVorl_ADVView* view : views_) {
-        view->setContent(
-            describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(),
-                          document.CurrentStage(), view->pane(), document.CurrentValue(), document.ShowsTable()}));
+    std::array<PaneContent, kPaneCount> contents;
+    const auto describeAll = [&] {
+        for (std::size_t i = 0; i < kPaneCount; ++i) {
+            contents[i] = describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(),
+                                        document.CurrentStage(), views_[i]->pane(), document.CurrentValue(),
+                                        document.ShowsTable()});
+        }
+    };
+    // The user can change nothing during a run. At other times the next event could be a command.
+    document.IsRunning() ? port.work(describeAll) : describeAll();
+    for (std::size_t i = 0; i < kPaneCount; ++i) {
+        views_[i]->setContent(std::move(contents[i]));
     }
 }
 

@@ -20,8 +20,8 @@ class PaneGrid : public QWidget {
 
     CVorl_ADVView& view(Pane pane) const { return *views_[asSize(pane)]; }
     const std::array<CVorl_ADVView*, kPaneCount>& views() const { return views_; }
-    /// Gives every pane what it shows now.
-    void describe(const CVorl_ADVDoc& document);
+    /// Gives every pane what it shows now. In a run the port does the work.
+    void describe(const CVorl_ADVDoc& document, DocumentPort& port);
     void setActivePane(Pane pane);
 
   protected:
