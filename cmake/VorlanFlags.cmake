@@ -4,6 +4,9 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# Said to the linker, too: without this the compiler's default decides whether programs are loaded anywhere.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
 # Programs have the same bytes wherever they were built.
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
