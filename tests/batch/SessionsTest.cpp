@@ -13,6 +13,7 @@ class Sessions : public BatchTest, public testing::WithParamInterface<const char
     void SetUp() override {
         before_ = std::filesystem::current_path();
         std::filesystem::current_path(path(""));
+        ::setenv("batch", VORLAN_BATCH_PROGRAM, 1);
     }
     void TearDown() override { std::filesystem::current_path(before_); }
 
@@ -124,7 +125,8 @@ TEST_P(Sessions, AnswerAsApproved) {
 INSTANTIATE_TEST_SUITE_P(Approved, Sessions,
                          testing::Values("session-usage", "session-recipes", "session-refusals", "session-outputs",
                                          "session-import", "session-run", "session-tables", "session-hostile",
-                                         "session-turbulence", "session-paper", "session-frames", "session-grid"));
+                                         "session-turbulence", "session-paper", "session-frames", "session-grid",
+                                         "session-system"));
 
 }  // namespace
 
