@@ -153,34 +153,6 @@ TEST_P(EverySet, ColumnSumsAndProductsHaveTheBytesOfThePlainLoops) {
     }
 }
 
-TEST_P(EverySet, TrigonometricSumsFollowTheWrittenPi) {
-    constexpr long double kWrittenPi = 3.141592653589;  // the double
-    // Lags that end before, at and behind the middle and the end of a block, whose rows are looked up in groups.
-    constexpr std::size_t kMiddle = kPhaseSteps / 2;
-    for (const std::size_t length : {std::size_t{1}, std::size_t{2}, kMiddle, kMiddle + 1, kMiddle + 2, kPhaseSteps - 1,
-                                     kPhaseSteps, kPhaseSteps + 1, std::size_t{200}, 9 * kPhaseSteps + 1}) {
-        const std::vector<Values> terms = {roughSeries(length, 5), roughSeries(length, 6), roughSeries(length, 7),
-                                           roughSeries(length, 8)};
-        const std::size_t frequencies = length + 1;
-        const auto cosines = cosineSums(terms, length, frequencies, progress_, kernels());
-        const auto sines = sineSums(terms, length, frequencies, progress_, kernels());
-        for (std::size_t s = 0; s < terms.size(); ++s) {
-            for (std::size_t i = 0; i < frequencies; i += 1 + length / 40) {
-                long double cosine = 0.0L;
-                long double sine = 0.0L;
-                for (std::size_t k = 0; k < length; ++k) {
-                    const long double phase = kWrittenPi * static_cast<long double>(i * k) / length;
-                    cosine += terms[s][k] * std::cos(phase);
-                    sine += terms[s][k] * std::sin(phase);
-                }
-                // True pi would be off by about 1e-9 for the longest.
-                ASSERT_NEAR(cosines[s][i], static_cast<double>(cosine), 1e-11) << length << ' ' << i;
-                ASSERT_NEAR(sines[s][i], static_cast<double>(sine), 1e-11) << length << ' ' << i;
-            }
-        }
-    }
-}
-
 TEST(Kernels, EverySetGivesTheSameTrigonometricBytes) {
     NoProgress progress;
     const KernelSet& plain = kernelsOf(InstructionSet::Plain);

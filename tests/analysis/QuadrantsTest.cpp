@@ -34,8 +34,9 @@ struct PlainQuadrants {
 };
 
 /// The average of x around the events, lag by lag.
-std::vector<double> plainAverageAround(const std::vector<std::size_t>& events, const std::vector<double>& x, int lag) {
-    std::vector<double> pattern;
+std::vector<std::int32_t> plainPattern(const std::vector<double>& x, const std::vector<std::size_t>& events, int lag,
+                                       double deviation) {
+    std::vector<std::int32_t> pattern;
     for (int tau = -lag; tau <= lag; ++tau) {
         double sum = 0.0;
         int count = 0;
@@ -46,20 +47,10 @@ std::vector<double> plainAverageAround(const std::vector<std::size_t>& events, c
                 ++count;
             }
         }
-        pattern.push_back(count == 0 ? 0.0 : sum / count);
+        pattern.push_back(count == 0 || sum == 0.0 ? 0 : held(sum / count / deviation, 1e-4));
     }
     return pattern;
 }
-
-std::vector<std::int32_t> plainPattern(const std::vector<double>& x, const std::vector<std::size_t>& events, int lag,
-                                       double deviation) {
-    std::vector<std::int32_t> result;
-    for (const double average : plainAverageAround(events, x, lag)) {
-        result.push_back(average == 0.0 ? 0 : held(average / deviation, 1e-4));
-    }
-    return result;
-}
-
 double plainDeviation(const std::vector<double>& fluctuations) {
     double squares = 0.0;
     for (const double v : fluctuations) {
@@ -141,11 +132,6 @@ void expectPlainResults(const SAdvProbe& probe, const QuadrantSettings& settings
     }
 }
 
-/// Increment, maximum, ejection threshold, sweep threshold, lag, stress type.
-QuadrantSettings settingsOf(double increment, double maximum, double ejection, double sweep, double lag, int type) {
-    return {increment, maximum, ejection, sweep, lag, type};
-}
-
 TEST(Quadrants, HoldTheIntegersOfThePlainLoops) {
     for (const double coupling : {-0.4, 0.4}) {
         for (int type = 0; type < 3; ++type) {
@@ -153,8 +139,10 @@ TEST(Quadrants, HoldTheIntegersOfThePlainLoops) {
                 SAdvProbe probe = correlatedProbe(samples, coupling);
                 formStresses(probe);
                 for (const QuadrantSettings& settings :
-                     {settingsOf(0.2, 20.0, 1.0, 2.0, 2.0, type), settingsOf(0.3, 4.1, 0.0, 0.0, 20.0, type),
-                      settingsOf(2.0, 2.0, 3.0, 0.5, 0.03, type), settingsOf(0.001, 2.0, 1.0, 1.0, 3.21, type)}) {
+                     std::initializer_list<QuadrantSettings>{{0.2, 20.0, 1.0, 2.0, 2.0, type},
+                                                             {0.3, 4.1, 0.0, 0.0, 20.0, type},
+                                                             {2.0, 2.0, 3.0, 0.5, 0.03, type},
+                                                             {0.001, 2.0, 1.0, 1.0, 3.21, type}}) {
                     SCOPED_TRACE(testing::Message() << "coupling " << coupling << " type " << type << " samples "
                                                     << samples << " increment " << settings.increment);
                     NoProgress silent;
@@ -177,7 +165,7 @@ TEST(Quadrants, WrapWhenASumLeavesThirtyTwoBits) {
     velocity(probe, 0).Add(1);
     velocity(probe, 2).Add(1);
     NoProgress silent;
-    const QuadrantSettings settings = settingsOf(50.0, 1000.0, 1.0, 2.0, 2.0, 1);
+    const QuadrantSettings settings{50.0, 1000.0, 1.0, 2.0, 2.0, 1};
     analyseQuadrants(probe, settings, silent);
     expectPlainResults(probe, settings);
 }
@@ -186,7 +174,7 @@ TEST(Quadrants, WithANegativeIncrementAverageOnly) {
     SAdvProbe probe = correlatedProbe(400, -0.4);
     NoProgress silent;
     for (const double maximum : {20.0, -20.0}) {
-        analyseQuadrants(probe, settingsOf(-0.2, maximum, 1.0, 2.0, 2.0, 1), silent);
+        analyseQuadrants(probe, {-0.2, maximum, 1.0, 2.0, 2.0, 1}, silent);
         EXPECT_TRUE(probe.stageTables[SAdvProbe::kContributions].HasNoValues());
         EXPECT_EQ(probe.stageTables[SAdvProbe::kEjectionPattern].GetAt(0).GetSize(), 101);
     }
@@ -197,16 +185,18 @@ TEST(Quadrants, RefuseWhatMemoryCannotBear) {
     const SAdvProbe before = probe;
     NoProgress silent;
     for (const QuadrantSettings& settings :
-         {settingsOf(1e-9, 20.0, 1.0, 2.0, 2.0, 1), settingsOf(0.0, 20.0, 1.0, 2.0, 2.0, 1),
-          settingsOf(0.2, std::nan(""), 1.0, 2.0, 2.0, 1), settingsOf(0.2, 20.0, 1.0, 2.0, 1e9, 1)}) {
+         std::initializer_list<QuadrantSettings>{{1e-9, 20.0, 1.0, 2.0, 2.0, 1},
+                                                 {0.0, 20.0, 1.0, 2.0, 2.0, 1},
+                                                 {0.2, std::nan(""), 1.0, 2.0, 2.0, 1},
+                                                 {0.2, 20.0, 1.0, 2.0, 1e9, 1}}) {
         EXPECT_NE(analyseQuadrants(probe, settings, silent).find("no more than 1000000 "), std::string::npos);
     }
     for (const int stress : {3, -1}) {
-        EXPECT_THROW(analyseQuadrants(probe, settingsOf(0.2, 20.0, 1.0, 2.0, 2.0, stress), silent), InvalidArgument);
+        EXPECT_THROW(analyseQuadrants(probe, {0.2, 20.0, 1.0, 2.0, 2.0, stress}, silent), InvalidArgument);
     }
     EXPECT_EQ(probe, before);
     // At the limits themselves it runs.
-    analyseQuadrants(probe, settingsOf(1.0, kMaximumHoleSizes, 1.0, 2.0, 2.0, 1), silent);
+    analyseQuadrants(probe, {1.0, kMaximumHoleSizes, 1.0, 2.0, 2.0, 1}, silent);
     EXPECT_EQ(probe.stageTables[SAdvProbe::kTimes].GetAt(4).GetSize(), kMaximumHoleSizes);
 }
 
@@ -246,30 +236,6 @@ TEST(Quadrants, TitleThePatternsByTheirEvents) {
     negative.frameAttributes[5].ElementAt(1).plotTitle = "mine";
     analyseQuadrants(negative, QuadrantSettings(), silent);
     EXPECT_EQ(patternTitles(negative), "mine|Sweep (dimensionless velocities)|");
-}
-
-TEST(AverageAround, IsTheSameWithEveryInstructionSet) {
-    // Records shorter than a register and than the lags, and one with more events than are taken at a time.
-    for (const std::size_t size : {1U, 2U, 3U, 17U, 777U, 4001U}) {
-        const SAdvProbe probe = correlatedProbe(static_cast<int>(size), -0.4);
-        const std::vector<double> x = fluctuationsOf(probe)[0];
-        std::vector<std::size_t> some;
-        for (std::size_t j = 0; j < size; j += 1 + j % 5) {
-            some.push_back(j);
-        }
-        const std::vector<std::vector<std::size_t>> choices = {{}, {0}, {size / 2}, {size - 1}, some};
-        for (const InstructionSet set : availableInstructionSets()) {
-            for (const int lag : {0, 1, 15, 100, 776, 900}) {
-                for (const std::vector<std::size_t>& events : choices) {
-                    ASSERT_EQ(averageAround(events, x, lag, noProgress(), kernelsOf(set)),
-                              plainAverageAround(events, x, lag))
-                        << nameOf(set) << ", " << size << " samples, " << events.size() << " events, lag " << lag;
-                }
-            }
-        }
-    }
-    EXPECT_TRUE(averageAround(std::vector<std::size_t>{0}, std::vector<double>{1.0}, -1).empty());
-    EXPECT_EQ(averageAround({}, {}, 2), std::vector<double>(5));
 }
 
 }  // namespace

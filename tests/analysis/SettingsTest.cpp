@@ -52,50 +52,8 @@ TEST(Settings, OfTheSpectraTravelWithTheCodesOfTheirButtons) {
     }
 }
 
-FilterSettings filter(double halfWidth, double cutoff) {
-    return {FilterShape::Rectangle, FilterType::LowPass, cutoff, halfWidth};
-}
-
-SpectralSettings truncation(int mode, int percent, int lags) {
-    return {2, 1, mode, percent, lags};
-}
-
-TEST(Settings, AreRefusedInTheOrderOfTheirFields) {
-    const struct {
-        Refusal said;
-        const char* text;
-        const char* field;
-    } rows[] = {
-        {refusalOf(filter(0.0, 0.0)), "The filter width should be grater than 0!", "half_width"},
-        {refusalOf(filter(1.0, 0.0)), "The cutoff frequency should be grater than 0!", "cutoff"},
-        {refusalOf(filter(-1.0, -1.0)), "", ""},
-        {refusalOf(StationaritySettings{BandMode::Fixed, 1}), "Band number should be larger than 1!", "bands"},
-        {refusalOf(StationaritySettings{BandMode::Fixed, 2}), "", ""},
-        {refusalOf(HistogramSettings{1, 90, true}), "Number of grades should be larger than 1!", "grades"},
-        {refusalOf(HistogramSettings{2, 90, true}), "", ""},
-        {refusalOf(truncation(0, 0, 2)), "The truncation point should be grater than 0!", "percent"},
-        {refusalOf(truncation(0, 1, 2)), "", ""},
-        {refusalOf(truncation(1, 0, 2)), "The truncation point should be grater than 2!", "lags"},
-        {refusalOf(truncation(1, 0, 3)), "", ""},
-        {refusalOf(QuadrantSettings{0.0, 1.9, -0.1, -0.1, 1.9, 1}), "The ejection threshold should be grater than 0!",
-         "ejection"},
-        {refusalOf(QuadrantSettings{0.0, 1.9, 0.0, -0.1, 1.9, 1}), "The maximum size should be grater than 2!",
-         "maximum"},
-        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, -0.1, 1.9, 1}), "The maximum lag should be grater than 2!", "lag"},
-        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, -0.1, 2.0, 1}), "The sweep threshold should be grater than 0!",
-         "sweep"},
-        {refusalOf(QuadrantSettings{0.0, 2.0, 0.0, 0.0, 2.0, 1}), "The size increment should be grater than 0!",
-         "increment"},
-        {refusalOf(QuadrantSettings{-0.1, 2.0, 0.0, 0.0, 2.0, 1}), "", ""},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.said.text, row.text);
-        EXPECT_EQ(row.said.field, row.field);
-    }
-}
-
 TEST(Settings, TruncationPointIsAPercentageOrANumberOfLags) {
-    SpectralDialogValues settings = truncation(0, 50, 40);
+    SpectralDialogValues settings{{2, 1, 0, 50, 40}};
     EXPECT_EQ(truncationPoint(settings, 2501), 1250);
     settings.truncationMode = 1;
     settings.percentFlag = false;

@@ -25,16 +25,6 @@ class Commands : public ::testing::Test {
     SAdvProbe before;
 };
 
-TEST_F(Commands, TooManyLagsAreRefusedAndTheProbeStays) {
-    EXPECT_EQ(document.SpectralAnalysis(lagsOf(501)), Outcome::Refused);
-    ASSERT_EQ(port.refusals.size(), 1U);
-    EXPECT_EQ(port.refusals[0], "Truncation point too large ! This value exceed of half time series length.");
-    EXPECT_EQ(document.Probe(), before);
-    EXPECT_EQ(document.Settings().lastTruncationPoint, 501) << "kept although the command was abandoned";
-    EXPECT_EQ(document.CurrentStage(), Stage::PreProcessing);
-    EXPECT_EQ(document.SpectralAnalysis(lagsOf(500)), Outcome::Done);
-}
-
 TEST_F(Commands, CancellingStoresNothingAnywhereInTheRun) {
     // Wherever the run is cut, the probe is bit for bit what it was.
     int done = 0;
@@ -126,51 +116,6 @@ TEST_F(Commands, AStageThatCannotBeRepeatedSaysSoOnceAndTheChainGoesOn) {
     EXPECT_EQ(probe.seriesU.spectrum, analysed.seriesU.spectrum);
     EXPECT_EQ(probe.workTables[SAdvProbe::kCoSpectra], analysed.workTables[SAdvProbe::kCoSpectra]);
     EXPECT_NE(probe.stageTables[SAdvProbe::kTimes], analysed.stageTables[SAdvProbe::kTimes]) << "quadrants repeated";
-}
-
-TEST_F(Commands, WhatChangesNothingIsNoModification) {
-    const std::filesystem::path path = std::filesystem::path(::testing::TempDir()) / "same.avp";
-    document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
-    document.Distributions({});
-    document.SaveWorkspace(path);
-    document.SelectStage(0);
-    document.SetMeanVelocity({MeanVelocityMode::User, 12.5});
-    document.Distributions({});
-    document.SetFrame(0, 1, frameOrDefault(document.Probe(), 0, 1));
-    document.PlaceProbe(0, 0, {});
-    document.SetPage(Stage::Spectral, document.GetWorkspace().pages.GetAt(3));
-    EXPECT_FALSE(document.IsModified());
-    std::filesystem::remove(path);
-}
-
-TEST_F(Commands, RefusedChangesLeaveTheProbeAsItWas) {
-    EXPECT_EQ(document.Clip(-1.0, 5.0), Outcome::Refused);
-    EXPECT_EQ(port.refusals.back(), "The limits for clipping are wrong !");
-    EXPECT_EQ(document.Probe(), before);
-
-    FilterSettings filter;
-    filter.halfWidth = 0.02;
-    EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Refused);
-    EXPECT_EQ(port.refusals.back(), "Filter width too small ! This value should be larger than sampling rate.");
-    filter.halfWidth = 10.5;
-    EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Refused);
-    EXPECT_EQ(port.refusals.back(),
-              "Filter width too large ! This value should be smaller than 1/4 time series length.");
-    const std::size_t said = port.refusals.size();
-    filter.halfWidth = 10.0;
-    EXPECT_EQ(document.FilterTimeSeries(filter), Outcome::Cancelled) << "exactly a quarter: nothing, silently";
-    EXPECT_EQ(port.refusals.size(), said);
-    EXPECT_EQ(document.Probe(), before);
-    EXPECT_EQ(document.Settings().filter.halfWidth, 10.0) << "accepted parameters are kept";
-}
-
-TEST_F(Commands, CancelledRepeatDropsTheWholeChange) {
-    ASSERT_EQ(document.SpectralAnalysis(lagsOf(50)), Outcome::Done);
-    document.SelectStage(0);
-    const SAdvProbe analysed = document.Probe();
-    port.pumpsLeft = 0;
-    EXPECT_EQ(document.Clip(0.0, 30.0), Outcome::Cancelled);
-    EXPECT_EQ(document.Probe(), analysed);
 }
 
 TEST_F(Commands, EveryDoneMarkHasAPlaceInTheChain) {

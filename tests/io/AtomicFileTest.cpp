@@ -51,41 +51,6 @@ TEST(AtomicFiles, ReplaceOnlyOnCommit) {
     EXPECT_EQ(folder.entries(), 1U);
 }
 
-TEST(AtomicFiles, KeepPermissions) {
-    const TempFolder folder;
-    const mode_t mask = ::umask(027);
-    const auto fresh = folder / "fresh";
-    writeFileAtomically(fresh, "a");
-    struct stat status {};
-    ::stat(fresh.c_str(), &status);
-    EXPECT_EQ(status.st_mode & 07777U, 0640U);
-    for (const mode_t mode : {0600U, 0664U, 0755U}) {
-        ::chmod(fresh.c_str(), mode);
-        writeFileAtomically(fresh, "b");
-        ::stat(fresh.c_str(), &status);
-        EXPECT_EQ(status.st_mode & 07777U, mode);
-    }
-    ::umask(mask);
-}
-
-TEST(AtomicFiles, FollowLinks) {
-    const TempFolder folder;
-    std::filesystem::create_directory(folder / "deep");
-    spill(folder / "deep/data", "old");
-    std::filesystem::create_symlink("deep/data", folder / "link");
-    std::filesystem::create_symlink(folder / "link", folder / "link of link");
-    writeFileAtomically(folder / "link of link", "new");
-    EXPECT_EQ(slurp(folder / "deep/data"), "new");
-    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
-    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link of link"));
-    std::filesystem::create_symlink("deep/later", folder / "dangling");
-    writeFileAtomically(folder / "dangling", "made");
-    EXPECT_EQ(slurp(folder / "deep/later"), "made");
-    EXPECT_TRUE(std::filesystem::is_symlink(folder / "dangling"));
-    std::filesystem::create_symlink("round", folder / "round");
-    EXPECT_EQ(errorOfWriting(folder / "round", "x").kind(), FileError::Kind::Unwritable);
-}
-
 TEST(AtomicFiles, WriteDevicesDirectly) {
     const TempFolder folder;
     std::filesystem::create_symlink("/dev/full", folder / "full");
@@ -96,16 +61,6 @@ TEST(AtomicFiles, WriteDevicesDirectly) {
     EXPECT_NO_THROW(writeFileAtomically("/dev/null", "text"));
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
-}
-
-TEST(AtomicFiles, RefuseFoldersAndMissingFolders) {
-    const TempFolder folder;
-    EXPECT_EQ(errorOfWriting(folder.path(), "x").kind(), FileError::Kind::NotAFile);
-    const FileError missing = errorOfWriting(folder / "none/data", "x");
-    EXPECT_EQ(missing.kind(), FileError::Kind::Missing);
-    EXPECT_EQ(missing.reason(), "there is no such folder");
-    spill(folder / "file", "");
-    EXPECT_EQ(errorOfWriting(folder / "file/data", "x").kind(), FileError::Kind::Missing);
 }
 
 /// Makes the process an ordinary user while it lives, since nothing is protected from the superuser.

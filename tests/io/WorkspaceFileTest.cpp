@@ -56,35 +56,6 @@ TEST_F(WorkspaceFile, RandomOnesAreSavedByteForByte) {
     }
 }
 
-TEST_F(WorkspaceFile, EveryKindOfUnusableFileHasItsOwnReason) {
-    struct Row {
-        const char* name;
-        FileError::Kind kind;
-        const char* reason;
-    };
-    spill(folder_ / "empty", "");
-    std::filesystem::create_directory(folder_ / "folder");
-    ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
-    const Row rows[] = {{"missing", FileError::Kind::Missing, "there is no such file"},
-                        {"missing/deeper", FileError::Kind::Missing, "there is no such file"},
-                        {"empty/deeper", FileError::Kind::Missing, "there is no such file"},
-                        {"empty", FileError::Kind::Empty, "it is empty"},
-                        {"folder", FileError::Kind::NotAFile, "it is a folder"},
-                        {"pipe", FileError::Kind::NotAFile, "it is not a regular file"}};
-    for (const Row& row : rows) {
-        const std::filesystem::path path = folder_ / row.name;
-        try {
-            openWorkspace(path);
-            ADD_FAILURE() << row.name;
-        } catch (const FileError& error) {
-            EXPECT_EQ(error.kind(), row.kind) << row.name;
-            EXPECT_EQ(error.reason(), row.reason);
-            EXPECT_EQ(error.path(), path);
-            EXPECT_EQ(error.what(), "File cannot be read: " + path.string() + " (" + row.reason + ")");
-        }
-    }
-}
-
 /// One file with one probe at least, pages behind it.
 WorkspaceImage sampleImage(std::size_t& pagesAt) {
     for (std::uint64_t seed = 1000;; ++seed) {

@@ -18,33 +18,6 @@ std::vector<std::byte> bytesOf(std::initializer_list<int> values) {
     return bytes;
 }
 
-TEST(ArchiveTexts, TakeTheShortestPrefix) {
-    struct Row {
-        std::size_t length;
-        std::vector<std::byte> prefix;
-    };
-    const Row rows[] = {{0, bytesOf({0})},
-                        {1, bytesOf({1})},
-                        {254, bytesOf({254})},
-                        {255, bytesOf({0xFF, 0xFF, 0x00})},
-                        {256, bytesOf({0xFF, 0x00, 0x01})},
-                        {0xFFFD, bytesOf({0xFF, 0xFD, 0xFF})},
-                        {0xFFFE, bytesOf({0xFF, 0xFF, 0xFF, 0xFE, 0xFF, 0x00, 0x00})},
-                        {70000, bytesOf({0xFF, 0xFF, 0xFF, 0x70, 0x11, 0x01, 0x00})}};
-    for (const Row& row : rows) {
-        std::string text(row.length, '\x80');
-        Archive out = Archive::storing();
-        out.value(text);
-        ASSERT_EQ(out.bytes().size(), row.prefix.size() + row.length);
-        EXPECT_TRUE(std::equal(row.prefix.begin(), row.prefix.end(), out.bytes().begin())) << row.length;
-        std::string back = "previous";
-        Archive in = Archive::loading(out.bytes());
-        in.value(back);
-        EXPECT_EQ(back, text);
-        EXPECT_EQ(in.remaining(), 0U);
-    }
-}
-
 TEST(ArchiveErrors, TellWhere) {
     const auto bytes = bytesOf({1, 2, 3, 4, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F});
     Archive in = Archive::loading(bytes);
@@ -74,19 +47,6 @@ TEST(ArchiveCounts, AreCheckedAgainstTheBytesThatAreLeft) {
     const auto longCount = bytesOf({0xFF, 0xFF, 3, 0, 0, 0, 0, 0, 0});
     Archive generic = Archive::loading(longCount);
     EXPECT_EQ(generic.shortCount(0, 1), 3U);
-}
-
-TEST(ArchiveCodes, OutOfRangeKeepTheMember) {
-    const auto bytes = bytesOf({3, 0, 0, 0, 4, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF});
-    Archive in = Archive::loading(bytes);
-    std::uint32_t option = 1;
-    in.code(option, 3);
-    EXPECT_EQ(option, 3U);
-    in.code(option, 3);
-    EXPECT_EQ(option, 3U);
-    in.code(option, 3);
-    EXPECT_EQ(option, 3U);
-    EXPECT_EQ(in.remaining(), 0U);
 }
 
 class Collector : public ByteSink {

@@ -90,22 +90,6 @@ TEST(Probe, SamplesCountByTheirMark) {
     EXPECT_EQ(meanVelocities(probe), (std::array<double, 3>{5.5, 0.5, 1.5}));
 }
 
-TEST(RotatePair, TurnsFromTheFirstAxisToTheSecond) {
-    double x = 1.0;
-    double y = 0.0;
-    RotatePair(x, y, 90.0);
-    EXPECT_NEAR(x, 0.0, 1e-12);
-    EXPECT_NEAR(y, 1.0, 1e-12);
-    RotatePair(x, y, -30.0);
-    EXPECT_NEAR(x, 0.5, 1e-12);
-    EXPECT_NEAR(y, std::sqrt(3.0) / 2.0, 1e-12);
-    // The constant has twelve decimals: a half turn does not quite close.
-    x = 1.0;
-    y = 0.0;
-    RotatePair(x, y, 180.0);
-    EXPECT_EQ(y, std::sin(3.141592653589));
-}
-
 TEST(Frames, GiveScalesWhereThereIsAChoice) {
     const FrameSlot correlations{false, 3, 0};
     const FrameSlot spectra{false, 3, 1};
