@@ -7,9 +7,9 @@
 #include <limits>
 
 #include "Records.h"
+#include "Stored.h"
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
-#include "model/Archive.h"
 
 namespace vorlan::test {
 namespace {
@@ -58,12 +58,7 @@ TEST(Clipping, MarksOfOtherSamplesAreKnownAfterReopening) {
         }
         ASSERT_TRUE(clip(probe, 1.0, 8.0));
         EXPECT_EQ(probe.marksMoved, shortened);
-        Archive out = Archive::storing();
-        probe.Serialize(out);
-        SAdvProbe reopened;
-        Archive in = Archive::loading(out.bytes());
-        reopened.Serialize(in);
-        EXPECT_EQ(reopened.marksMoved, shortened);
+        EXPECT_EQ(reloaded(probe).marksMoved, shortened);
     }
 }
 

@@ -11,8 +11,6 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
-#include <cstdlib>
-#include <new>
 #include <set>
 #include <utility>
 
@@ -26,7 +24,6 @@ struct Watch {
     std::set<int> files;
 };
 Watch* watch = nullptr;
-int allocationsLeft = -1;
 
 bool isBelow(const char* path) {
     return watch != nullptr && (std::string(path) + '/').starts_with(watch->folder);
@@ -73,16 +70,6 @@ std::vector<SystemCall> watchedCalls() {
     delete watch;
     watch = nullptr;
     return calls;
-}
-
-void failAllocation(int after) {
-    allocationsLeft = after;
-}
-
-bool allocationFailed() {
-    const bool failed = allocationsLeft < 0;
-    allocationsLeft = -1;
-    return failed;
 }
 
 }  // namespace vorlan::test
@@ -175,24 +162,4 @@ int rename(const char* path, const char* newPath) noexcept {
 // The toolkit keeps what it had asked for before memory ran out; that is not for this program to free.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libQt6Core\nleak:libQt6Gui\n";
-}
-
-void* operator new(std::size_t size) {
-    if (allocationsLeft >= 0 && --allocationsLeft < 0) {
-        throw std::bad_alloc();
-    }
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-// The pair belongs together; the compiler sees one half of it where it inlines the other.
-#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
 }

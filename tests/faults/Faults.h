@@ -26,9 +26,4 @@ void watchCalls(const std::filesystem::path& folder, const Fault& fault = {});
 /// The calls since then; nothing is watched any more.
 std::vector<SystemCall> watchedCalls();
 
-/// operator new fails once after so many calls.
-void failAllocation(int after);
-/// Whether it has failed; it does not any more.
-bool allocationFailed();
-
 }  // namespace vorlan::test

@@ -8,4 +8,9 @@ namespace vorlan::test {
 void resetAllocations();
 std::size_t allocatedBytes();
 
+/// operator new fails once after so many calls.
+void failAllocation(int after);
+/// Whether it has failed; it does not any more.
+bool allocationFailed();
+
 }  // namespace vorlan::test

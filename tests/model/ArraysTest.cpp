@@ -6,7 +6,7 @@
 #include <limits>
 #include <random>
 
-#include "model/Archive.h"
+#include "Stored.h"
 #include "model/PlainArrays.h"
 #include "model/SArray.h"
 #include "model/STabsArray.h"
@@ -132,13 +132,8 @@ std::string tabTexts(std::initializer_list<std::uint32_t> stages) {
         item.parameter = 77;
         tabs.Add(item);
     }
-    Archive out = Archive::storing();
-    tabs.Serialize(out);
-    STabsArray back;
-    Archive in = Archive::loading(out.bytes());
-    back.Serialize(in);
     std::string texts;
-    for (const TabItem& item : back) {
+    for (const TabItem& item : test::reloaded(tabs)) {
         EXPECT_EQ(item.mask, 3U);
         EXPECT_EQ(item.parameter, 77U);
         texts += item.text + "|";

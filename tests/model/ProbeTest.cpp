@@ -2,8 +2,7 @@
 
 #include <cmath>
 
-#include "model/Angles.h"
-#include "model/Archive.h"
+#include "Stored.h"
 #include "model/DefaultFrames.h"
 #include "model/FrameSlot.h"
 #include "model/ProbeInformation.h"
@@ -59,12 +58,7 @@ TEST(Probe, ResetBringsTheSampledRecordBack) {
 TEST(Probe, PressureIsNotStored) {
     SAdvProbe probe = smallProbe();
     probe.samplingInterval = 0.25;
-    Archive out = Archive::storing();
-    probe.Serialize(out);
-    SAdvProbe back;
-    Archive in = Archive::loading(out.bytes());
-    back.Serialize(in);
-    EXPECT_EQ(in.remaining(), 0U);
+    SAdvProbe back = test::reloaded(probe);
     EXPECT_TRUE(back.sampledTables[5].IsEmpty());
     EXPECT_EQ(back.sampledTables[4], probe.sampledTables[4]);
     for (int kind = 0; kind < 6; ++kind) {

@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "Approved.h"
+#include "Stored.h"
 #include "model/WorkspaceImage.h"
 
 namespace vorlan::test {
@@ -161,11 +162,7 @@ TEST(Layout, OptionsOutOfRangeLeaveTheDefaults) {
     probe.seriesU.windowCode = 9;
     probe.seriesU.unitSelector = 9;
     probe.seriesV.windowCode = 3;
-    Archive out = Archive::storing();
-    probe.Serialize(out);
-    SAdvProbe back;
-    Archive in = Archive::loading(out.bytes());
-    back.Serialize(in);
+    const SAdvProbe back = reloaded(probe);
     EXPECT_EQ(back.spectralWindow, 0U);
     EXPECT_EQ(back.spectralUnit, 0U);
     EXPECT_EQ(back.seriesU.windowCode, 0U);
