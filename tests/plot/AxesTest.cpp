@@ -15,21 +15,6 @@ using namespace vorlan;
 
 namespace {
 
-AxisRule rule(bool lowerFromData, bool upperFromData, double lower = 0.0, double upper = 0.0) {
-    AxisRule r;
-    r.lowerFromData = lowerFromData;
-    r.upperFromData = upperFromData;
-    r.lower = lower;
-    r.upper = upper;
-    return r;
-}
-
-AxisRule withStep(AxisRule r, double step) {
-    r.stepGiven = true;
-    r.step = step;
-    return r;
-}
-
 CScreenUtils geometry(ScaleType type) {
     CScreenUtils g;
     g.originX = 50;
@@ -87,7 +72,7 @@ TEST(NiceNumbers, RoundingEndsForValuesThatNoSumReaches) {
 
 TEST(AxisLimits, AGivenStepThatIsUselessGivesWayToTheAutomaticOne) {
     for (const double useless : {0.0, -1.0, std::nan(""), std::numeric_limits<double>::infinity(), 11.0, 1e-9}) {
-        const AxisRule given = withStep(rule(false, false, 0.0, 10.0), useless);
+        const AxisRule given{false, false, 0.0, 10.0, true, useless};
         EXPECT_TRUE(linearLimits(given, {0.0, 1.0}, kXManner).automaticStep) << useless;
     }
 }
@@ -97,7 +82,7 @@ TEST(AxisLimits, ExtremeDataGiveAnAxisWithALength) {
     const DataInterval rows[] = {{-huge, huge}, {1e18, 1e18}, {1e9, 1e9 + 1e-7}, {0.0, 5e-324}, {-2147483648.0, 3.0}};
     for (const DataInterval& data : rows) {
         for (const AxisManner& manner : {kXManner, kYManner}) {
-            const AxisLimits limits = linearLimits(rule(true, true), data, manner).limits;
+            const AxisLimits limits = linearLimits({true, true, 0.0, 0.0, false, 0.0}, data, manner).limits;
             EXPECT_LT(limits.lower, limits.upper) << data.lowest;
             EXPECT_TRUE(std::isfinite(limits.upper - limits.lower)) << data.lowest;
             EXPECT_GE(limits.marks, 1);
@@ -105,7 +90,7 @@ TEST(AxisLimits, ExtremeDataGiveAnAxisWithALength) {
         }
     }
     // All data below the given lower end.
-    EXPECT_GT(linearLimits(rule(false, true, 100.0), {1.0, 5.0}, kXManner).limits.upper, 100.0);
+    EXPECT_GT(linearLimits({false, true, 100.0, 0.0, false, 0.0}, {1.0, 5.0}, kXManner).limits.upper, 100.0);
 }
 
 TEST(SAxis, SurvivesAnArchive) {

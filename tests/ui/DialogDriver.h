@@ -12,6 +12,24 @@
 #include "ui/dialogs/CParameterDialog.h"
 #include "ui/dialogs/CUpDown.h"
 
+/// The n-th widget of its kind with a text.
+template <typename Widget>
+Widget* withText(const QWidget& parent, const char* text, int n = 0) {
+    for (Widget* candidate : parent.findChildren<Widget*>()) {
+        if (candidate->text() == QString::fromUtf8(text) && n-- == 0) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+/// The field of a label.
+template <typename Field = QLineEdit>
+Field* labelledField(const QWidget& dialog, const char* label, int n = 0) {
+    const QLabel* found = withText<QLabel>(dialog, label, n);
+    return found == nullptr ? nullptr : qobject_cast<Field*>(found->buddy());
+}
+
 /// Works a dialog by the texts of its controls and records its message boxes.
 class DialogDriver {
   public:
@@ -21,42 +39,20 @@ class DialogDriver {
         QApplication::setActiveWindow(&dialog);
     }
 
-    /// Field of a label: of the n-th when several labels have the text.
     template <typename Field = QLineEdit>
     Field* field(const char* label, int n = 0) const {
-        for (QLabel* candidate : dialog_.findChildren<QLabel*>()) {
-            if (candidate->text() == QString::fromUtf8(label) && n-- == 0) {
-                return qobject_cast<Field*>(candidate->buddy());
-            }
-        }
-        return nullptr;
+        return labelledField<Field>(dialog_, label, n);
     }
-
     template <typename Button = QAbstractButton>
     Button* button(const char* text, int n = 0) const {
-        for (Button* candidate : dialog_.findChildren<Button*>()) {
-            if (candidate->text() == QString::fromUtf8(text) && n-- == 0) {
-                return candidate;
-            }
-        }
-        return nullptr;
+        return withText<Button>(dialog_, text, n);
     }
-
-    bool shows(const char* text) const {
-        for (QLabel* label : dialog_.findChildren<QLabel*>()) {
-            if (label->text() == QString::fromUtf8(text)) {
-                return true;
-            }
-        }
-        return false;
-    }
-
+    bool shows(const char* text) const { return withText<QLabel>(dialog_, text) != nullptr; }
     void click(const char* text, int n = 0) const { button(text, n)->click(); }
     void type(const char* label, const char* text, int n = 0) const {
         field(label, n)->setText(QString::fromUtf8(text));
     }
     QString text(const char* label, int n = 0) const { return field(label, n)->text(); }
-    bool live(const char* label, int n = 0) const { return field(label, n)->isEnabled(); }
 
     void moveUpDown(int steps) const {
         auto* pair = dialog_.findChild<vorlan::CUpDown*>();

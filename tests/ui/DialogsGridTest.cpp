@@ -94,14 +94,7 @@ class DialogsGrid : public QObject {
     }
 
   private:
-    static QPushButton* button(QDialog& editor, const char* text) {
-        for (auto* candidate : editor.findChildren<QPushButton*>()) {
-            if (candidate->text() == QString::fromUtf8(text)) {
-                return candidate;
-            }
-        }
-        return nullptr;
-    }
+    static QPushButton* button(QDialog& editor, const char* text) { return withText<QPushButton>(editor, text); }
     static void press(QDialog& editor, const char* text) {
         button(editor, text)->setFocus();
         QTest::keyClick(button(editor, text), Qt::Key_Space);
@@ -123,22 +116,11 @@ class DialogsGrid : public QObject {
         QTest::keyClicks(field, QString::fromUtf8(text));
     }
     static void inEditor(FrameDriver& driver, const std::function<void(QDialog&)>& work) {
-        bool met = false;
-        QTimer::singleShot(0, driver.frame.get(), [&] {
-            auto* editor = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (editor == nullptr) {
-                return;
-            }
-            met = editor->windowTitle() == QStringLiteral("Vorlan | Grid and Boundary Editor");
-            work(*editor);
-            editor->close();
-            if (editor->isVisible()) {
-                met = false;
-                editor->done(0);
-            }
-        });
-        driver.trigger(Command::GridEditor);
-        QVERIFY(met);
+        QVERIFY(driver.inDialog(Command::GridEditor, "Vorlan | Grid and Boundary Editor", [&](QDialog& editor) {
+            work(editor);
+            editor.close();
+            QVERIFY(!editor.isVisible());
+        }));
     }
 };
 

@@ -33,22 +33,18 @@ Q_DECLARE_METATYPE(MakeDialog)
 class DialogsHabits : public QObject {
     Q_OBJECT
 
-    static QString joined(const std::vector<double>& values) {
-        QStringList texts;
-        for (const double value : values) {
-            texts << QString::number(value);
-        }
-        return texts.join(u' ');
+    template <class... Values>
+    static QString joined(Values... values) {
+        return QStringList{QString::number(static_cast<double>(values))...}.join(u' ');
     }
 
     /// The settings that are told field by field.
     template <class Dialog>
     static QString fieldsOf(const Dialog& dialog) {
         using Settings = std::remove_cvref_t<decltype(dialog.values())>;
-        std::vector<double> values;
-        Settings::Fields(dialog.values(),
-                         [&](const SettingField&, const auto& value) { values.push_back(static_cast<double>(value)); });
-        return joined(values);
+        QStringList values;
+        Settings::Fields(dialog.values(), [&](const SettingField&, const auto& value) { values << joined(value); });
+        return values.join(u' ');
     }
 
     struct Row {
@@ -84,85 +80,61 @@ class DialogsHabits : public QObject {
         FrameAttributesType logarithmic;
         logarithmic.scaleType = static_cast<std::int32_t>(ScaleType::LogXLinearY);
         logarithmic.xMinMode = logarithmic.xMaxMode = 1;
-        const auto number = [](auto value) { return static_cast<double>(value); };
-        const std::function editing = [=](const CEditTSDlg& d) {
+        const std::function editing = [](const CEditTSDlg& d) {
             const EditingSettings& v = d.values();
             QString text;
             for (const ScoreTest& test : {v.correlation, v.signalToNoise}) {
                 text +=
-                    joined({number(test.on), number(test.statistic), test.averageThreshold, test.minimumThreshold}) +
-                    QLatin1String(", ");
+                    joined(test.on, test.statistic, test.averageThreshold, test.minimumThreshold) + QLatin1String(", ");
             }
-            return text + joined({number(v.spikeFilter), v.accelerationThreshold, number(v.velocityTest),
-                                  v.velocityThreshold, number(v.treatment)});
+            return text +
+                   joined(v.spikeFilter, v.accelerationThreshold, v.velocityTest, v.velocityThreshold, v.treatment);
         };
-        const std::function velocity = [=](const CMeanVelDlg& d) {
-            return joined({number(d.values().mode), d.values().value});
-        };
-        const std::function spectral = [=](const CSpAnalDlg& d) {
-            return fieldsOf(d) + u' ' + joined({number(d.values().percentFlag)});
+        const std::function velocity = [](const CMeanVelDlg& d) { return joined(d.values().mode, d.values().value); };
+        const std::function spectral = [](const CSpAnalDlg& d) {
+            return fieldsOf(d) + u' ' + joined(d.values().percentFlag);
         };
         const std::function coordinates = [](const CCoordSysDlg& d) {
             const RotationSettings& v = d.values();
-            return joined({v.heading, v.pitch, v.roll, v.position[0], v.position[1], v.position[2]});
+            return joined(v.heading, v.pitch, v.roll, v.position[0], v.position[1], v.position[2]);
         };
-        const std::function exports = [=](const CExportDlg& d) {
-            return joined({number(d.values().header), number(d.values().time), number(d.values().separator)});
+        const std::function exports = [](const CExportDlg& d) {
+            return joined(d.values().header, d.values().time, d.values().separator);
         };
-        const std::function simulation = [=](const CSimulateDlg& d) {
+        const std::function simulation = [](const CSimulateDlg& d) {
             const SimulationParameters& v = d.values();
             QString text = QString::fromStdString(v.fileName) + u' ' +
-                           joined({v.samplingInterval, v.length, v.correlation, v.signalToNoise, number(v.compass),
-                                   v.heading, v.pitch, v.roll, number(v.whiteNoise), number(v.harmonicCount)});
+                           joined(v.samplingInterval, v.length, v.correlation, v.signalToNoise, v.compass, v.heading,
+                                  v.pitch, v.roll, v.whiteNoise, v.harmonicCount);
             for (const auto& c : v.components) {
-                text += QLatin1String(", ") + joined({c.meanVelocity, c.noiseMean, c.noiseVariance});
+                text += QLatin1String(", ") + joined(c.meanVelocity, c.noiseMean, c.noiseVariance);
                 for (const Harmonic& h : c.harmonics) {
-                    text += QLatin1String(": ") + joined({h.amplitude, h.period, h.phase});
+                    text += QLatin1String(": ") + joined(h.amplitude, h.period, h.phase);
                 }
             }
             return text;
         };
-        const std::function plot = [=](const CPlotOptDlg& d) {
+        const std::function plot = [](const CPlotOptDlg& d) {
             const FrameAttributesType& v = d.values();
-            return joined({v.xMin,
-                           v.xMax,
-                           v.yMin,
-                           v.yMax,
-                           number(v.xMinMode),
-                           number(v.xMaxMode),
-                           number(v.yMinMode),
-                           number(v.yMaxMode),
-                           number(v.scaleType),
-                           number(v.frameStyle),
-                           v.xStep,
-                           v.yStep,
-                           number(v.xStepMode),
-                           number(v.yStepMode),
-                           number(v.tickSize),
-                           number(v.markSize),
-                           number(v.ticksPerMark),
-                           number(v.tickOrientation),
-                           number(v.xDigits),
-                           number(v.yDigits),
-                           number(v.gridMode),
-                           number(v.gridLineStyle),
-                           number(v.legendPosition)}) +
+            return joined(v.xMin, v.xMax, v.yMin, v.yMax, v.xMinMode, v.xMaxMode, v.yMinMode, v.yMaxMode, v.scaleType,
+                          v.frameStyle, v.xStep, v.yStep, v.xStepMode, v.yStepMode, v.tickSize, v.markSize,
+                          v.ticksPerMark, v.tickOrientation, v.xDigits, v.yDigits, v.gridMode, v.gridLineStyle,
+                          v.legendPosition) +
                    QString::fromStdString("|" + v.plotTitle + "|" + v.xTitle + "|" + v.yTitle + "|" + v.legendTitle);
         };
-        const std::function figure = [=](const CFigureDlg& d) {
-            return joined({number(d.values().scope), number(d.values().format), number(d.values().size.width),
-                           number(d.values().size.height), number(d.values().dpi)});
+        const std::function figure = [](const CFigureDlg& d) {
+            return joined(d.values().scope, d.values().format, d.values().size.width, d.values().size.height,
+                          d.values().dpi);
         };
         ImportOffer offer;
         offer.import.tables = {"a.csv", "b.csv"};
         offer.text = "time,u,v,w\n0,1,2,3\n0.5,4,5,6\n";
         offer.roles = guessRoles(previewTable(offer.text));
-        const std::function import = [=](const CImportDlg& d) {
+        const std::function import = [](const CImportDlg& d) {
             const TableImport& v = d.values();
             return QString::fromStdString(v.table.columns.value_or("none") + " " + v.name.value_or("none") + " ") +
-                   joined({number(v.table.timeColumn.value_or(99)), number(v.table.velocityUnit),
-                           number(v.table.missing), v.settings.samplingInterval, v.settings.resolution,
-                           number(v.asProbes)});
+                   joined(v.table.timeColumn.value_or(99), v.table.velocityUnit, v.table.missing,
+                          v.settings.samplingInterval, v.settings.resolution, v.asProbes);
         };
         const RecipeSummary recipe{
             QStringLiteral("day.toml"), {QStringLiteral("1. clip")}, QStringLiteral("all files, probes 1")};
@@ -171,7 +143,7 @@ class DialogsHabits : public QObject {
             row("editing", editing, EditingSettings{}),
             row("editing by minima", editing, minima),
             row("export", exports),
-            row<CExportScopeDlg>("scope", [=](const CExportScopeDlg& d) { return joined({number(d.allProbes())}); }),
+            row<CExportScopeDlg>("scope", [](const CExportScopeDlg& d) { return joined(d.allProbes()); }),
             row("figure", figure, FigureChoice{}),
             row("filter", std::function(fieldsOf<CFilterDlg>), FilterSettings{}),
             row("bell filter", std::function(fieldsOf<CFilterDlg>), bell),
@@ -184,16 +156,13 @@ class DialogsHabits : public QObject {
             row("plot options", plot, logarithmic, std::span<const ScaleType>(kScales)),
             row("quadrants", std::function(fieldsOf<CQuadrDlg>), QuadrantSettings{}),
             row<CRecipeDlg>(
-                "recipe", [=](const CRecipeDlg& d) { return joined({number(d.values())}); }, recipe),
+                "recipe", [](const CRecipeDlg& d) { return joined(d.values()); }, recipe),
             row("simulate", simulation, harmonics),
             row("spectral", spectral, SpectralSettings{}),
             row("spectral by lags", spectral, lags),
             row("stationarity", std::function(fieldsOf<CStatDlg>), StationaritySettings{}),
             row("vectors", std::function(fieldsOf<CVectorsDlg>), VectorSettings{}),
-            row<SAddDlg>("node",
-                         [](const SAddDlg& d) {
-                             return joined({d.values()[0], d.values()[1], d.values()[2]});
-                         }),
+            row<SAddDlg>("node", [](const SAddDlg& d) { return joined(d.values()[0], d.values()[1], d.values()[2]); }),
         };
     }
 

@@ -3,7 +3,6 @@
 
 #include <QClipboard>
 #include <QFile>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QProcess>
@@ -14,6 +13,7 @@
 #include <QTextBrowser>
 
 #include "FrameDriver.h"
+#include "ui/DialogDriver.h"
 #include "ui/dialogs/CFilterDlg.h"
 #include "ui/frame/ManualPages.h"
 #include "ui/frame/ManualWindow.h"
@@ -24,24 +24,8 @@ using namespace vorlan;
 class FrameBring : public QObject {
     Q_OBJECT
 
-    static QByteArray bytes(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("nothing");
-    }
-    static void write(const QString& path, const QByteArray& text) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
     static int batch(const QStringList& arguments) {
         return QProcess::execute(QStringLiteral(VORLAN_BATCH_PROGRAM), arguments);
-    }
-    static void type(QDialog& dialog, const char* label, const char* text) {
-        for (QLabel* candidate : dialog.findChildren<QLabel*>()) {
-            if (candidate->text() == QLatin1String(label)) {
-                qobject_cast<QLineEdit*>(candidate->buddy())->setText(QString::fromLatin1(text));
-            }
-        }
     }
     static QByteArray table(int rows) {
         QByteArray text = "time,u [cm/s],v,w,snr1,snr2,snr3\n";
@@ -53,7 +37,7 @@ class FrameBring : public QObject {
     }
     /// The window on an imported and saved record.
     static void bringRecord(FrameDriver& driver) {
-        write(driver.path("flume.csv"), table(400));
+        writeBytes(driver.path("flume.csv"), table(400));
         driver.boxes.tablePaths = {driver.path("flume.csv")};
         QVERIFY(driver.withDialog(Command::ImportTable, "Import Table"));
         driver.boxes.savePath = driver.path("flume.avp");
@@ -70,12 +54,12 @@ class FrameBring : public QObject {
                         QStringLiteral("--interval"), QStringLiteral("0.04"), QStringLiteral("--columns"),
                         QStringLiteral("-,u,v,w,snr1,snr2,snr3"), driver.path("flume.csv")}),
                  0);
-        QVERIFY(bytes(driver.path("flume.avp")) == bytes(driver.path("b.avp")));
+        QVERIFY(bytesOf(driver.path("flume.avp")) == bytesOf(driver.path("b.avp")));
         driver.trigger(Command::Undo);
         QVERIFY(!driver.document().HasFile());
         driver.trigger(Command::Redo);
         // The layout of the last table is offered again, with its interval.
-        write(driver.path("next.csv"), "time,u [cm/s],v,w,snr1,snr2,snr3\n0,1,2,3,4,5,6\n7,1,2,3,4,5,6\n");
+        writeBytes(driver.path("next.csv"), "time,u [cm/s],v,w,snr1,snr2,snr3\n0,1,2,3,4,5,6\n7,1,2,3,4,5,6\n");
         driver.boxes.tablePaths = {driver.path("next.csv")};
         QVERIFY(driver.withDialog(Command::ImportTable, "Import Table"));
         QCOMPARE(driver.document().Probe().samplingInterval, 0.04);
@@ -92,7 +76,7 @@ class FrameBring : public QObject {
 
     void aFaultIsShownInTheTable() {
         FrameDriver driver;
-        write(driver.path("bad.csv"), table(200).replace("\n7.96,", "\n7.96,x"));
+        writeBytes(driver.path("bad.csv"), table(200).replace("\n7.96,", "\n7.96,x"));
         driver.boxes.tablePaths = {driver.path("bad.csv")};
         QString shown;
         QVERIFY(driver.withDialog(
@@ -106,7 +90,7 @@ class FrameBring : public QObject {
             QDialogButtonBox::Cancel));
         QCOMPARE(shown, QStringLiteral("201 x53"));
         QVERIFY(!driver.document().HasFile());
-        write(driver.path("bad.csv"), QByteArray("\0\1\2", 3));
+        writeBytes(driver.path("bad.csv"), QByteArray("\0\1\2", 3));
         driver.trigger(Command::ImportTable);
         QCOMPARE(driver.boxes.refusals, QStringList{QStringLiteral("bad.csv is no text table.")});
     }
@@ -120,27 +104,27 @@ class FrameBring : public QObject {
                 const auto buttons = dialog.findChildren<QRadioButton*>();
                 buttons[scope]->click();
                 buttons[3 + format]->click();
-                type(dialog, "&Width:", "640");
-                type(dialog, "&Height:", "480");
-                type(dialog, "Dots per &inch:", "144");
+                labelledField(dialog, "&Width:")->setText(QStringLiteral("640"));
+                labelledField(dialog, "&Height:")->setText(QStringLiteral("480"));
+                labelledField(dialog, "Dots per &inch:")->setText(QStringLiteral("144"));
             });
         };
         const auto rendered = [&](const QString& name, const QStringList& more) {
             QStringList arguments{QStringLiteral("render"), QStringLiteral("--stage"), QStringLiteral("pre-processing"),
                                   QStringLiteral("--out"), driver.path("r.") + name.section(QLatin1Char('.'), 1)};
             arguments << more << driver.path("flume.avp");
-            return batch(arguments) == 0 ? bytes(arguments[4]) : QByteArray("failed");
+            return batch(arguments) == 0 ? bytesOf(arguments[4]) : QByteArray("failed");
         };
         const QStringList size{QStringLiteral("--size"), QStringLiteral("640x480")};
         QVERIFY(save(0, 0, "pane.png"));
-        QVERIFY(bytes(driver.path("pane.png")) ==
+        QVERIFY(bytesOf(driver.path("pane.png")) ==
                 rendered(QStringLiteral("a.png"),
                          size + QStringList{QStringLiteral("--dpi"), QStringLiteral("144"), QStringLiteral("--pane"),
                                             QStringLiteral("left-top")}));
         QVERIFY(save(1, 1, "four.svg"));
-        QVERIFY(bytes(driver.path("four.svg")) == rendered(QStringLiteral("a.svg"), size));
+        QVERIFY(bytesOf(driver.path("four.svg")) == rendered(QStringLiteral("a.svg"), size));
         QVERIFY(save(2, 2, "page.pdf"));
-        QVERIFY(bytes(driver.path("page.pdf")) == rendered(QStringLiteral("a.pdf"), {}));
+        QVERIFY(bytesOf(driver.path("page.pdf")) == rendered(QStringLiteral("a.pdf"), {}));
         QVERIFY(save(0, 0, "flume.avp"));  // gets its suffix: no workspace is overwritten
         QVERIFY(QFile::exists(driver.path("flume.avp.png")));
         driver.boxes.figurePath = driver.path("no/such/folder.png");
@@ -180,27 +164,27 @@ class FrameBring : public QObject {
                  0);
         driver.document().RestoreSelection(opened);
         driver.document().SaveWorkspace(driver.path("done.avp").toStdString());
-        QVERIFY(bytes(driver.path("done.avp")) == bytes(driver.path("b.avp")));
+        QVERIFY(bytesOf(driver.path("done.avp")) == bytesOf(driver.path("b.avp")));
 
         driver.document().OpenWorkspace(driver.path("flume.avp").toStdString());
         QVERIFY(driver.withDialog(Command::RunRecipe, "Run Recipe"));
         QCOMPARE(driver.status(), QStringLiteral("day.toml: 3 steps done"));
         driver.document().SaveWorkspace(driver.path("run.avp").toStdString());
-        QVERIFY(bytes(driver.path("run.avp")) == bytes(driver.path("b.avp")));
+        QVERIFY(bytesOf(driver.path("run.avp")) == bytesOf(driver.path("b.avp")));
         QCOMPARE(driver.document().UndoName(), "Run Recipe");
         // What a recipe did is part of the next one.
         driver.trigger(Command::SaveRecipe);
         driver.trigger(Command::Undo);
         QCOMPARE(driver.document().UndoName(), nullptr);
-        QVERIFY(bytes(driver.path("day.toml")).contains("do = \"distributions\""));
+        QVERIFY(bytesOf(driver.path("day.toml")).contains("do = \"distributions\""));
 
         // A step that is refused leaves everything as it was.
-        write(driver.path("day.toml"), "[[step]]\ndo = \"zoom\"\n[[step]]\ndo = \"cross-spectral\"\n");
+        writeBytes(driver.path("day.toml"), "[[step]]\ndo = \"zoom\"\n[[step]]\ndo = \"cross-spectral\"\n");
         QVERIFY(driver.withDialog(Command::RunRecipe, "Run Recipe"));
         QCOMPARE(driver.boxes.refusals.size(), 1);
         QVERIFY(driver.boxes.refusals[0].contains(QLatin1String("step 2 (cross-spectral): ")));
         QCOMPARE(driver.document().UndoName(), nullptr);
-        write(driver.path("day.toml"), "[[step]]\ndo = \"zeal\"\n");
+        writeBytes(driver.path("day.toml"), "[[step]]\ndo = \"zeal\"\n");
         driver.trigger(Command::RunRecipe);
         QVERIFY(driver.boxes.refusals.last().contains(QLatin1String("unknown step \"zeal\"")));
     }
@@ -269,7 +253,7 @@ class FrameBring : public QObject {
             RecoveryCopy crashed(folder.toStdString());
             crashed.write(Workspace(), {});
         }
-        write(folder + QLatin1Char('/') + QDir(folder).entryList({QStringLiteral("*.avp")})[0], "torn");
+        writeBytes(folder + QLatin1Char('/') + QDir(folder).entryList({QStringLiteral("*.avp")})[0], "torn");
         QVERIFY(!driver.frame->recovery().offer());
         QCOMPARE(driver.boxes.refusals.size(), 1);
         driver.boxes.recoverAnswer = UserBoxes::RecoverAnswer::Discard;

@@ -1,6 +1,5 @@
 #include <QCheckBox>
 #include <QClipboard>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -13,6 +12,7 @@
 #include "Approved.h"
 #include "FrameDriver.h"
 #include "export/ExportKind.h"
+#include "ui/DialogDriver.h"
 #include "ui/frame/MenuTable.h"
 
 using namespace vorlan;
@@ -68,15 +68,6 @@ QString menuText(const QAction& menu, const QAction& emptyMenu, const QString& m
     return lines;
 }
 
-QLineEdit* fieldOf(QDialog& dialog, const char* label) {
-    for (QLabel* candidate : dialog.findChildren<QLabel*>()) {
-        if (candidate->text() == QString::fromUtf8(label)) {
-            return qobject_cast<QLineEdit*>(candidate->buddy());
-        }
-    }
-    return nullptr;
-}
-
 }  // namespace
 
 class FrameCommands : public QObject {
@@ -107,7 +98,7 @@ class FrameCommands : public QObject {
         QVERIFY(std::holds_alternative<PaneMessage>(driver.content(Pane::RightBottom)));
         QVERIFY(driver.withDialog(
             Command::SimulateTimeSeries, "Simulate Time Series | Parameters",
-            [](QDialog& dialog) { fieldOf(dialog, "&File Name:")->setText(QStringLiteral("flume")); }));
+            [](QDialog& dialog) { labelledField(dialog, "&File Name:")->setText(QStringLiteral("flume")); }));
         QCOMPARE(driver.document().File().fileName, std::string("flume"));
         QVERIFY(driver.frame->isWindowModified());
         QVERIFY(std::holds_alternative<std::monostate>(driver.content(Pane::LeftTop)));
@@ -224,9 +215,7 @@ class FrameCommands : public QObject {
         driver.simulate();
         driver.boxes.exportPath = driver.path("vel.dat");
         QVERIFY(driver.withDialog(exportCommand(ExportKind::Velocities), "Export | as an ASCII file"));
-        QFile file(driver.boxes.exportPath);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll().count('\n'), 1000);
+        QCOMPARE(bytesOf(driver.boxes.exportPath).count('\n'), 1000);
         QVERIFY(driver.boxes.proposals.last().endsWith(QLatin1String("vel.dat")));
 
         QCOMPARE(driver.status(), QStringLiteral("vel.dat written"));
@@ -251,7 +240,7 @@ class FrameCommands : public QObject {
         driver.simulate();
         driver.document().SelectActivePane(Pane::LeftBottom);
         QVERIFY(driver.withDialog(Command::PlotFrameOptions, "Plot Frame Options", [](QDialog& dialog) {
-            fieldOf(dialog, "&Plot")->setText(QStringLiteral("Quality"));
+            labelledField(dialog, "&Plot")->setText(QStringLiteral("Quality"));
         }));
         QCOMPARE(std::get<Diagram>(driver.content(Pane::LeftBottom)).frame.plotTitle, std::string("Quality"));
         driver.document().SelectActivePane(Pane::RightBottom);

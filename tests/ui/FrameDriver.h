@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QPushButton>
 #include <QSettings>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 
@@ -25,41 +27,25 @@ class ScriptedBoxes : public vorlan::UserBoxes {
         return saveAnswer;
     }
     QString chooseWorkspaceToOpen(QWidget*, const QString&) override { return openPath; }
-    QString chooseWorkspaceToSave(QWidget*, const QString& proposed) override {
-        proposals.append(proposed);
-        return savePath;
-    }
-    QString chooseExport(QWidget*, const QString& proposed) override {
-        proposals.append(proposed);
-        return exportPath;
-    }
+    QString chooseWorkspaceToSave(QWidget*, const QString& proposed) override { return proposing(proposed, savePath); }
+    QString chooseExport(QWidget*, const QString& proposed) override { return proposing(proposed, exportPath); }
 
     RecoverAnswer askToRecover(QWidget*, const QString& text) override {
         questions.append(text);
         return recoverAnswer;
     }
     QStringList chooseTables(QWidget*, const QString&) override { return tablePaths; }
-    QString chooseRecipeToSave(QWidget*, const QString& proposed) override {
-        proposals.append(proposed);
-        return recipePath;
-    }
+    QString chooseRecipeToSave(QWidget*, const QString& proposed) override { return proposing(proposed, recipePath); }
     QString chooseRecipeToOpen(QWidget*, const QString&) override { return recipePath; }
-    QString chooseFigure(QWidget*, const QString& proposed) override {
-        proposals.append(proposed);
-        return figurePath;
-    }
+    QString chooseFigure(QWidget*, const QString& proposed) override { return proposing(proposed, figurePath); }
     bool retry(QWidget*, const QString& text) override {
         retryQuestions.append(text);
         return false;
     }
-    QString chooseNewBoundary(QWidget*, const QString& proposed) override {
-        proposals.append(proposed);
-        return boundaryPath;
-    }
+    QString chooseNewBoundary(QWidget*, const QString& proposed) override { return proposing(proposed, boundaryPath); }
     QString chooseBoundaryToOpen(QWidget*, const QString&) override { return boundaryPath; }
     QString chooseBoundaryToSave(QWidget*, const QString& proposed) override {
-        proposals.append(proposed);
-        return boundaryPath;
+        return proposing(proposed, boundaryPath);
     }
     bool choosePrinter(QWidget*, QPrinter& printer, vorlan::PrintChoice& choice) override {
         printChoice = choice;
@@ -91,7 +77,23 @@ class ScriptedBoxes : public vorlan::UserBoxes {
     QStringList retryQuestions;
     QStringList saveQuestions;
     QStringList proposals;
+
+  private:
+    QString proposing(const QString& proposed, const QString& answer) {
+        proposals.append(proposed);
+        return answer;
+    }
 };
+
+inline QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void writeBytes(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
 
 /// A window on an empty workspace with a settings store of its own.
 class FrameDriver {
@@ -113,27 +115,30 @@ class FrameDriver {
     const vorlan::PaneContent& content(vorlan::Pane pane) { return frame->panes().view(pane).content(); }
 
     /// Triggers a command and works the dialog that it opens; fails when it opens none of that title.
-    bool withDialog(vorlan::Command command, const char* title, const std::function<void(QDialog&)>& work = {},
-                    QDialogButtonBox::StandardButton end = QDialogButtonBox::Ok) {
+    bool inDialog(vorlan::Command command, const char* title, const std::function<void(QDialog&)>& work) {
         bool met = false;
         QTimer::singleShot(0, frame.get(), [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr) {
-                return;
-            }
-            met = dialog->windowTitle() == QString::fromUtf8(title);
-            if (work) {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                met = dialog->windowTitle() == QString::fromUtf8(title);
                 work(*dialog);
-            }
-            dialog->findChild<QDialogButtonBox*>()->button(end)->click();
-            if (dialog->isVisible()) {
-                dialog->reject();
+                if (dialog->isVisible()) {
+                    dialog->done(0);
+                }
             }
         });
         trigger(command);
         return met;
     }
-
+    /// The same, ended by a button.
+    bool withDialog(vorlan::Command command, const char* title, const std::function<void(QDialog&)>& work = {},
+                    QDialogButtonBox::StandardButton end = QDialogButtonBox::Ok) {
+        return inDialog(command, title, [&](QDialog& dialog) {
+            if (work) {
+                work(dialog);
+            }
+            dialog.findChild<QDialogButtonBox*>()->button(end)->click();
+        });
+    }
     /// A simulated record of two components' noise, its probe selected.
     void simulate(double length = 40.0) {
         vorlan::SimulationParameters parameters;

@@ -111,10 +111,7 @@ class FrameFiles : public QObject {
     void aDamagedWorkspaceLeavesTheOpenOne() {
         FrameDriver driver;
         driver.simulate();
-        QFile file(driver.path("bad.avp"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("\x05Hello");
-        file.close();
+        writeBytes(driver.path("bad.avp"), "\x05Hello");
         QStringList waits;
         QObject::connect(&driver.frame->files(), &WorkspaceFiles::waiting, driver.frame.get(),
                          [&](const QString& text) { waits.append(text); });
@@ -237,9 +234,8 @@ class FrameFiles : public QObject {
     void theDocumentTypeIsRegisteredOnce() {
         QTemporaryDir home;
         QVERIFY(registerDocumentType(QStringLiteral("/opt/my programs/vorlan"), home.path()));
-        QFile entry(home.filePath(QStringLiteral("applications/vorlan.desktop")));
-        QVERIFY(entry.open(QIODevice::ReadOnly));
-        QVERIFY(entry.readAll().contains("Exec=\"/opt/my programs/vorlan\" %f"));
+        QVERIFY(bytesOf(home.filePath(QStringLiteral("applications/vorlan.desktop")))
+                    .contains("Exec=\"/opt/my programs/vorlan\" %f"));
         QVERIFY(QFile::exists(home.filePath(QStringLiteral("mime/packages/vorlan.xml"))));
         QVERIFY2(!registerDocumentType(QStringLiteral("/opt/my programs/vorlan"), home.path()), "all is there");
         QVERIFY(!registerDocumentType(QStringLiteral("/x"), QStringLiteral("/proc/nonexistent")));

@@ -26,10 +26,6 @@ class FramePrinting : public QObject {
             }
         }
     }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     static void printInto(FrameDriver& driver, const QString& path, PrintScope scope, int from = 0, int to = 0) {
         driver.boxes.printerChosen = [=](QPrinter& printer, PrintChoice& choice) {
             printer.setOutputFormat(QPrinter::PdfFormat);
@@ -67,7 +63,7 @@ class FramePrinting : public QObject {
         FrameDriver driver;
         analyse(driver);
         const QString path = driver.path("x.pdf");
-        const auto pages = [&] { return read(path).count("/Type /Page\n"); };
+        const auto pages = [&] { return bytesOf(path).count("/Type /Page\n"); };
         printInto(driver, path, PrintScope::Stage);
         QCOMPARE(driver.boxes.printChoice.texts(),
                  QStringList({QStringLiteral("This &stage (1 page)"),
@@ -75,9 +71,9 @@ class FramePrinting : public QObject {
                               QStringLiteral("All pro&bes (5 pages)")}));
         QCOMPARE(pages(), 1);
         QCOMPARE(driver.status(), QStringLiteral("x.pdf written"));
-        const QByteArray stage = read(path);
+        const QByteArray stage = bytesOf(path);
         printInto(driver, path, PrintScope::Stage);
-        QCOMPARE(read(path), stage);
+        QCOMPARE(bytesOf(path), stage);
         printInto(driver, path, PrintScope::Probe);
         QCOMPARE(pages(), 3);
         printInto(driver, path, PrintScope::AllProbes);
@@ -92,9 +88,9 @@ class FramePrinting : public QObject {
         FrameDriver driver;
         analyse(driver);
         driver.document().SaveWorkspace(driver.path("a.avp").toStdString());
-        const QByteArray before = read(driver.path("a.avp"));
+        const QByteArray before = bytesOf(driver.path("a.avp"));
         printInto(driver, driver.path("a.avp"), PrintScope::Stage);
-        QCOMPARE(read(driver.path("a.avp")), before);
+        QCOMPARE(bytesOf(driver.path("a.avp")), before);
         PageAtrType narrow;
         narrow.leftMargin = 30.0;
         QCOMPARE(driver.document().SetPage(Stage::Histograms, narrow), Outcome::Done);
@@ -129,7 +125,7 @@ class FramePrinting : public QObject {
         QCOMPARE(counts, QList<int>({1, 3, 5}));
         // The orientation stays for the next page.
         printInto(driver, driver.path("x.pdf"), PrintScope::Stage);
-        const QByteArray bytes = read(driver.path("x.pdf"));
+        const QByteArray bytes = bytesOf(driver.path("x.pdf"));
         const QList<QByteArray> box = bytes.mid(bytes.indexOf("/MediaBox [")).split(' ').mid(3, 2);
         QVERIFY(box[0].toDouble() > box[1].chopped(2).toDouble());
     }

@@ -11,7 +11,7 @@
 #include <random>
 
 #include "FrameDriver.h"
-#include "model/Archive.h"
+#include "Stored.h"
 
 using namespace vorlan;
 
@@ -153,7 +153,7 @@ class RandomUser {
         QVERIFY(!document.IsRunning());
         auto* tabs = driver_.frame->findChild<QTabBar*>(QStringLiteral("StageTabs"));
         QCOMPARE(tabs->count(), document.HasProbe() ? document.Probe().tabItems.GetSize() : 0);
-        const QByteArray done = stored();
+        const std::string done = stored();
         int steps = 0;
         while (document.Undo() == Outcome::Done) {
             ++steps;
@@ -181,23 +181,12 @@ class RandomUser {
             QCoreApplication::processEvents();
         }
         if (driver_.status() == QLatin1String("Empty workspace")) {
-            loaded_ = stored({});
+            loaded_ = test::archived(Workspace());
         }
     }
 
-    void writeFile(const char* name, const QByteArray& text) {
-        QFile file(driver_.path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    }
-
-    QByteArray stored() { return stored(driver_.document().GetWorkspace()); }
-
-    static QByteArray stored(Workspace copy) {
-        Archive archive = Archive::storing();
-        copy.Serialize(archive);
-        const auto bytes = archive.takeBytes();
-        return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
-    }
+    void writeFile(const char* name, const QByteArray& text) { writeBytes(driver_.path(name), text); }
+    std::string stored() { return test::archived(driver_.document().GetWorkspace()); }
 
     QWidget* focus() {
         QWidget* widget = QApplication::focusWidget();
@@ -335,7 +324,7 @@ class RandomUser {
     Dice dice_;
     FrameDriver driver_;
     RandomBoxes boxes_;
-    QByteArray loaded_;
+    std::string loaded_;
     QStringList deeds_;
     int modalDeeds_ = 0;
     int depth_ = 0;  ///< of deeds within deeds
