@@ -51,7 +51,7 @@ class EventRows {
         const std::string name = "events/" + what;
         const Lazy<double> longest;
         measure(name, [=, file = file_](benchmark::State& state) {
-            CMainFrame& frame = toolkit().app.frame();
+            CMainFrame& frame = freshWindow().frame();
             static NoBoxes boxes;
             frame.setBoxes(boxes);
             frame.files().openPath(QFile::decodeName(file().path.c_str()));

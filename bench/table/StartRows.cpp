@@ -28,17 +28,12 @@ const Toolkit& toolkit() {
     return started;
 }
 
-namespace {
-
-/// The application with a new window that holds nothing.
 CVorl_ADVApp& freshWindow() {
     CVorl_ADVApp& app = toolkit().app;
     app.start(std::nullopt);
     QCoreApplication::processEvents();
     return app;
 }
-
-}  // namespace
 
 void startRows(Table& table) {
     table.section("Start, on a screen in memory");

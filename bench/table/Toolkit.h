@@ -15,4 +15,7 @@ struct Toolkit {
 /// The application, made at the first call: a process can have only one. It paints into memory.
 const Toolkit& toolkit();
 
+/// The application with a new window that holds nothing.
+vorlan::CVorl_ADVApp& freshWindow();
+
 }  // namespace bench

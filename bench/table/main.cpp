@@ -23,9 +23,9 @@ struct Group {
 };
 
 constexpr Group kGroups[] = {
-    {"kernels", kernelRows},  {"spectral", spectralRows}, {"quadrants", quadrantRows},
-    {"million", millionRows}, {"files", fileRows},        {"paint", paintRows},
-    {"start", startRows},     {"jobs", jobRows},          {"peers", peerRows},
+    {"kernels", kernelRows}, {"spectral", spectralRows}, {"quadrants", quadrantRows}, {"million", millionRows},
+    {"events", eventRows},   {"files", fileRows},        {"paint", paintRows},        {"start", startRows},
+    {"jobs", jobRows},       {"peers", peerRows},
 };
 
 void printHelp() {
