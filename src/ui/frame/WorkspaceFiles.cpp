@@ -109,13 +109,18 @@ bool WorkspaceFiles::save() {
     if (document_.GetPath().empty()) {
         return saveAs();
     }
-    if (document_.IsChangedOnDisk() &&
+    const QString path = toText(document_.GetPath());
+    const auto isChangedOnDisk = [&] {
+        const Waiting waiting(*this, "Writing %1 ...", path);
+        return document_.IsChangedOnDisk();
+    };
+    if (isChangedOnDisk() &&
         !boxes_->confirm(&window_, QStringLiteral("%1 was changed by another program since it was opened here. Replace "
                                                   "what is there?")
                                        .arg(documentName()))) {
         return false;
     }
-    return saveTo(toText(document_.GetPath()));
+    return saveTo(path);
 }
 
 bool WorkspaceFiles::saveAs() {
