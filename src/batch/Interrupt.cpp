@@ -27,6 +27,10 @@ InterruptWatch::InterruptWatch() {
 }
 
 InterruptWatch::~InterruptWatch() {
+    stopWatching();
+}
+
+void stopWatching() {
     for (const int signal : kSignals) {
         if (std::signal(signal, SIG_DFL) == SIG_IGN) {
             std::signal(signal, SIG_IGN);

@@ -83,6 +83,7 @@ struct Worker {
 };
 
 [[noreturn]] void work(int index, const Pipe& out, const Pipe& err, const std::function<void(int, Console&)>& task) {
+    stopWatching();
     DescriptorBuffer outBuffer(out.writer.get());
     DescriptorBuffer errBuffer(err.writer.get());
     std::ostream outStream(&outBuffer);

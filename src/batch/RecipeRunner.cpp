@@ -29,6 +29,9 @@ class Runner {
         } else {
             openDocument(document_, input_);
         }
+        // Every other subcommand simply dies of the signal, and this one while it opens: nothing is written before it
+        // is complete.
+        const InterruptWatch watch;
         run_.apply(recipe_, target);
         if (interrupted()) {
             throw RunError(ExitStatus::Interrupted, input_.string() + ": interrupted");

@@ -141,13 +141,12 @@ ExitStatus runAll(const RunArguments& arguments, Console& console) {
     // Lines of several workers at once would only be noise on a terminal.
     const ConsolePort::Options options{arguments.noRepeat == 0,
                                        arguments.progress || (console.errIsTerminal && !processes)};
-    // Every other subcommand simply dies of the signal: nothing is written before it is complete.
-    const InterruptWatch watch;
     const auto task = [&](int index, Console& own) {
         const auto i = asSize(index);
         runRecipe(recipe, arguments.inputs[i], targets[i], folders, options, own);
     };
     if (processes) {
+        const InterruptWatch watch;
         return runInProcesses(count, arguments.jobs, console, task);
     }
     ExitStatus worst = ExitStatus::Done;

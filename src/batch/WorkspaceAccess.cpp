@@ -5,7 +5,6 @@
 #include <thread>
 #include <vector>
 
-#include "batch/Interrupt.h"
 #include "io/AtomicFile.h"
 #include "io/ReadFile.h"
 #include "io/WorkspaceFile.h"
@@ -69,9 +68,6 @@ WorkspaceUpdate::WorkspaceUpdate(CVorl_ADVDoc& document, std::filesystem::path p
     : document_(document), path_(std::move(path)), lock_(path_) {
     constexpr std::chrono::milliseconds kPause{20};
     for (bool said = false; !lock_.take(); std::this_thread::sleep_for(kPause)) {
-        if (interrupted()) {
-            throw RunError(ExitStatus::Interrupted, path_.string() + ": interrupted");
-        }
         if (!said) {
             console.complain(path_.string() + ": waiting for another run that changes it");
             said = true;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <optional>
 #include <ostream>
 #include <streambuf>
 #include <utility>
@@ -207,9 +208,11 @@ void AtomicFile::takePlace() {
     if (nameless_ && link(target_.c_str())) {
         return;
     }
-    // A link cannot replace a file: for a moment the new one has a name of its own.
-    const SignalsHeld held;
+    // A link cannot replace a file: for a moment the new one has a name of its own. One that always had a name gains
+    // nothing by holding signals, and where the folder does not answer the user could not end the program.
+    std::optional<SignalsHeld> held;
     if (nameless_) {
+        held.emplace();
         tryNames(link);
     } else if (file_.close() != 0 && errno != EINTR) {
         fail(errno);
