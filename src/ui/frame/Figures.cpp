@@ -18,6 +18,7 @@
 #include "plot/ToolkitPictures.h"
 #include "recipes/RenderRun.h"
 #include "recipes/RunError.h"
+#include "ui/frame/Waiting.h"
 
 namespace vorlan {
 
@@ -55,6 +56,7 @@ void Figures::save(const PaperSize& paper) {
     }
     files_.setFolderOf(path);
     try {
+        const Waiting waiting(files_, "Writing %1 ...", path);
         writeFileAtomically(file, bytesOf(paper, path));
     } catch (const FileError& error) {
         return boxes_->refuse(&window_, QString::fromStdString(utf8Text(error.what())));

@@ -2,25 +2,17 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include "app/CommandReports.h"
 #include "io/ReadFile.h"
 #include "model/Text.h"
+#include "ui/frame/Waiting.h"
 
 namespace vorlan {
 
 namespace {
 
 constexpr std::size_t kLooked = 4096;  // bytes that show whether a file is text
-
-class Hourglass {
-  public:
-    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
 
 ImportFault faultOf(const FileError& error) {
     ImportFault fault;
@@ -51,6 +43,7 @@ void TableImports::import(const QStringList& paths) {
     files_.setFolderOf(paths.front());
     std::string text;
     try {
+        const Waiting waiting(files_, "Reading %1 ...", paths.front());
         text = readFile(tables.front()).text();
     } catch (const FileError& error) {
         return boxes_->refuse(&window_, QString::fromStdString(utf8Text(error.what())));
@@ -86,7 +79,7 @@ ImportOffer TableImports::offerFor(const std::vector<std::filesystem::path>& tab
 }
 
 std::optional<ImportFault> TableImports::tryToRead(const TableImport& import) {
-    const Hourglass hourglass;
+    const Waiting waiting(files_, "Reading %1 ...", QFile::decodeName(import.tables.front().c_str()));
     try {
         read_ = importTables(import);
         return std::nullopt;

@@ -31,6 +31,7 @@
 #include "ui/frame/AboutBox.h"
 #include "ui/frame/ManualPages.h"
 #include "ui/frame/ManualWindow.h"
+#include "ui/frame/Waiting.h"
 
 namespace vorlan {
 
@@ -276,7 +277,10 @@ void UserCommands::exportData(ExportKind kind) {
     }
     files_.setFolderOf(path);
     try {
-        writeFileAtomically(file, [&](std::ostream& stream) { document_.Export(stream, kind, options, all); });
+        {
+            const Waiting waiting(files_, "Writing %1 ...", path);
+            writeFileAtomically(file, [&](std::ostream& stream) { document_.Export(stream, kind, options, all); });
+        }
         report_(QStringLiteral("%1 written").arg(QFileInfo(path).fileName()));
     } catch (const FileError&) {
         // An export ends without a box; the line is all that is said.

@@ -3,10 +3,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <new>
 
 #include "io/FileError.h"
+#include "ui/frame/Waiting.h"
 
 namespace vorlan {
 
@@ -19,24 +19,6 @@ std::filesystem::path toPath(const QString& path) {
 QString toText(const std::filesystem::path& path) {
     return QFile::decodeName(QByteArray::fromStdString(path.string()));
 }
-
-/// Tells what is waited for while it lives.
-class Waiting {
-  public:
-    Waiting(WorkspaceFiles& files, const char* what, const QString& path) : files_(files) {
-        Q_EMIT files_.waiting(QString::fromLatin1(what).arg(QFileInfo(path).fileName()));
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    }
-    ~Waiting() {
-        QGuiApplication::restoreOverrideCursor();
-        Q_EMIT files_.waiting(QString());
-    }
-    Waiting(const Waiting&) = delete;
-    Waiting& operator=(const Waiting&) = delete;
-
-  private:
-    WorkspaceFiles& files_;
-};
 
 }  // namespace
 
