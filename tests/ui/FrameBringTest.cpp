@@ -251,11 +251,14 @@ class FrameBring : public QObject {
         QCOMPARE(copies(), 0);
         {
             RecoveryCopy crashed(folder.toStdString());
-            crashed.write(Workspace(), {});
+            crashed.write(Workspace(), driver.path("flume.avp").toStdString());
         }
+        std::filesystem::last_write_time(driver.path("flume.avp").toStdString(),
+                                         std::filesystem::file_time_type::clock::now() + std::chrono::seconds(1));
         writeBytes(folder + QLatin1Char('/') + QDir(folder).entryList({QStringLiteral("*.avp")})[0], "torn");
         QVERIFY(!driver.frame->recovery().offer());
         QCOMPARE(driver.boxes.refusals.size(), 1);
+        QVERIFY(driver.boxes.questions.last().contains(QLatin1String("flume.avp itself was written after that")));
         driver.boxes.recoverAnswer = UserBoxes::RecoverAnswer::Discard;
         QVERIFY(!driver.frame->recovery().offer());
         QCOMPARE(copies(), 0);

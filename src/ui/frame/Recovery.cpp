@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "io/FileError.h"
+#include "io/FileStamp.h"
 #include "model/Index.h"
 #include "model/Text.h"
 
@@ -138,9 +139,15 @@ bool Recovery::offer() {
         const QString name = left.original.empty()
                                  ? QStringLiteral("a workspace without a name")
                                  : QString::fromStdString(utf8Text(left.original.filename().string()));
-        switch (boxes_->askToRecover(
-            &window_, QStringLiteral("Vorlan has ended without saving %1. A copy of %2 was kept. Open it?")
-                          .arg(name, timeText(left.time)))) {
+        QString question =
+            QStringLiteral("Vorlan has ended without saving %1. A copy of %2 was kept.").arg(name, timeText(left.time));
+        const std::optional<FileStamp> now = left.original.empty() ? std::nullopt : fileStampOf(left.original);
+        if (now && now->time > left.time) {
+            question +=
+                QStringLiteral(" %1 itself was written after that; save the copy under another name to keep both.")
+                    .arg(name);
+        }
+        switch (boxes_->askToRecover(&window_, question + QStringLiteral(" Open it?"))) {
             case UserBoxes::RecoverAnswer::Recover:
                 if (recover(left)) {
                     return true;
