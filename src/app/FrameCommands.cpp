@@ -1,5 +1,6 @@
 // The document's commands on the attributes of diagrams.
 #include <algorithm>
+#include <utility>
 
 #include "app/CVorl_ADVDoc.h"
 #include "app/CommandReports.h"
@@ -68,12 +69,11 @@ void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const Frame
     }
     if (plansChange) {
         patch.planFrames = std::move(plans);
-        done.push_back(DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace, std::move(given)));
+        done.push_back(DoneOn(DoneCommand::kWholeWorkspace, DoneCommand::kWholeWorkspace, std::exchange(given, {})));
     }
     const auto changeProbe = [&](int file, int index) {
         SAdvProbe probe = workspace_.dataFiles.files.GetAt(file).probes.GetAt(index);
         bool probeChanges = false;
-        given = {};
         for (const FrameSlot& slot : slots) {
             if (!slot.inSet) {
                 const bool slotChanges =
@@ -83,7 +83,7 @@ void CVorl_ADVDoc::ChangeFrames(const std::vector<FrameSlot>& slots, const Frame
             }
         }
         if (probeChanges) {
-            done.push_back(DoneOn(file, index, std::move(given)));
+            done.push_back(DoneOn(file, index, std::exchange(given, {})));
             patch.probes.push_back({file, index, std::move(probe)});
         }
     };
