@@ -78,10 +78,7 @@ int afterOutput(Console& console) {
     return asInt(ExitStatus::Unwritable);
 }
 
-}  // namespace
-
-int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err) {
-    Console console{out, err, &err == &std::cerr && ::isatty(STDERR_FILENO) == 1};
+int answer(std::vector<std::string> args, Console& console) {
     CLI::App program(
         "Turbulence measurements without a window: runs the commands of Vorlan over any number of workspaces.",
         kBatchName);
@@ -99,10 +96,10 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
         std::reverse(args.begin(), args.end());
         program.parse(std::move(args));
     } catch (const CLI::CallForHelp&) {
-        out << program.help();
+        console.out << program.help();
         return afterOutput(console);
     } catch (const CLI::CallForVersion& version) {
-        out << version.what() << '\n';
+        console.out << version.what() << '\n';
         return afterOutput(console);
     } catch (const CLI::ParseError& error) {
         return usageFault(console, program, textOf(error, program, first));
@@ -110,11 +107,20 @@ int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err
     ExitStatus status = ExitStatus::Usage;
     for (const Subcommand& command : commands) {
         if (command.options->parsed()) {
-            const ExitStatus thrown = guarded(console, [&](Console& own) { status = command.run(own); });
-            status = thrown == ExitStatus::Done ? status : thrown;
+            status = command.run(console);
         }
     }
     return asInt(status);
+}
+
+}  // namespace
+
+int runBatch(std::vector<std::string> args, std::ostream& out, std::ostream& err) {
+    Console console{out, err, &err == &std::cerr && ::isatty(STDERR_FILENO) == 1};
+    int status = 0;
+    // Reading the command line takes memory, too.
+    const ExitStatus thrown = guarded(console, [&](Console& own) { status = answer(std::move(args), own); });
+    return thrown == ExitStatus::Done ? status : asInt(thrown);
 }
 
 }  // namespace vorlan
