@@ -53,6 +53,8 @@ bool registerDocumentType(const QString& program, const QString& dataHome) {
         writeIfDifferent(dataHome + QStringLiteral("/mime/packages/vorlan.xml"), QByteArray(kMimeTypeText));
     QByteArray entry(kDesktopEntryText);
     entry.replace("Exec=vorlan ", "Exec=" + quoted(program).toUtf8() + " ");
+    // A desktop leaves the entry out when the program has been removed.
+    entry.replace("TryExec=vorlan\n", "TryExec=" + program.toUtf8().replace('\\', "\\\\") + "\n");
     const bool desktop = writeIfDifferent(dataHome + QStringLiteral("/applications/vorlan.desktop"), entry);
     return mime || desktop;
 }

@@ -235,7 +235,7 @@ class FrameFiles : public QObject {
         QTemporaryDir home;
         QVERIFY(registerDocumentType(QStringLiteral("/opt/my programs/vorlan"), home.path()));
         QVERIFY(bytesOf(home.filePath(QStringLiteral("applications/vorlan.desktop")))
-                    .contains("Exec=\"/opt/my programs/vorlan\" %f"));
+                    .contains("TryExec=/opt/my programs/vorlan\nExec=\"/opt/my programs/vorlan\" %f"));
         QVERIFY(QFile::exists(home.filePath(QStringLiteral("mime/packages/vorlan.xml"))));
         QVERIFY2(!registerDocumentType(QStringLiteral("/opt/my programs/vorlan"), home.path()), "all is there");
         QVERIFY(!registerDocumentType(QStringLiteral("/x"), QStringLiteral("/proc/nonexistent")));
