@@ -69,8 +69,8 @@ void CVorl_ADVDoc::OpenWorkspace(const std::filesystem::path& path) {
     port_->report(fileNameText(path) + " opened");
 }
 
-void CVorl_ADVDoc::RecoverWorkspace(const std::filesystem::path& copy, const std::filesystem::path& path) {
-    Replace(vorlan::openWorkspace(copy), path, fileStampOf(path));
+void CVorl_ADVDoc::RecoverWorkspace(const std::filesystem::path& copy, const StampedFile& file) {
+    Replace(vorlan::openWorkspace(copy), file.path, file.stamp ? file.stamp : fileStampOf(file.path));
     savedState_ = kNeverSaved;
     Tell(Change::Content);
 }

@@ -50,6 +50,8 @@ class CVorl_ADVDoc {
     const Workspace& GetWorkspace() const { return workspace_; }
     const WorkspaceSettings& Settings() const { return workspace_.settings; }
     const std::filesystem::path& GetPath() const { return path_; }
+    /// The file as it was opened or saved here.
+    StampedFile OwnFile() const { return {path_, stamp_}; }
     bool IsModified() const { return State() != savedState_; }
     /// Differs between any two states that a command lies between.
     std::uint64_t State() const { return history_.State(); }
@@ -61,9 +63,9 @@ class CVorl_ADVDoc {
     void NewWorkspace();
     /// Replaces the workspace only after complete success. Throws FileError.
     void OpenWorkspace(const std::filesystem::path& path);
-    /// Opens the copy that was kept of a workspace whose file is at path, empty for one that was never saved: what it
-    /// holds is a modification of that file. Throws FileError.
-    void RecoverWorkspace(const std::filesystem::path& copy, const std::filesystem::path& path);
+    /// Opens the copy that was kept of a workspace with this file, whose path is empty for one that was never saved:
+    /// what it holds is a modification of that file as it was then. Throws FileError.
+    void RecoverWorkspace(const std::filesystem::path& copy, const StampedFile& file);
     /// Throws FileError; the file at path is then what it was.
     void SaveWorkspace(const std::filesystem::path& path);
 

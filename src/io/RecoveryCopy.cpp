@@ -3,8 +3,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <system_error>
 
@@ -39,6 +41,30 @@ std::string readAll(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+/// What the lock holds: time and size of the workspace's own file, and on the next line its path. Earlier programs
+/// wrote the path alone.
+std::string textOf(const StampedFile& original) {
+    if (original.path.empty()) {
+        return {};
+    }
+    std::error_code error;
+    const std::string path = fs::absolute(original.path, error).string();
+    return original.stamp ? std::to_string(original.stamp->time.time_since_epoch().count()) + ' ' +
+                                std::to_string(original.stamp->size) + '\n' + path
+                          : path;
+}
+
+StampedFile originalOf(const std::string& text) {
+    std::int64_t time = 0;
+    std::uintmax_t size = 0;
+    const std::size_t line = text.find('\n');
+    if (text.starts_with('/') || line == std::string::npos ||
+        !(std::istringstream(text.substr(0, line)) >> time >> size)) {
+        return {text};
+    }
+    return {text.substr(line + 1), FileStamp{fs::file_time_type(fs::file_time_type::duration(time)), size}};
+}
+
 }  // namespace
 
 void RecoveryCopy::takeName() {
@@ -64,12 +90,11 @@ void RecoveryCopy::takeName() {
     throw FileError::cannotWrite(FileError::Kind::Unwritable, folder_, "no name is free");
 }
 
-void RecoveryCopy::write(Workspace workspace, const fs::path& original) {
+void RecoveryCopy::write(Workspace workspace, const StampedFile& original) {
     if (copy_.empty()) {
         takeName();
     }
-    std::error_code error;
-    writeInPlace(lockOf(copy_), original.empty() ? std::string() : fs::absolute(original, error).string());
+    writeInPlace(lockOf(copy_), textOf(original));
     saveWorkspace(workspace, copy_);
 }
 
@@ -79,6 +104,11 @@ void RecoveryCopy::remove() {
         copy_.clear();
         lock_.reset();
     }
+}
+
+bool RecoveryCopy::LeftBehind::isOriginalChanged() const {
+    const std::optional<FileStamp> now = fileStampOf(original.path);
+    return now && (original.stamp ? *now != *original.stamp : now->time > time);
 }
 
 void RecoveryCopy::LeftBehind::discard() const {
@@ -103,7 +133,7 @@ std::vector<RecoveryCopy::LeftBehind> RecoveryCopy::leftBehind(const fs::path& f
             fs::remove(entry->path(), missing);
             continue;
         }
-        found.push_back({copy, readAll(entry->path()), time, std::move(lock)});
+        found.push_back({copy, originalOf(readAll(entry->path())), time, std::move(lock)});
     }
     std::sort(found.begin(), found.end(), [](const LeftBehind& a, const LeftBehind& b) { return a.time > b.time; });
     return found;

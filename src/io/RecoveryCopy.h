@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "io/FileLock.h"
+#include "io/FileStamp.h"
 #include "model/Workspace.h"
 
 namespace vorlan {
@@ -17,17 +18,19 @@ class RecoveryCopy {
 
     /// Replaces the copy. original is the workspace's own file, empty for one that was never saved. Throws FileError;
     /// an earlier copy is then what it was.
-    void write(Workspace workspace, const std::filesystem::path& original);
+    void write(Workspace workspace, const StampedFile& original);
     /// Nothing is to be recovered.
     void remove();
 
     /// A copy whose program is gone. Nobody else is offered it while this value is held.
     struct LeftBehind {
         std::filesystem::path copy;
-        std::filesystem::path original;
+        StampedFile original;
         std::filesystem::file_time_type time;
         std::unique_ptr<FileLock> lock;
 
+        /// Whether the workspace's own file was written by somebody else since its program knew it.
+        bool isOriginalChanged() const;
         void discard() const;
     };
     /// The newest first. Never fails: what cannot be looked at is not there.

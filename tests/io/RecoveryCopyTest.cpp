@@ -25,7 +25,7 @@ class Working {
             Workspace workspace;
             workspace.settings.meanVelocity.value = 12.5;
             copy.write(workspace, {});
-            copy.write(workspace, original);
+            copy.write(workspace, {original, fileStampOf(original)});
             (void)!::write(ready[1], "!", 1);
             ::pause();
             ::_exit(0);
@@ -52,6 +52,7 @@ TEST(RecoveryCopies, ArePickedUpOnceTheirProgramWasKilled) {
     test::TempFolder folder;
     const std::filesystem::path place = folder / "deep" / "recovery";
     EXPECT_TRUE(RecoveryCopy::leftBehind(place).empty());
+    test::spill(folder / "first.avp", "as it was opened");
     Working first(place, folder / "first.avp");
     Working second(place, folder / "second.avp");
     EXPECT_TRUE(RecoveryCopy::leftBehind(place).empty()) << "both programs run";
@@ -59,7 +60,10 @@ TEST(RecoveryCopies, ArePickedUpOnceTheirProgramWasKilled) {
     {
         const auto left = RecoveryCopy::leftBehind(place);
         ASSERT_EQ(left.size(), 1U);
-        EXPECT_EQ(left[0].original, folder / "first.avp");
+        EXPECT_EQ(left[0].original.path, folder / "first.avp");
+        EXPECT_FALSE(left[0].isOriginalChanged());
+        test::spill(folder / "first.avp", "of a colleague");
+        EXPECT_TRUE(left[0].isOriginalChanged());
         EXPECT_EQ(openWorkspace(left[0].copy).settings.meanVelocity.value, 12.5);
         EXPECT_TRUE(RecoveryCopy::leftBehind(place).empty()) << "somebody else is asked about it";
     }

@@ -235,30 +235,31 @@ class FrameBring : public QObject {
         const QString folder = driver.path("Brimsel/Vorlan-recovery");
         const auto copies = [&] { return QDir(folder).entryList({QStringLiteral("*.avp")}).size(); };
         QCOMPARE(copies(), 0);
+        const std::filesystem::path flume = driver.path("flume.avp").toStdString();
         {
             RecoveryCopy crashed(folder.toStdString());
             Workspace workspace = driver.document().GetWorkspace();
             workspace.settings.meanVelocity.value = 12.5;
-            crashed.write(workspace, driver.path("flume.avp").toStdString());
+            crashed.write(workspace, {flume, fileStampOf(flume)});
         }
+        writeBytes(driver.path("flume.avp"), "of a colleague");
         driver.boxes.recoverAnswer = UserBoxes::RecoverAnswer::Recover;
         QVERIFY(driver.frame->recovery().offer());
         QCOMPARE(driver.document().Settings().meanVelocity.value, 12.5);
         QVERIFY(driver.document().IsModified());
         QCOMPARE(QString::fromStdString(driver.document().GetPath().filename()), QStringLiteral("flume.avp"));
         QCOMPARE(copies(), 1);
+        QVERIFY(driver.boxes.questions.last().contains(QLatin1String("flume.avp itself was changed since")));
         driver.trigger(Command::SaveWorkspace);
+        QVERIFY(driver.boxes.questions.last().contains(QLatin1String("flume.avp was changed by another program")));
         QCOMPARE(copies(), 0);
         {
             RecoveryCopy crashed(folder.toStdString());
-            crashed.write(Workspace(), driver.path("flume.avp").toStdString());
+            crashed.write(Workspace(), {flume});
         }
-        std::filesystem::last_write_time(driver.path("flume.avp").toStdString(),
-                                         std::filesystem::file_time_type::clock::now() + std::chrono::seconds(1));
         writeBytes(folder + QLatin1Char('/') + QDir(folder).entryList({QStringLiteral("*.avp")})[0], "torn");
         QVERIFY(!driver.frame->recovery().offer());
         QCOMPARE(driver.boxes.refusals.size(), 1);
-        QVERIFY(driver.boxes.questions.last().contains(QLatin1String("flume.avp itself was written after that")));
         driver.boxes.recoverAnswer = UserBoxes::RecoverAnswer::Discard;
         QVERIFY(!driver.frame->recovery().offer());
         QCOMPARE(copies(), 0);

@@ -10,7 +10,6 @@
 #include <thread>
 
 #include "io/FileError.h"
-#include "io/FileStamp.h"
 #include "model/Index.h"
 #include "model/Text.h"
 
@@ -37,7 +36,7 @@ struct Recovery::Writing {
     /// Its columns are shared with the document's workspace. It goes after the thread has ended: nobody but the
     /// window's thread then sees how many share them.
     const Workspace workspace;
-    const std::filesystem::path original;
+    const StampedFile original;
     const std::uint64_t state;
     std::string error = {};
     std::atomic<bool> ended = false;
@@ -92,7 +91,7 @@ void Recovery::keep() {
 }
 
 void Recovery::begin() {
-    writing_.reset(new Writing{document_.GetWorkspace(), document_.GetPath(), document_.State()});
+    writing_.reset(new Writing{document_.GetWorkspace(), document_.OwnFile(), document_.State()});
     const auto write = [this, &writing = *writing_] {
         try {
             copy_.write(writing.workspace, writing.original);
@@ -136,16 +135,14 @@ void Recovery::finish() {
 
 bool Recovery::offer() {
     for (const RecoveryCopy::LeftBehind& left : RecoveryCopy::leftBehind(recoveryFolder())) {
-        const QString name = left.original.empty()
+        const QString name = left.original.path.empty()
                                  ? QStringLiteral("a workspace without a name")
-                                 : QString::fromStdString(utf8Text(left.original.filename().string()));
+                                 : QString::fromStdString(utf8Text(left.original.path.filename().string()));
         QString question =
             QStringLiteral("Vorlan has ended without saving %1. A copy of %2 was kept.").arg(name, timeText(left.time));
-        const std::optional<FileStamp> now = left.original.empty() ? std::nullopt : fileStampOf(left.original);
-        if (now && now->time > left.time) {
-            question +=
-                QStringLiteral(" %1 itself was written after that; save the copy under another name to keep both.")
-                    .arg(name);
+        if (left.isOriginalChanged()) {
+            question += QStringLiteral(" %1 itself was changed since; save the copy under another name to keep both.")
+                            .arg(name);
         }
         switch (boxes_->askToRecover(&window_, question + QStringLiteral(" Open it?"))) {
             case UserBoxes::RecoverAnswer::Recover:
