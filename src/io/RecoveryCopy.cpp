@@ -58,9 +58,12 @@ StampedFile originalOf(const std::string& text) {
     std::int64_t time = 0;
     std::uintmax_t size = 0;
     const std::size_t line = text.find('\n');
-    if (text.starts_with('/') || line == std::string::npos ||
-        !(std::istringstream(text.substr(0, line)) >> time >> size)) {
+    if (text.starts_with('/')) {
         return {text};
+    }
+    // Half a line, of a program that was killed while it wrote, names nothing.
+    if (line == std::string::npos || !(std::istringstream(text.substr(0, line)) >> time >> size)) {
+        return {};
     }
     return {text.substr(line + 1), FileStamp{fs::file_time_type(fs::file_time_type::duration(time)), size}};
 }

@@ -16,8 +16,8 @@ class RecoveryCopy {
   public:
     explicit RecoveryCopy(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-    /// Replaces the copy. original is the workspace's own file, empty for one that was never saved. Throws FileError;
-    /// an earlier copy is then what it was.
+    /// Replaces the copy. original is the workspace's own file, without a path for one that was never saved. Throws
+    /// FileError; an earlier copy is then what it was.
     void write(Workspace workspace, const StampedFile& original);
     /// Nothing is to be recovered.
     void remove();

@@ -68,6 +68,12 @@ TEST(RecoveryCopies, ArePickedUpOnceTheirProgramWasKilled) {
         EXPECT_TRUE(RecoveryCopy::leftBehind(place).empty()) << "somebody else is asked about it";
     }
     second.kill();
+    for (const auto& entry : std::filesystem::directory_iterator(place)) {
+        if (entry.path().extension() == ".lock") {
+            test::spill(entry.path(), "-81");
+        }
+    }
+    EXPECT_EQ(RecoveryCopy::leftBehind(place)[0].original.path, "") << "half a line names nothing";
     ASSERT_EQ(RecoveryCopy::leftBehind(place).size(), 2U);
     RecoveryCopy::leftBehind(place)[0].discard();
     EXPECT_EQ(RecoveryCopy::leftBehind(place).size(), 1U);
