@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "model/Index.h"
+#include "plot/PaintMarkers.h"
 #include "plot/SeriesShapes.h"
 
 namespace vorlan {
@@ -32,10 +33,6 @@ void drawLine(QPainter& painter, const Line& line) {
     painter.drawLine(line.from.x, line.from.y, line.to.x, line.to.y);
 }
 
-QRect outline(const Box& box) {
-    return QRect(box.left, box.top, box.width() - 1, box.height() - 1);
-}
-
 Box plotArea(const CScreenUtils& geometry) {
     return {geometry.originX, geometry.originY - geometry.height, geometry.originX + geometry.width, geometry.originY};
 }
@@ -45,35 +42,12 @@ bool clipsByItself(const QPainter& painter) {
     return painter.paintEngine() == nullptr || painter.paintEngine()->type() != QPaintEngine::SVG;
 }
 
-void paintMarker(QPainter& painter, MarkerKind kind, const Spot& spot, int size, const QPen& pen) {
-    if (kind == MarkerKind::Circle) {
-        painter.drawEllipse(outline(markerBox(spot, size)));
-    } else if (kind == MarkerKind::Square) {
-        painter.drawRect(outline(markerBox(spot, size)));
-    } else {
-        if (kind == MarkerKind::Triangle) {
-            const int h = size / 2;
-            painter.setPen(Qt::NoPen);
-            painter.drawPolygon(
-                QPolygon({QPoint(spot.x - h, spot.y + h), QPoint(spot.x, spot.y - h), QPoint(spot.x + h, spot.y + h)}));
-            painter.setPen(pen);
-        }
-        for (const Line& line : markerLines(kind, spot, size)) {
-            drawLine(painter, line);
-        }
-    }
-}
-
-void paintMarkers(QPainter& painter, const SeriesAtrType& attributes, const std::vector<Spot>& spots,
-                  double lengthScale, const QColor& background) {
+void paintMarkersOf(QPainter& painter, const SeriesAtrType& attributes, const std::vector<Spot>& spots,
+                    double lengthScale, const QColor& background) {
     // Markers are small: a thin pen keeps their shapes apart, an empty inside keeps lines out of them.
-    const QPen pen = linePen(attributes.colour, 1, 0, lengthScale);
-    painter.setPen(pen);
-    painter.setBrush(background);
-    const int size = scaledSize(attributes.markerSize, kLargestMarker, lengthScale);
-    for (const Spot& spot : spots) {
-        paintMarker(painter, attributes.markerKind, spot, size, pen);
-    }
+    paintMarkers(painter, spots,
+                 {attributes.markerKind, scaledSize(attributes.markerSize, kLargestMarker, lengthScale),
+                  linePen(attributes.colour, 1, 0, lengthScale), background});
 }
 
 // A bar stands on an axis, which closes it; closed: it has a lower border of its own.
@@ -266,7 +240,7 @@ int paintSeries(QPainter& painter, const PlotSeries& series, const CScreenUtils&
         case SeriesStyle::Markers:
             // Whole, also on an edge of the plot area.
             smoothen(painter, lengthScale);
-            paintMarkers(painter, attributes, markerSpots(series, geometry), lengthScale, options.background);
+            paintMarkersOf(painter, attributes, markerSpots(series, geometry), lengthScale, options.background);
             break;
         case SeriesStyle::Bars:
             for (const Box& box : barBoxes(series, geometry)) {
@@ -316,7 +290,7 @@ void paintLegendSample(QPainter& painter, const SLegend::Entry& entry, int lineH
             drawLine(painter, {start, end});
             [[fallthrough]];
         case SeriesStyle::Markers:
-            paintMarkers(painter, attributes, {middle}, lengthScale, background);
+            paintMarkersOf(painter, attributes, {middle}, lengthScale, background);
             break;
     }
     painter.restore();

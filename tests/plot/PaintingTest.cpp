@@ -6,6 +6,7 @@
 #include <cmath>
 #include <random>
 
+#include "plot/PaintMarkers.h"
 #include "plot/PaintPane.h"
 #include "plot/PaintSeries.h"
 #include "plot/QtText.h"
@@ -101,6 +102,28 @@ class PaintingTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void aCrowdOfMarkersIsPaintedAsEachAlone() {
+        std::mt19937 random(5);
+        std::vector<Spot> spots(2000);
+        for (Spot& spot : spots) {
+            spot = {static_cast<int>(random() % 120) - 10, static_cast<int>(random() % 120) - 10};
+        }
+        for (const MarkerKind kind : {MarkerKind::Circle, MarkerKind::Square, MarkerKind::Plus, MarkerKind::Triangle}) {
+            for (const int size : {2, 3, 5, 8, 31}) {
+                const MarkerLook look{kind, size, linePen(0xA03214, 1, 0, 1.0), Qt::yellow};
+                const QRect area(3, 4, 95, 88);
+                const QImage crowd = drawnIn(area, [&](QPainter& p) { paintMarkers(p, spots, look); });
+                const QImage each = drawnIn(area, [&](QPainter& p) {
+                    for (const Spot& spot : spots) {
+                        paintMarkers(p, {spot}, look);
+                    }
+                });
+                QCOMPARE(differing(crowd, each), 0);
+                QVERIFY(inked(crowd) > 0);
+            }
+        }
+    }
+
     void denseLinesFillThePixelsOfTheFullLine() {
         CScreenUtils g = wideGeometry(600.0);
         PlotSeries smooth = noise(60000, 0.01, 1);
