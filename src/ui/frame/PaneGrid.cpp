@@ -41,19 +41,23 @@ bool PaneGrid::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void PaneGrid::describe(const CVorl_ADVDoc& document, DocumentPort& port) {
-    if (document.GetWorkspace().dataFiles.files.IsEmpty()) {
-        for (CVorl_ADVView* view : views_) {
-            view->setContent(beginningHint(view->pane()));
-        }
-        return;
+void PaneGrid::timerEvent(QTimerEvent*) {
+    views_[next_]->repaintStale();
+    if (++next_ == kPaneCount) {
+        turn_.stop();
     }
+}
+
+void PaneGrid::describe(const CVorl_ADVDoc& document, DocumentPort& port) {
     std::array<PaneContent, kPaneCount> contents;
     const auto describeAll = [&] {
+        const bool empty = document.GetWorkspace().dataFiles.files.IsEmpty();
         for (std::size_t i = 0; i < kPaneCount; ++i) {
-            contents[i] = describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(),
-                                        document.CurrentStage(), views_[i]->pane(), document.CurrentValue(),
-                                        document.ShowsTable()});
+            const Pane pane = views_[i]->pane();
+            contents[i] =
+                empty ? PaneContent(beginningHint(pane))
+                      : describePane({document.GetWorkspace(), document.ActiveFile(), document.ActiveProbe(),
+                                      document.CurrentStage(), pane, document.CurrentValue(), document.ShowsTable()});
         }
     };
     // The user can change nothing during a run. At other times the next event could be a command.
@@ -61,6 +65,8 @@ void PaneGrid::describe(const CVorl_ADVDoc& document, DocumentPort& port) {
     for (std::size_t i = 0; i < kPaneCount; ++i) {
         views_[i]->setContent(std::move(contents[i]));
     }
+    next_ = 0;
+    turn_.start(0, this);
 }
 
 void PaneGrid::setActivePane(Pane pane) {

@@ -37,7 +37,13 @@ void CVorl_ADVView::setContent(PaneContent content) {
     endDrag();
     content_ = std::move(content);
     geometry_.reset();
-    update();
+    stale_ = true;
+}
+
+void CVorl_ADVView::repaintStale() {
+    if (stale_) {
+        repaint();
+    }
 }
 
 void CVorl_ADVView::setActive(bool active) {
@@ -98,6 +104,7 @@ QImage CVorl_ADVView::bitmap() const {
 }
 
 void CVorl_ADVView::paintEvent(QPaintEvent*) {
+    stale_ = false;
     QPainter painter(this);
     painter.fillRect(rect(), active_ ? palette().highlight() : palette().mid());
     painter.save();

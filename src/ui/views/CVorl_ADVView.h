@@ -26,7 +26,10 @@ class CVorl_ADVView : public QWidget {
     ~CVorl_ADVView() override;
 
     Pane pane() const { return pane_; }
+    /// What the pane shows from its next painting on, which the owner asks for by repaintStale().
     void setContent(PaneContent content);
+    /// Paints now what the pane was given and has not painted yet.
+    void repaintStale();
     const PaneContent& content() const { return content_; }
     /// False for a table, a text or nothing.
     bool showsDiagram() const { return std::holds_alternative<Diagram>(content_); }
@@ -89,6 +92,7 @@ class CVorl_ADVView : public QWidget {
 
     Pane pane_;
     PaneContent content_;
+    bool stale_ = false;
     std::optional<CScreenUtils> geometry_;
     bool active_ = false;
     std::optional<SampleAxis> record_;
