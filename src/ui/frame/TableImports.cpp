@@ -52,12 +52,13 @@ void TableImports::import(const QStringList& paths) {
         return boxes_->refuse(&window_,
                               QStringLiteral("%1 is no text table.").arg(QFileInfo(paths.front()).fileName()));
     }
+    std::vector<std::string> names = previewTable(text).names;
     CImportDlg dialog(offerFor(tables, std::move(text)), &window_);
     dialog.setCheck([this](const TableImport& import) { return tryToRead(import); });
     if (dialog.exec() != QDialog::Accepted) {
         return report_(QString::fromLatin1(kCancelledReport));
     }
-    last_ = Layout{previewTable(readFile(tables.front()).text()).names, dialog.roles(), dialog.values()};
+    last_ = Layout{std::move(names), dialog.roles(), dialog.values()};
     append();
 }
 
