@@ -14,6 +14,7 @@
 #include "recipes/RecipeRun.h"
 #include "recipes/RunError.h"
 #include "ui/dialogs/CRecipeDlg.h"
+#include "ui/frame/Waiting.h"
 
 namespace vorlan {
 
@@ -91,6 +92,7 @@ void RecipeFiles::save() {
     }
     files_.setFolderOf(path);
     try {
+        const Waiting waiting(files_, "Writing %1 ...", path);
         writeFileAtomically(bytesOf(path), recipeOfProbe(document_, bytesOf(files_.documentName())));
     } catch (const FileError& error) {
         return boxes_->refuse(&window_, QString::fromStdString(utf8Text(error.what())));
@@ -108,6 +110,7 @@ void RecipeFiles::run(const QString& path) {
     const QString name = QFileInfo(path).fileName();
     Recipe recipe;
     try {
+        const Waiting waiting(files_, "Reading %1 ...", path);
         recipe = loadRecipe(bytesOf(path));
     } catch (const RunError& error) {
         return boxes_->refuse(&window_, QString::fromStdString(utf8Text(error.what())).trimmed());
@@ -135,6 +138,7 @@ void RecipeFiles::apply(Recipe recipe, const QString& name, const std::string& f
         document_.RunTogether(port, [&](CVorl_ADVDoc& copy) {
             RecipeRun run(copy, port, bytesOf(files_.documentName()), toolkitPictures, folders);
             run.apply(recipe, document_.GetPath());
+            port.status("Writing the files of " + name.toStdString() + " ...");
             run.outputs().commit(std::cout);
         });
         refusals = port.refusals();
