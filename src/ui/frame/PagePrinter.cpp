@@ -172,6 +172,9 @@ QString PagePrinter::print() {
     QPrinter printer(QPrinter::HighResolution);
     prepare(printer);
     PrintChoice choice = choices(PrintScope::Stage);
+    if (!document_.GetPath().empty()) {
+        choice.folder = QFileInfo(QFile::decodeName(document_.GetPath().c_str())).absolutePath();
+    }
     if (!boxes_->choosePrinter(&window_, printer, choice)) {
         return {};
     }

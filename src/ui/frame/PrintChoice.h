@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringList>
 #include <array>
 
@@ -12,6 +13,8 @@ enum class PrintScope : int { Stage, Probe, AllProbes };
 struct PrintChoice {
     PrintScope scope = PrintScope::Stage;
     std::array<int, 3> pages{};
+    /// Where a file is proposed in place of paper; empty leaves it to the platform.
+    QString folder = {};
 
     /// With mnemonics.
     QStringList texts() const {

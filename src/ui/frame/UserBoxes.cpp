@@ -1,9 +1,11 @@
 #include "ui/frame/UserBoxes.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
@@ -150,6 +152,11 @@ bool UserBoxes::choosePrinter(QWidget* parent, QPrinter& printer, PrintChoice& c
     } else {
         box->setWindowTitle(box->title());
         dialog.setOptionTabs({box});
+    }
+    // The platform proposes the home folder.
+    auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+    if (file != nullptr && !choice.folder.isEmpty()) {
+        file->setText(QDir(choice.folder).filePath(QFileInfo(file->text()).fileName()));
     }
     if (dialog.exec() != QDialog::Accepted) {
         return false;
