@@ -44,6 +44,14 @@ class CumulativeCounts {
                 i = end;
             }
         }
+        if (samples.GetScale() < 0.0) {  // the values fall where the integers rise
+            std::reverse(values_.begin(), values_.end());
+            const std::int64_t all = totals_.back();
+            std::reverse(totals_.begin(), totals_.end());
+            for (std::int64_t& total : totals_) {
+                total = all - total;
+            }
+        }
     }
 
     /// Number of samples x with lower <= x <= upper.

@@ -36,7 +36,7 @@ std::vector<std::int32_t> plainHistogram(const STimeSeries& series, int grades) 
 }
 
 TEST(Histogram, CountsEqualThePlainComparisons) {
-    for (const double scale : {0.001, 0.01, 0.1, 1.0}) {
+    for (const double scale : {0.001, 0.01, 0.1, 1.0, -0.1}) {
         for (const bool outlier : {false, true}) {
             for (const int samples : {2, 3, 500, 1001}) {
                 Numbers numbers(static_cast<std::uint32_t>(samples));
