@@ -1,6 +1,7 @@
 #include "analysis/Simulation.h"
 
 #include <cmath>
+#include <ctime>
 
 #include "analysis/ProbeMoments.h"
 #include "analysis/Stresses.h"
@@ -110,6 +111,10 @@ SAdvFile simulate(const SimulationParameters& parameters, std::uint64_t seed) {
     finishNewProbe(probe);
     file.probes.Add(std::move(probe));
     return file;
+}
+
+std::uint64_t seedOfClock() {
+    return static_cast<std::uint64_t>(std::time(nullptr));
 }
 
 void finishNewProbe(SAdvProbe& probe) {

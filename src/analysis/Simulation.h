@@ -75,6 +75,9 @@ double gaussianNumber(Random15& random, double m, double s);
 /// 0.001, marks 1, sampled and working tables, moments and stresses, default diagrams and the first stage's tab.
 SAdvFile simulate(const SimulationParameters& parameters, std::uint64_t seed);
 
+/// The seed of a record that nobody gave one: the seconds of the calendar.
+std::uint64_t seedOfClock();
+
 /// What a freshly made probe (simulated or imported) gets after its tables are filled: sample count and time axis,
 /// stresses, moments, the "Sampled" statistics, default diagrams, first tab.
 void finishNewProbe(SAdvProbe& probe);

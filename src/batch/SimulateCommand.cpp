@@ -1,5 +1,5 @@
-#include <chrono>
 
+#include "analysis/Simulation.h"
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
 #include "model/Index.h"
@@ -78,8 +78,7 @@ SimulationParameters parametersOf(const SimulateOptions& options, bool noise) {
 }
 
 std::uint64_t seedOf(const SimulateOptions& options) {
-    return options.seed ? *options.seed
-                        : static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+    return options.seed ? *options.seed : seedOfClock();
 }
 
 void addVelocityOptions(CLI::App& app, SimulateOptions& options) {

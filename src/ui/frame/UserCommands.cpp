@@ -3,10 +3,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <ctime>
 #include <new>
 #include <ostream>
 
+#include "analysis/Simulation.h"
 #include "app/CommandReports.h"
 #include "io/AtomicFile.h"
 #include "io/FileError.h"
@@ -184,7 +184,7 @@ void UserCommands::reportUnless(bool done, const char* otherwise) {
 void UserCommands::simulate() {
     CSimulateDlg dialog(SimulationParameters{}, &window_);
     if (accepted(dialog)) {
-        document_.SimulateTimeSeries(dialog.values(), seed_ ? seed_() : static_cast<std::uint64_t>(std::time(nullptr)));
+        document_.SimulateTimeSeries(dialog.values(), seed_ ? seed_() : seedOfClock());
     }
 }
 
