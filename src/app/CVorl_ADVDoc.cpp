@@ -43,6 +43,7 @@ Outcome CVorl_ADVDoc::Report(Outcome outcome, const Sentence& sentence) const {
     if (!running_) {
         port_->report(outcome == Outcome::Done        ? sentence()
                       : outcome == Outcome::Cancelled ? kCancelledReport
+                      : outcome == Outcome::Unchanged ? kUnchangedReport
                                                       : kRefusedReport);
     }
     return outcome;

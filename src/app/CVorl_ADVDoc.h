@@ -23,9 +23,9 @@
 
 namespace vorlan {
 
-/// How a command ended. Refused: it said why through the port. Cancelled: the user did not want it. In both cases the
-/// probe is bit for bit what it was.
-enum class Outcome { Done, Refused, Cancelled };
+/// How a command ended. Refused: it said why through the port. Cancelled: the user did not want it. Unchanged: there
+/// was nothing to do. In all of these cases the probe is bit for bit what it was.
+enum class Outcome { Done, Refused, Cancelled, Unchanged };
 
 /// What changed, for those who show it.
 enum class Change {

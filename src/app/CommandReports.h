@@ -12,6 +12,7 @@
 namespace vorlan {
 
 inline constexpr const char* kCancelledReport = "Cancelled: the record is as it was";
+inline constexpr const char* kUnchangedReport = "Nothing to do: the record is as it was";
 inline constexpr const char* kRefusedReport = "Not done: the record is as it was";
 /// After a change of the record whose done stages were not repeated.
 inline constexpr const char* kEarlierResultsReport = "Earlier results are of the record before";

@@ -106,7 +106,7 @@ Outcome CVorl_ADVDoc::FilterTimeSeries(const FilterSettings& settings) {
                 return Outcome::Done;
             }
             // At equality with a limit nothing happens and nothing is said.
-            return decision.refusals.empty() ? Outcome::Cancelled : Outcome::Refused;
+            return decision.refusals.empty() ? Outcome::Unchanged : Outcome::Refused;
         },
         [&] { return filtrationReport(settings); });
 }

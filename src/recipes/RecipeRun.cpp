@@ -145,7 +145,7 @@ void RecipeRun::applyStep(const RecipeStep& step, std::size_t number, const std:
     if (outcome == Outcome::Refused) {
         throw refusal(said ? "" : port_.context() + ": refused");
     }
-    if (outcome == Outcome::Cancelled) {
+    if (outcome == Outcome::Cancelled || outcome == Outcome::Unchanged) {
         port_.tell("nothing was changed");
     }
 }
