@@ -167,12 +167,16 @@ std::string momentsRow(const char* name, const Moments& m) {
                      numberText(m.kurtosis, digits).c_str());
 }
 
+std::string shown(double value) {
+    return withoutEmptySign(formatted("%g", value));
+}
+
 std::string resultsText(const SAdvProbe& probe) {
     const double* block = probe.resultBlock.data();
     const double rate = block[SAdvProbe::kDissipationRate];
     std::string text;
     if (probe.HasResults(SAdvProbe::kDissipationRate)) {
-        text += formatted("    Dissipation rate %g cm^2/s^3\n", rate);
+        text += "    Dissipation rate " + shown(rate) + " cm^2/s^3\n";
     }
     if (rate > 0.0) {
         text += formatted("    Kolmogorov's micro-scale %g cm, mean turbulent acceleration %g g\n",
@@ -180,11 +184,12 @@ std::string resultsText(const SAdvProbe& probe) {
     }
     const double* scales = block + SAdvProbe::kTimeScales;
     if (probe.HasResults(SAdvProbe::kTimeScales)) {
-        text += formatted("    Time scales %g, %g, %g s\n", scales[0], scales[1], scales[2]);
+        text += "    Time scales " + shown(scales[0]) + ", " + shown(scales[1]) + ", " + shown(scales[2]) + " s\n";
     }
     const double* integrals = block + SAdvProbe::kSpectrumIntegrals;
     if (probe.HasResults(SAdvProbe::kSpectrumIntegrals)) {
-        text += formatted("    Integrals of spectra %g, %g, %g (cm/s)^2\n", integrals[0], integrals[1], integrals[2]);
+        text += "    Integrals of spectra " + shown(integrals[0]) + ", " + shown(integrals[1]) + ", " +
+                shown(integrals[2]) + " (cm/s)^2\n";
     }
     return text;
 }

@@ -104,14 +104,15 @@ FlowDirections meanFlowDirections(const std::array<double, 3>& meanVelocity) {
 std::vector<std::string> probeInformation(const SAdvProbe& probe) {
     const FlowDirections directions = meanFlowDirections(meanVelocities(probe));
     const std::array<double, 3> position = probe.Position();
+    const auto shown = [](double value) { return numberText(value, 2); };
     return {
         "Current measuring point:",
         "Sampling Volume Coordinates:",
-        formatted("X = %.2f     Y = %.2f     Z = %.2f", position[0], position[1], position[2]),
+        "X = " + shown(position[0]) + "     Y = " + shown(position[1]) + "     Z = " + shown(position[2]),
         "Mean Flow Direction [deg]:",
-        formatted("Heading = %.2f", directions.heading),
-        formatted("Roll        = %.2f", directions.roll),
-        formatted("Pitch      = %.2f", directions.pitch),
+        "Heading = " + shown(directions.heading),
+        "Roll        = " + shown(directions.roll),
+        "Pitch      = " + shown(directions.pitch),
         "*Probe's XYZ coordinate system",
     };
 }

@@ -10,6 +10,10 @@ namespace vorlan {
 
 namespace {
 
+std::string shown(double value) {
+    return numberText(value, 6);
+}
+
 /// Exponent of the series' points between two positions, whichever is the larger.
 std::optional<double> fittedSlope(const PlotSeries& series, double from, double to) {
     const auto [lowest, highest] = std::minmax(from, to);
@@ -53,15 +57,15 @@ std::optional<ScalesSource> scalesSourceOf(Stage stage, Pane pane) {
 }
 
 std::string dissipationReadOut(const DissipationReading& reading, double rate) {
-    return reading.source == DissipationSource::Spectrum
-               ? formatted("Frequency = %f  Spectral dencity = %f  Dissipation rate %f", reading.x, reading.y, rate)
-               : formatted("Lag time = %f  Structure = %f  Dissipation rate %f", reading.x, reading.y, rate);
+    const bool spectrum = reading.source == DissipationSource::Spectrum;
+    return (spectrum ? "Frequency = " : "Lag time = ") + shown(reading.x) +
+           (spectrum ? "  Spectral dencity = " : "  Structure = ") + shown(reading.y) + "  Dissipation rate " +
+           shown(rate);
 }
 
 std::string rangeReadOut(const ScalesReading& reading) {
-    return reading.source == ScalesSource::Spectrum
-               ? formatted("Frequency: left = %f  right = %f", reading.from, reading.to)
-               : formatted("Lag time: left = %f  right = %f", reading.from, reading.to);
+    return (reading.source == ScalesSource::Spectrum ? "Frequency: left = " : "Lag time: left = ") +
+           shown(reading.from) + "  right = " + shown(reading.to);
 }
 
 double inertialExponent(DissipationSource source) {
