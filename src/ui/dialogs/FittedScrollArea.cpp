@@ -1,5 +1,6 @@
 #include "ui/dialogs/FittedScrollArea.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -16,6 +17,12 @@ FittedScrollArea::FittedScrollArea(QWidget* content, QSize beside, QWidget* pare
     // The window behind shows through.
     content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
+    // The platform follows the Tab key only: not mnemonics, nor a refusal that goes to its field.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && widget()->isAncestorOf(now)) {
+            ensureWidgetVisible(now);
+        }
+    });
 }
 
 QSize FittedScrollArea::sizeHint() const {
