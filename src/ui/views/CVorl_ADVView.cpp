@@ -250,6 +250,7 @@ void CVorl_ADVView::mouseReleaseEvent(QMouseEvent* event) {
             chooseInterval();
         } else if (click) {
             endDrag();
+            Q_EMIT cursorMoved(pane_, cursor_);  // in place of the interval
         } else {
             interval_.drag(geometry_->xValue(to));
             chooseInterval();
