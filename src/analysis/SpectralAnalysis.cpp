@@ -100,19 +100,4 @@ std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& p
     return {};
 }
 
-std::vector<std::string> spectrumOverflows(const SAdvProbe& probe) {
-    constexpr std::array<const char*, SAdvProbe::kComponents> names = {"Ux", "Uy", "Uz"};
-    std::vector<std::string> texts;
-    for (int c = 0; c < SAdvProbe::kComponents; ++c) {
-        const SArray& spectrum = probe.Series(c).spectrum;
-        const auto lost = std::count(spectrum.begin(), spectrum.end(), std::numeric_limits<std::int32_t>::min());
-        if (lost > 0) {
-            texts.push_back(formatted("%s: %d value%s above %.4g cannot be stored", names[asSize(c)], asInt(lost),
-                                      lost == 1 ? "" : "s",
-                                      std::numeric_limits<std::int32_t>::max() * spectrum.GetScale()));
-        }
-    }
-    return texts;
-}
-
 }  // namespace vorlan

@@ -34,7 +34,4 @@ bool truncationPointFits(int lags, int samples);
 /// done.
 std::string analyseSpectra(SAdvProbe& probe, const SpectralRun& run, Progress& progress);
 
-/// What of the stored spectra is missing, a text per component: "Uy: 20 values above 214.7 cannot be stored".
-std::vector<std::string> spectrumOverflows(const SAdvProbe& probe);
-
 }  // namespace vorlan

@@ -5,7 +5,8 @@
 
 #include "analysis/EditingAssessment.h"
 #include "analysis/Quadrants.h"
-#include "analysis/SpectralAnalysis.h"
+#include "analysis/SpectralSettings.h"
+#include "analysis/StorageOverflows.h"
 #include "model/Index.h"
 #include "model/Text.h"
 
@@ -30,6 +31,13 @@ std::string spectralRunText(const SAdvProbe& probe) {
     return formatted("%u lags (%g s), %s, %s", probe.spectralLags, probe.spectralLags * probe.samplingInterval,
                      windows.at(std::min<std::size_t>(probe.spectralWindow, windows.size() - 1)),
                      probe.spectralUnit == 1 ? "rad/s" : "Hz");
+}
+
+std::string joined(std::string text, const std::vector<std::string>& more) {
+    for (const std::string& sentence : more) {
+        text += ". " + sentence;
+    }
+    return text;
 }
 
 }  // namespace
@@ -74,15 +82,11 @@ std::string histogramsReport(const HistogramSettings& settings) {
 }
 
 std::string spectraReport(const SAdvProbe& probe) {
-    std::string text = "Spectra: " + spectralRunText(probe);
-    for (const std::string& overflow : spectrumOverflows(probe)) {
-        text += ". " + overflow;
-    }
-    return text;
+    return joined("Spectra: " + spectralRunText(probe), spectrumOverflows(probe));
 }
 
 std::string crossSpectraReport(const SAdvProbe& probe) {
-    return "Cross-spectra: " + spectralRunText(probe);
+    return joined("Cross-spectra: " + spectralRunText(probe), crossSpectrumOverflows(probe));
 }
 
 std::string quadrantsReport(const QuadrantSettings& settings, const SAdvProbe& probe) {

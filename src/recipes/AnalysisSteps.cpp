@@ -1,6 +1,7 @@
 // Steps of the stages after pre-processing.
 #include "analysis/Quadrants.h"
-#include "analysis/SpectralAnalysis.h"
+#include "analysis/SpectralSettings.h"
+#include "analysis/StorageOverflows.h"
 #include "model/RangeText.h"
 #include "recipes/RecipeSteps.h"
 #include "recipes/StepsOfCommands.h"
@@ -19,6 +20,12 @@ Outcome runDistributions(StepContext& context, const StepValues& values) {
     return context.refuses(refusalOf(settings)) ? Outcome::Refused : context.document.Distributions(settings);
 }
 
+void tellAll(StepContext& context, const std::vector<std::string>& texts) {
+    for (const std::string& text : texts) {
+        context.port.tell(text);
+    }
+}
+
 Outcome runSpectral(StepContext& context, const StepValues& values) {
     // The mode that is not used keeps its number.
     SpectralDialogValues settings = settingsOf(values, spectralSettingsOf(context.document.Settings()));
@@ -32,9 +39,7 @@ Outcome runSpectral(StepContext& context, const StepValues& values) {
     }
     const Outcome outcome = context.document.SpectralAnalysis(settings);
     if (outcome == Outcome::Done) {
-        for (const std::string& text : spectrumOverflows(context.document.Probe())) {
-            context.port.tell(text);
-        }
+        tellAll(context, spectrumOverflows(context.document.Probe()));
     }
     return outcome;
 }
@@ -44,7 +49,11 @@ std::string faultOfSpectral(const StepValues& values) {
 }
 
 Outcome runCrossSpectral(StepContext& context, const StepValues&) {
-    return context.document.CrossSpectralAnalysis();
+    const Outcome outcome = context.document.CrossSpectralAnalysis();
+    if (outcome == Outcome::Done) {
+        tellAll(context, crossSpectrumOverflows(context.document.Probe()));
+    }
+    return outcome;
 }
 
 Outcome runQuadrants(StepContext& context, const StepValues& values) {

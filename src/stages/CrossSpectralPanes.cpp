@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "analysis/SpectralScale.h"
+#include "analysis/StorageOverflows.h"
 #include "analysis/Stresses.h"
 #include "model/Index.h"
 #include "stages/DiagramParts.h"
@@ -48,6 +49,7 @@ PaneContent correlations(const PaneRequest& request, const SAdvProbe& probe) {
         diagram.plot.series.push_back(
             curve(std::move(values), SeriesX{start, probe.samplingInterval, {}}, pair, labelOf(pair, request.value)));
     }
+    diagram.notes = crossCovarianceOverflows(probe);
     return diagramOrMessage(std::move(diagram));
 }
 
@@ -121,16 +123,19 @@ PaneContent describeCrossSpectra(const PaneRequest& request, const SAdvProbe* pr
             if (request.value == PhysicalValue::Stresses) {
                 diagram.allowedScales = {ScaleType::Linear};
             }
+            diagram.notes = crossSpectrumOverflows(*probe);
             return diagramOrMessage(std::move(diagram));
         }
         case Pane::RightTop: {
             Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, columnsOf(probe->Coherence()));
+            diagram.notes = coherenceOverflows(*probe);
             return diagramOrMessage(std::move(diagram));
         }
         case Pane::RightBottom: {
             Diagram diagram = overFrequency(request, *probe, PhysicalValue::Velocities, columnsOf(probe->Phase()));
             drawAsPoints(diagram);
             markQuarters(diagram.frame);
+            diagram.notes = crossSpectrumOverflows(*probe);
             return diagramOrMessage(std::move(diagram));
         }
     }

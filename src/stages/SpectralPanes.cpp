@@ -1,7 +1,7 @@
 // Correlation functions, power spectra and structure functions of the velocity components, and the quantities read
 // off them.
-#include "analysis/SpectralAnalysis.h"
 #include "analysis/SpectralScale.h"
+#include "analysis/StorageOverflows.h"
 #include "model/Index.h"
 #include "stages/DiagramParts.h"
 #include "stages/StagePanes.h"
