@@ -1,6 +1,7 @@
 #include "plot/ColumnRuns.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/Index.h"
 
@@ -73,6 +74,9 @@ void extend(Run& run, int from, int to) {
     run.end = std::max(run.end, to > from ? to : from + 1);
 }
 
+// A column takes as long as so many rows.
+constexpr std::size_t kRowsOfAColumn = 10;
+
 // A line that comes down into its column and turns up where it enters: the painter leaves a stroke that is steeper than
 // this one pixel further down.
 constexpr int kGentleSlope = 4;
@@ -87,7 +91,8 @@ void turnAtEntry(Run& run, const Spot& before, const Spot& entry) {
 
 ColumnRuns columnRuns(const Polylines& lines, const Box& area) {
     ColumnRuns result;
-    RowJoiner rows(area, result.rows);
+    RowJoiner rows(area, result.boxes);
+    std::vector<Box> columns;
     for (const std::vector<Spot>& part : lines.parts) {
         for (std::size_t i = 0; i < part.size();) {
             const std::size_t entry = i;
@@ -111,8 +116,16 @@ ColumnRuns columnRuns(const Polylines& lines, const Box& area) {
                 }
             }
             rows.addColumn(x, run);
+            const Box column = Box{x, run.first, x + 1, run.end}.common(area);
+            if (column.width() > 0 && column.height() > 0) {
+                columns.push_back(column);
+            }
         }
         rows.close();
+    }
+    // Neighbours that have little in common are painted as they are.
+    if (result.boxes.size() > kRowsOfAColumn * columns.size()) {
+        result.boxes = std::move(columns);
     }
     return result;
 }

@@ -7,9 +7,9 @@
 namespace vorlan {
 
 /// The pixels of solid lines one pixel wide, as a raster painter sets them: in a dense line every pixel column is one
-/// unbroken run, so few rows of pixels cover what thousands of strokes would.
+/// unbroken run, so few boxes cover what thousands of strokes would.
 struct ColumnRuns {
-    std::vector<Box> rows;      ///< one pixel high, without overlap within a line
+    std::vector<Box> boxes;     ///< one pixel high or one wide, without overlap within a line
     std::vector<Line> bridges;  ///< strokes between columns that are not neighbours
 };
 

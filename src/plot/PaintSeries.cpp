@@ -203,14 +203,14 @@ void strokePolylines(QPainter& painter, const Polylines& lines) {
 }
 
 void fillColumnRuns(QPainter& painter, const ColumnRuns& runs, const QPen& pen) {
-    std::vector<QRect> rows;
-    rows.reserve(runs.rows.size());
-    for (const Box& box : runs.rows) {
-        rows.emplace_back(box.left, box.top, box.width(), box.height());
+    std::vector<QRect> boxes;
+    boxes.reserve(runs.boxes.size());
+    for (const Box& box : runs.boxes) {
+        boxes.emplace_back(box.left, box.top, box.width(), box.height());
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(pen.color());
-    painter.drawRects(rows.data(), asInt(rows.size()));
+    painter.drawRects(boxes.data(), asInt(boxes.size()));
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     for (const Line& bridge : runs.bridges) {
