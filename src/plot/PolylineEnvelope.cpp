@@ -52,12 +52,10 @@ class Envelope {
     const PixelScale& xPixels() const { return x_; }
     const PixelScale& yPixels() const { return y_; }
 
-    void addPoint(double x, double y) {
-        if (!y_.places(y) || !x_.places(x)) {
-            closeLine();
-            return;
-        }
-        const int offset = x_.offset(x);
+    void addPoint(double x, double y) { x_.places(x) && y_.places(y) ? addPlaced(x_.offset(x), y) : closeLine(); }
+    /// A point whose column is known.
+    void addPointOf(int offset, double y) { y_.places(y) ? addPlaced(offset, y) : closeLine(); }
+    void addPlaced(int offset, double y) {
         if (span_ && offset == offset_) {
             span_->add(y);
         } else {
@@ -142,6 +140,10 @@ void addEvenlySpaced(const PlotSeries& series, std::size_t from, std::size_t to,
         const std::optional<Span> span = placed ? spanOf(series, i, end, envelope.yPixels()) : std::optional<Span>();
         if (span && !envelope.isIn(offset)) {
             envelope.addColumn(offset, *span);
+        } else if (placed) {
+            for (std::size_t k = i; k < end; ++k) {
+                envelope.addPointOf(offset, series.y[k]);
+            }
         } else {
             for (std::size_t k = i; k < end; ++k) {
                 envelope.addPoint(series.x.at(k), series.y[k]);
