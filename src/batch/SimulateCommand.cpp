@@ -1,4 +1,3 @@
-
 #include "analysis/Simulation.h"
 #include "batch/Options.h"
 #include "batch/Subcommands.h"
