@@ -12,6 +12,14 @@ QPoint inPlot(CVorl_ADVView& view, double fraction) {
     return {g.originX + static_cast<int>(fraction * g.width), g.originY - g.height / 2};
 }
 
+QImage onScreen(const CVorl_ADVView& view) {
+    const QRect place(view.mapTo(view.window(), QPoint(0, 0)), view.size());
+    return view.screen()
+        ->grabWindow(view.window()->winId(), place.x(), place.y(), place.width(), place.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
 }  // namespace
 
 class FrameMouse : public QObject {
@@ -57,6 +65,7 @@ class FrameMouse : public QObject {
             QTest::mousePress(&view, Qt::LeftButton, {}, inPlot(view, from));
             QTest::mouseMove(&view, inPlot(view, (from + to) / 2));
             const QString during = driver.status();
+            QCoreApplication::processEvents();  // the rubber band is on the screen
             QTest::mouseRelease(&view, Qt::LeftButton, {}, inPlot(view, to));
             return during;
         };
@@ -74,6 +83,7 @@ class FrameMouse : public QObject {
         QCOMPARE(driver.document().Probe().WorkingSamples(), expected);
         QCOMPARE(driver.document().Probe().frameAttributes[0].GetAt(0).plotTitle,
                  std::string("Sampled Velocities (Zoom)"));
+        QTRY_COMPARE(onScreen(view), view.grab().toImage().convertToFormat(QImage::Format_RGB32));
 
         // A click is no clip; choosing zoom mode again keeps it.
         drag(0.5, 0.5);

@@ -41,7 +41,7 @@ void CVorl_ADVView::setContent(PaneContent content) {
 }
 
 void CVorl_ADVView::repaintStale() {
-    if (stale_) {
+    if (std::exchange(stale_, false)) {
         repaint();
     }
 }
@@ -104,7 +104,6 @@ QImage CVorl_ADVView::bitmap() const {
 }
 
 void CVorl_ADVView::paintEvent(QPaintEvent*) {
-    stale_ = false;
     QPainter painter(this);
     painter.fillRect(rect(), active_ ? palette().highlight() : palette().mid());
     painter.save();

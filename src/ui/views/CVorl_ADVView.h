@@ -28,7 +28,8 @@ class CVorl_ADVView : public QWidget {
     Pane pane() const { return pane_; }
     /// What the pane shows from its next painting on, which the owner asks for by repaintStale().
     void setContent(PaneContent content);
-    /// Paints now what the pane was given and has not painted yet.
+    /// Paints the whole pane if it was given something since it was asked last. What was painted in between may have
+    /// been a part, where a rubber band was.
     void repaintStale();
     const PaneContent& content() const { return content_; }
     /// False for a table, a text or nothing.
